@@ -1,0 +1,100 @@
+#include "analysis/modMaxProgib.h"
+
+#include <algorithm>
+
+#include "analysis/modTrelo.h"
+#include "platform/Arithmetic.h"
+#include "platform/Guard.h"
+
+namespace trelonit {
+
+namespace {
+
+/// Sum of real times unit force over the bars first to last of a force array.
+Real Work(const BoundedArray<double>& real, const BoundedArray<double>& unit, Long first,
+          Long last) {
+  Real sum;
+  for (Long bar = first; bar <= last; ++bar) {
+    sum += Real(real[bar]) * unit[bar];
+  }
+  return sum;
+}
+
+Real EndBarWork(const BoundedArray<double>& real, const BoundedArray<double>& unit) {
+  return Work(real, unit, real.LowerBound(), real.LowerBound()) +
+         Work(real, unit, real.UpperBound(), real.UpperBound());
+}
+
+Real MiddleBarWork(const BoundedArray<double>& real, const BoundedArray<double>& unit) {
+  return Work(real, unit, real.LowerBound() + 1, real.UpperBound() - 1);
+}
+
+Real AllBarWork(const BoundedArray<double>& real, const BoundedArray<double>& unit) {
+  return Work(real, unit, real.LowerBound(), real.UpperBound());
+}
+
+/// Sums of real times unit force by the length that the bars are taken with.
+struct WorkSums {
+  Real UpEnds, UpMiddle, DwnEnds, DwnMiddle, Verticals, Diagonals, SupportDiagonals;
+};
+
+WorkSums SumWork(const TreloData& data, const TreloResult& real, const TreloResult& unit) {
+  WorkSums sums;
+  // A failed unit run has no force arrays: its sums stay 0.
+  PassOver([&] { sums.UpEnds = EndBarWork(real.UpPoyasForce, unit.UpPoyasForce); });
+  PassOver([&] { sums.UpMiddle = MiddleBarWork(real.UpPoyasForce, unit.UpPoyasForce); });
+  if (data.TreloType == 1) {
+    PassOver([&] { sums.DwnEnds = EndBarWork(real.DwnPoyasForce, unit.DwnPoyasForce); });
+    PassOver([&] { sums.DwnMiddle = MiddleBarWork(real.DwnPoyasForce, unit.DwnPoyasForce); });
+  } else {
+    PassOver([&] { sums.DwnMiddle = AllBarWork(real.DwnPoyasForce, unit.DwnPoyasForce); });
+  }
+  PassOver([&] { sums.Verticals = AllBarWork(real.StoykaForce, unit.StoykaForce); });
+  PassOver([&] { sums.Diagonals = MiddleBarWork(real.RaskosForce, unit.RaskosForce); });
+  PassOver([&] { sums.SupportDiagonals = EndBarWork(real.RaskosForce, unit.RaskosForce); });
+  return sums;
+}
+
+/// Deflection in metres by the sum of N u l / (E A). A tonne is 9810 N; with cm2 and MPa that
+/// leaves 98.1.
+Real Deflection(const TreloData& data, const TreloResult& real, const CheckResult& check,
+                const WorkSums& sums, Real E) {
+  const auto term = [E](double length, double area, Real sum) {
+    return 98.1 * Real(length) / (area * E) * sum;
+  };
+  // Intended: the lengths are the same whatever the scheme, although a lower chord bar of scheme 4
+  // is 2d long and counts with d here.
+  return term(data.LenOporn, check.UpPoyas.Area, sums.UpEnds) +
+         term(real.LenPanel, check.UpPoyas.Area, sums.UpMiddle) +
+         term(data.LenOporn, check.DwnPoyas.Area, sums.DwnEnds) +
+         term(real.LenPanel, check.DwnPoyas.Area, sums.DwnMiddle) +
+         term(data.Hight, check.Stoyka.Area, sums.Verticals) +
+         term(real.LenRaskos, check.Raskos.Area, sums.Diagonals) +
+         term(real.LenOpornRaskos, check.OpornRaskos.Area, sums.SupportDiagonals);
+}
+
+}  // namespace
+
+double CalcProgib(const TreloData& data, const TreloResult& res, const CheckResult& check,
+                  bool upChord, double E, MessageService& messages) {
+  TreloData unitData = data;
+  const auto bounds = BoundsOfLoads(data.TreloType, data.PanelNum);
+  if (!bounds || !PassOver([&] { static_cast<LoadArrays&>(unitData) = ZeroLoads(*bounds); })) {
+    return 0;
+  }
+  BoundedArray<double>& pointLoads = upChord ? unitData.UpPForce : unitData.DwnPForce;
+
+  double greatest = 0;
+  for (Long joint = pointLoads.LowerBound(); joint <= pointLoads.UpperBound(); ++joint) {
+    pointLoads[joint] = 1;
+    const TreloResult unit = CalcTrelo(unitData, messages);
+    const WorkSums sums = SumWork(data, res, unit);
+    double deflection = 0;
+    PassOver([&] { deflection = Deflection(data, res, check, sums, E); });
+    greatest = joint == pointLoads.LowerBound() ? deflection : std::max(greatest, deflection);
+    pointLoads[joint] = 0;
+  }
+  return greatest;
+}
+
+}  // namespace trelonit

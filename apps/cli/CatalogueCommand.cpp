@@ -1,0 +1,113 @@
+#include <iostream>
+#include <optional>
+
+#include "apps/cli/Commands.h"
+#include "apps/cli/TextTable.h"
+#include "catalogue/CatalogueHealth.h"
+
+namespace trelonit::cli {
+
+namespace {
+
+using Row = std::vector<std::string>;
+
+/// The catalogue as the program has it in memory after its start; nothing when it did not start.
+std::optional<ProfileTypeArray> LoadedCatalogue() {
+  ConsoleSession session;
+  if (!session.Start()) {
+    return std::nullopt;
+  }
+  return session.Main().Model.ProfileTypes;
+}
+
+Row HeadRow() {
+  return {"Name", "B", "H", "t", "s", "r1", "r2", "A", "Jy", "Jz", "P", "Wy", "Wz", "y0", "z0"};
+}
+
+Row RecordRow(const ProfileRec& record) {
+  Row row{record.Name.Trimmed()};
+  for (const double value :
+       {record.B, record.H, record.t, record.s, record.r1, record.r2, record.A, record.Jy,
+        record.Jz, record.P, record.Wy, record.Wz, record.y0, record.z0}) {
+    row.push_back(NumberToText(value, {}));
+  }
+  return row;
+}
+
+/// By number or by name; 0 where there is none.
+Long FindStandard(const ProfileTypeArray& catalogue, const std::string& wanted) {
+  for (Long standard = 1; standard <= catalogue.UpperBound(); ++standard) {
+    if (std::to_string(standard) == wanted || catalogue[standard].Name.Trimmed() == wanted) {
+      return standard;
+    }
+  }
+  return 0;
+}
+
+}  // namespace
+
+Status RunCatalogueList() {
+  const auto catalogue = LoadedCatalogue();
+  if (!catalogue) {
+    return Status::Failed;
+  }
+  std::vector<Row> rows{{"Стандарт", "№", "Размеров"}};
+  for (Long standard = 1; standard <= catalogue->UpperBound(); ++standard) {
+    const ProfileType& type = (*catalogue)[standard];
+    rows.push_back({type.Name.Trimmed(), std::to_string(standard),
+                    std::to_string(type.Rec.UpperBound())});
+  }
+  return Print(TextTable(rows));
+}
+
+Status RunCatalogueShow(const CatalogueShowOptions& options) {
+  const auto catalogue = LoadedCatalogue();
+  if (!catalogue) {
+    return Status::Failed;
+  }
+  const Long standard = FindStandard(*catalogue, options.Standard);
+  if (standard == 0) {
+    std::cerr << "trelonit-cli: в каталоге нет стандарта «" << options.Standard
+              << "»; номера и названия показывает «catalogue list»\n";
+    return Status::Failed;
+  }
+  std::vector<Row> rows{HeadRow()};
+  for (const ProfileRec& record : (*catalogue)[standard].Rec) {
+    if (options.Size.empty() || record.Name == FixedText<15>(options.Size)) {
+      rows.push_back(RecordRow(record));
+    }
+  }
+  if (rows.size() == 1) {
+    std::cerr << "trelonit-cli: в стандарте «" << (*catalogue)[standard].Name.Trimmed()
+              << "» нет типоразмера «" << options.Size << "»\n";
+    return Status::Failed;
+  }
+  return Print((*catalogue)[standard].Name.Trimmed() + "\n" + TextTable(rows));
+}
+
+Status RunCatalogueVerify() {
+  const auto catalogue = LoadedCatalogue();
+  if (!catalogue) {
+    return Status::Failed;
+  }
+  Long records = 0;
+  for (const ProfileType& standard : *catalogue) {
+    records += standard.Rec.UpperBound();
+  }
+  const std::vector<Deviation> deviations = VerifyCatalogue(*catalogue);
+  std::string text;
+  if (!deviations.empty()) {
+    std::vector<Row> rows{{"Типоразмер", "№ стандарта", "Величина", "В каталоге", "По размерам",
+                           "Отклонение, %", "Допуск, %"}};
+    for (const Deviation& found : deviations) {
+      rows.push_back({found.Name, std::to_string(found.TypeIdx), found.Quantity,
+                      NumberToText(found.Stored, {}), FormatPlain(found.Computed, 3, {}),
+                      FormatPlain(found.Percent, 2, {}), FormatPlain(found.Tolerance, 2, {})});
+    }
+    text = TextTable(rows);
+  }
+  return Print(text + "Проверено типоразмеров: " + std::to_string(records) +
+               ", отклонений: " + std::to_string(deviations.size()) + "\n");
+}
+
+}  // namespace trelonit::cli

@@ -1,0 +1,107 @@
+#include "apps/cli/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iostream>
+
+#include "apps/cli/Commands.h"
+
+namespace trelonit::cli {
+
+namespace {
+
+/// The library's own words for the user, in Russian.
+void Translate(CLI::App& app) {
+  auto formatter = std::make_shared<CLI::Formatter>();
+  formatter->label("Usage", "Использование");
+  formatter->label("OPTIONS", "[КЛЮЧИ]");
+  formatter->label("SUBCOMMAND", "КОМАНДА");
+  formatter->label("SUBCOMMANDS", "КОМАНДЫ");
+  formatter->label("Positionals", "Аргументы");
+  formatter->label("Options", "Ключи");
+  formatter->label("Subcommands", "Команды");
+  formatter->label("REQUIRED", "обязательно");
+  formatter->label("TEXT", "ТЕКСТ");
+  formatter->column_width(28);
+  app.formatter(formatter);
+  app.set_help_flag("-h,--help", "показать эту справку");
+}
+
+/// One line on what is wrong with the command line.
+std::string Explain(const CLI::App& app, const CLI::ParseError& error) {
+  const auto extras = app.remaining(true);
+  if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr && !extras.empty()) {
+    return "лишний или неизвестный аргумент «" + extras.front() + "»";
+  }
+  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
+    return std::string("не хватает аргумента или команды (") + error.what() + ")";
+  }
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    return std::string("неверное число значений (") + error.what() + ")";
+  }
+  return std::string("неверная командная строка (") + error.what() + ")";
+}
+
+constexpr const char* version = "trelonit-cli " TRELONIT_VERSION;
+
+CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description) {
+  CLI::App* command = parent.add_subcommand(name, description);
+  Translate(*command);
+  command->set_version_flag("--version", version, "показать версию");
+  return command;
+}
+
+}  // namespace
+
+Status RunCommandLine(int argc, const char* const* argv) {
+  CLI::App app("Расчёт плоских статически определимых стальных стропильных ферм", "trelonit-cli");
+  Translate(app);
+  app.set_version_flag("--version", version, "показать версию");
+  app.require_subcommand(1);
+
+  std::function<Status()> run;
+
+  NewOptions newOptions;
+  CLI::App* create = AddCommand(app, "new", "новый проект с исходными данными по умолчанию");
+  create->add_option("-o,--output", newOptions.Output, "файл проекта (.tsav)")
+      ->required()
+      ->type_name("ФАЙЛ");
+  create->add_flag("-f,--force", newOptions.Force, "заменить существующий файл");
+  create->callback([&] { run = [&] { return RunNew(newOptions); }; });
+
+  CalcOptions calcOptions;
+  CLI::App* calc = AddCommand(app, "calc", "расчёт проекта: усилия и коэффициенты использования");
+  calc->add_option("project", calcOptions.Project, "файл проекта (.tsav)")
+      ->required()
+      ->type_name("ФАЙЛ");
+  CLI::Option* json = calc->add_flag("--json", calcOptions.Json, "вывод в формате JSON");
+  calc->add_flag("--bar-force", calcOptions.BarForce, "добавить в JSON таблицу BarForce")
+      ->needs(json);
+  calc->callback([&] { run = [&] { return RunCalc(calcOptions); }; });
+
+  CLI::App* catalogue = AddCommand(app, "catalogue", "каталог проката");
+  catalogue->require_subcommand(1);
+  AddCommand(*catalogue, "list", "стандарты каталога")->callback([&] { run = RunCatalogueList; });
+  CatalogueShowOptions showOptions;
+  CLI::App* show = AddCommand(*catalogue, "show", "типоразмеры стандарта");
+  show->add_option("standard", showOptions.Standard, "номер или название стандарта")
+      ->required()
+      ->type_name("СТАНДАРТ");
+  show->add_option("size", showOptions.Size, "обозначение типоразмера")->type_name("ТИПОРАЗМЕР");
+  show->callback([&] { run = [&] { return RunCatalogueShow(showOptions); }; });
+  AddCommand(*catalogue, "verify", "проверка A, Jy, Jz каждого типоразмера по его размерам")
+      ->callback([&] { run = RunCatalogueVerify; });
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::Success& success) {
+    app.exit(success);
+    return std::cout.flush() ? Status::Done : Status::Failed;
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "trelonit-cli: " << Explain(app, error) << "; справка: trelonit-cli --help\n";
+    return Status::WrongUsage;
+  }
+  return run();
+}
+
+}  // namespace trelonit::cli

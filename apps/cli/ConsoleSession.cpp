@@ -1,0 +1,57 @@
+#include "apps/cli/ConsoleSession.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace trelonit::cli {
+
+namespace {
+
+/// What a file dialog would give: the full path. The rules for its names do not see the short ones
+/// of a command line.
+std::string FullPath(const std::string& name) {
+  std::error_code code;
+  const std::filesystem::path full =
+      std::filesystem::absolute(std::u8string(name.begin(), name.end()), code);
+  if (code) {
+    return name;
+  }
+  const std::u8string text = full.u8string();
+  return {text.begin(), text.end()};
+}
+
+}  // namespace
+
+ConsoleSession::ConsoleSession(MessageAnswer toQuestions)
+    : messages_(std::cerr, toQuestions),
+      program_({messages_, dialogs_, clipboard_, settings_, registry_, automation_, shell_, clock_,
+                resources_, files_, SystemNumberLocale(), FindProgramFolder()},
+               {}) {}
+
+bool ConsoleSession::Start() {
+  Main().Form_Load();
+  return Messages().empty();
+}
+
+bool ConsoleSession::MetRuntimeError() const {
+  return std::any_of(Messages().begin(), Messages().end(), TellsRuntimeError);
+}
+
+void ConsoleSession::SetSaveName(const std::string& name) {
+  dialogs_.SetSaveName(FullPath(name));
+}
+
+void ConsoleSession::SetOpenName(const std::string& name) {
+  dialogs_.SetOpenName(FullPath(name));
+}
+
+Status Print(const std::string& text) {
+  std::cout << text << std::flush;
+  if (!std::cout) {
+    std::cerr << "trelonit-cli: не удалось записать результат в стандартный вывод\n";
+    return Status::Failed;
+  }
+  return Status::Done;
+}
+
+}  // namespace trelonit::cli

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <iostream>
+#include <string>
+
+#include "apps/Program.h"
+#include "platform/console/ConsoleServices.h"
+#include "resources/EmbeddedResources.h"
+
+namespace trelonit::cli {
+
+/// Exit status of the program.
+enum class Status : int { Done = 0, Failed = 1, WrongUsage = 2 };
+
+/// The program with console services: messages on standard error, dialogs answered by the names of
+/// the command line.
+class ConsoleSession {
+ public:
+  explicit ConsoleSession(MessageAnswer toQuestions = MessageAnswer::No);
+  ConsoleSession(const ConsoleSession&) = delete;
+  ConsoleSession& operator=(const ConsoleSession&) = delete;
+  ~ConsoleSession() = default;
+
+  /// Starts the program: catalogue and defaults. Returns whether all of it is there.
+  bool Start();
+
+  frmMain& Main() { return program_.Main(); }
+  const Program& TheProgram() const { return program_; }
+  const std::vector<Message>& Messages() const { return messages_.Shown(); }
+
+  /// Whether some routine has ended in its failure tail.
+  bool MetRuntimeError() const;
+
+  void SetSaveName(const std::string& name);
+  void SetOpenName(const std::string& name);
+
+ private:
+  ConsoleMessages messages_;
+  ConsoleDialogs dialogs_;
+  MemoryClipboard clipboard_;
+  MemorySettings settings_;
+  NoRegistry registry_;
+  NoAutomation automation_;
+  ConsoleShell shell_;
+  SystemClock clock_;
+  EmbeddedResources resources_;
+  DiskFiles files_;
+  Program program_;
+};
+
+/// Writes to standard output and makes sure that it arrived.
+Status Print(const std::string& text);
+
+}  // namespace trelonit::cli

@@ -1,0 +1,189 @@
+#include "apps/cli/ResultJson.h"
+
+#include <nlohmann/json.hpp>
+
+namespace trelonit::cli {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json ToJson(const BoundedArray<double>& values) {
+  Json list = Json::array();
+  for (const double value : values) {
+    list.push_back(value);
+  }
+  return list;
+}
+
+Json ToJson(const SquareTable<double>& table) {
+  Json rows = Json::array();
+  for (Long row = 1; row <= table.Size(); ++row) {
+    Json cells = Json::array();
+    for (Long column = 1; column <= table.Size(); ++column) {
+      cells.push_back(table(row, column));
+    }
+    rows.push_back(std::move(cells));
+  }
+  return rows;
+}
+
+Json ToJson(const TreloData& data) {
+  return {{"TreloType", data.TreloType},
+          {"LengthF", data.LengthF},
+          {"Hight", data.Hight},
+          {"LenOporn", data.LenOporn},
+          {"PanelNum", data.PanelNum},
+          {"UpPForce", ToJson(data.UpPForce)},
+          {"UpDistForce", ToJson(data.UpDistForce)},
+          {"DwnPForce", ToJson(data.DwnPForce)},
+          {"DwnDistForce", ToJson(data.DwnDistForce)},
+          {"UpPoyasBrace", data.UpPoyasBrace},
+          {"DownPoyasBrace", data.DownPoyasBrace}};
+}
+
+Json ToJson(const TreloResult& result, bool barForce) {
+  Json object{{"KnotNum", result.KnotNum},
+              {"AngleOporn", result.AngleOporn},
+              {"AngleRaskos", result.AngleRaskos},
+              {"LenPanel", result.LenPanel},
+              {"LenOpornRaskos", result.LenOpornRaskos},
+              {"LenRaskos", result.LenRaskos},
+              {"UpKnotLoad", ToJson(result.UpKnotLoad)},
+              {"DwnKnotLoad", ToJson(result.DwnKnotLoad)},
+              {"ReactLeft", result.ReactLeft},
+              {"ReactRight", result.ReactRight}};
+  if (barForce) {
+    object["BarForce"] = ToJson(result.BarForce);
+  }
+  object.update({{"UpPoyasForce", ToJson(result.UpPoyasForce)},
+                 {"DwnPoyasForce", ToJson(result.DwnPoyasForce)},
+                 {"RaskosForce", ToJson(result.RaskosForce)},
+                 {"StoykaForce", ToJson(result.StoykaForce)},
+                 {"Balanced", result.Balanced},
+                 {"SumLenUpPoyas", result.SumLenUpPoyas},
+                 {"SumLenDwnPoyas", result.SumLenDwnPoyas},
+                 {"SumLenOpornRaskos", result.SumLenOpornRaskos},
+                 {"SumLenRaskos", result.SumLenRaskos},
+                 {"SumLenStoyka", result.SumLenStoyka}});
+  return object;
+}
+
+Json ToJson(const ForceExtreme& force) {
+  return {{"Value", force.Value}, {"Index", force.Index}};
+}
+
+Json ToJson(const LimitFlex& limit) {
+  return {
+      {"Compress", limit.Compress}, {"Tension", limit.Tension}, {"Tension2", limit.Tension2}};
+}
+
+Json ToJson(const GroupCheck& group) {
+  return {{"AlphaX", group.AlphaX},
+          {"AlphaY", group.AlphaY},
+          {"FlexX", group.FlexX},
+          {"FlexY", group.FlexY},
+          {"FlexBarX", group.FlexBarX},
+          {"FlexBarY", group.FlexBarY},
+          {"PhiX", group.PhiX},
+          {"PhiY", group.PhiY},
+          {"Area", group.Area},
+          {"Jin", group.Jin},
+          {"Jout", group.Jout},
+          {"KStrength", group.KStrength},
+          {"KStabX", group.KStabX},
+          {"KStabY", group.KStabY},
+          {"KFlexX", group.KFlexX},
+          {"KFlexY", group.KFlexY},
+          {"LimitX", ToJson(group.LimitX)},
+          {"LimitY", ToJson(group.LimitY)},
+          {"NMax", ToJson(group.NMax)},
+          {"NComp", ToJson(group.NComp)},
+          {"LenX", group.LenX},
+          {"LenY", group.LenY},
+          {"KUserX", group.KUserX},
+          {"KUserY", group.KUserY}};
+}
+
+Json ToJson(const CheckResult& check) {
+  return {{"UpPoyas", ToJson(check.UpPoyas)},
+          {"DwnPoyas", ToJson(check.DwnPoyas)},
+          {"Stoyka", ToJson(check.Stoyka)},
+          {"Raskos", ToJson(check.Raskos)},
+          {"OpornRaskos", ToJson(check.OpornRaskos)},
+          {"Mass", check.Mass}};
+}
+
+Json ToJson(const ProfileRec& record) {
+  return {{"Name", record.Name.Trimmed()},
+          {"Type", record.Type.Trimmed()},
+          {"B", record.B},
+          {"H", record.H},
+          {"t", record.t},
+          {"s", record.s},
+          {"r1", record.r1},
+          {"r2", record.r2},
+          {"A", record.A},
+          {"Jy", record.Jy},
+          {"Jz", record.Jz},
+          {"P", record.P},
+          {"Wy", record.Wy},
+          {"Wz", record.Wz},
+          {"y0", record.y0},
+          {"z0", record.z0}};
+}
+
+Json ToJson(const SectionRec& section) {
+  return {{"TypeIdx", section.TypeIdx}, {"SizeIdx", section.SizeIdx},
+          {"Gdist", section.Gdist},     {"Paired", section.Paired},
+          {"Profile", ToJson(section.Profile)}, {"Layout", section.Layout}};
+}
+
+Json ToJson(const std::vector<Message>& messages) {
+  Json list = Json::array();
+  for (const Message& message : messages) {
+    list.push_back({{"Title", message.Title},
+                    {"Text", message.Text},
+                    {"Style", static_cast<int>(message.Style)}});
+  }
+  return list;
+}
+
+Json ToJson(const std::optional<ProgibResult>& progib) {
+  if (!progib) {
+    return nullptr;
+  }
+  return {
+      {"Value", progib->Value}, {"Limit", progib->Limit}, {"Satisfied", progib->Satisfied}};
+}
+
+std::string Dump(const Json& object) {
+  // A text that came out of a damaged file may be no valid UTF-8 any more.
+  return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace
+
+std::string CalcJson(const DesignModel& model, const ResultLists& lists,
+                     const std::vector<Message>& messages, bool barForce) {
+  Json sections = Json::array();
+  for (const SectionRec& section : model.ElementSection) {
+    sections.push_back(ToJson(section));
+  }
+  return Dump({{"TreloData", ToJson(model.TreloData)},
+               {"TreloResult", ToJson(model.TreloResult, barForce)},
+               {"CheckResult", ToJson(model.CheckData)},
+               {"ElementSection", std::move(sections)},
+               {"OwnWeightAdded", model.OwnWeightAdded},
+               {"OwnWeightPerMetre", model.OwnWeightPerMetre},
+               {"Progib", ToJson(lists.Progib)},
+               {"lstForces", lists.lstForces},
+               {"MSFlexGKoefUse", lists.MSFlexGKoefUse},
+               {"Messages", ToJson(messages)}});
+}
+
+std::string FailureJson(const std::vector<Message>& messages) {
+  return Dump({{"Messages", ToJson(messages)}});
+}
+
+}  // namespace trelonit::cli

@@ -1,0 +1,127 @@
+#include "checks/CheckFormulas.h"
+
+#include <cmath>
+
+#include "catalogue/SectionComposition.h"
+#include "platform/Arithmetic.h"
+
+namespace trelonit {
+
+namespace {
+
+/// Tonnes per cm2 to MPa.
+constexpr double tonnesPerCm2 = 98.1;
+
+constexpr Long layoutSingleAngle = 1;
+
+}  // namespace
+
+double CalcStrength(double N, double Area, double Ry, double Yc, double Gn) {
+  return Real(N) * Gn * tonnesPerCm2 / (Real(Area) * Ry * Yc);
+}
+
+double CalcStability(double N, double Phi, double Area, double Ry, double Yc, double Gn) {
+  return Real(N) * Gn * tonnesPerCm2 / (Real(Phi) * Area * Ry * Yc);
+}
+
+double CalcFlex(double Len, double Area, double J, double Mu) {
+  return Real(Mu) * Len * 100 / SquareRoot(Real(J) / Area);
+}
+
+double CalcFlexBar(double Flex, double Ry, double E) {
+  return Real(Flex) * SquareRoot(Real(Ry) / E);
+}
+
+double CalcPhi(double FlexBar, double Ry, double E) {
+  const Real x = FlexBar;
+  const Real ratio = Real(Ry) / E;
+  // Intended: the comparisons are strict, so that 2.5 and 4.5 themselves give 0.
+  if (0 < FlexBar && FlexBar < 2.5) {
+    return 1 - (0.073 - 5.53 * ratio) * x * SquareRoot(x);
+  }
+  if (2.5 < FlexBar && FlexBar < 4.5) {
+    return 1.47 - 13 * ratio - (0.371 - 27.3 * ratio) * x + (0.0275 - 5.53 * ratio) * x * x;
+  }
+  if (4.5 < FlexBar && FlexBar <= 35) {
+    return 332 / (x * x * (51 - x));
+  }
+  return FlexBar > 35 ? 0.017 : 0;
+}
+
+double CalcAlpha(double N, double Ry, double Area, double Phi, double Yc) {
+  const Real alpha = Real(N) * 10 * 9.81 / (Real(Phi) * Area * Ry * Yc);
+  return alpha > 1.0 ? Real(1) : alpha;
+}
+
+LimitFlex CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len, bool Dynamic,
+                        MessageService& messages) {
+  LimitFlex limit;
+  // Intended: the choice hangs on the layout, not on the group, and 50 is compared with metres.
+  if (Sec.Layout == layoutSingleAngle) {
+    limit.Compress = 210 - 60 * Real(Alpha);
+  } else if (0 < Len && Len <= 50) {
+    limit.Compress = 180 - 60 * Real(Alpha);
+  } else if (Len > 50) {
+    limit.Compress = 120;
+  } else {
+    messages.Show({.Title = warningTitle,
+                   .Text = "Ошибочное значение длинны стержня (<=0)!",
+                   .Style = MessageStyle::Critical});
+  }
+  limit.Tension = Dynamic ? 250 : 400;
+  limit.Tension2 = Dynamic ? 350 : 400;
+  return limit;
+}
+
+double CalcMass(const TreloResult& Res, double Density, const SectionArray& Sections) {
+  const auto area = [&Sections](SectionPlace place) {
+    return Real(ComposeSection(Sections[place]).Area);
+  };
+  const Real mass = (area(sectionUpPoyas) * Res.SumLenUpPoyas +
+                     area(sectionDwnPoyas) * Res.SumLenDwnPoyas +
+                     area(sectionRaskos) * Res.SumLenRaskos +
+                     area(sectionOpornRaskos) * Res.SumLenOpornRaskos +
+                     area(sectionStoyka) * Res.SumLenStoyka) *
+                    Density / 10000;
+  return mass > 0.0 ? mass : Real(0);
+}
+
+ForceExtreme MaxAbsForce(const BoundedArray<double>& Forces) {
+  ForceExtreme extreme{.Value = std::abs(Forces[1]), .Index = 1};
+  const Long last = Forces.UpperBound();
+  for (Long bar = 2; bar <= last; ++bar) {
+    if (std::abs(Forces[bar]) > extreme.Value) {
+      extreme = {.Value = std::abs(Forces[bar]), .Index = bar};
+    }
+  }
+  return extreme;
+}
+
+ForceExtreme MinForce(const BoundedArray<double>& Forces) {
+  ForceExtreme extreme{.Value = Forces[1], .Index = 1};
+  const Long last = Forces.UpperBound();
+  for (Long bar = 2; bar <= last; ++bar) {
+    if (Forces[bar] < extreme.Value) {
+      extreme = {.Value = Forces[bar], .Index = bar};
+    }
+  }
+  return extreme;
+}
+
+BoundedArray<double> StripEnds(const BoundedArray<double>& Forces) {
+  const Long last = Forces.UpperBound() - 2;
+  if (last < 1) {
+    RaiseSubscriptOutOfRange();
+  }
+  BoundedArray<double> stripped(1, last);
+  for (Long bar = 1; bar <= last; ++bar) {
+    stripped[bar] = Forces[bar + 1];
+  }
+  return stripped;
+}
+
+double MaxOf(double A, double B) {
+  return A > B ? A : B;
+}
+
+}  // namespace trelonit

@@ -1,0 +1,189 @@
+#include "checks/modCheckueStress.h"
+
+#include <array>
+#include <cmath>
+
+#include "catalogue/SectionComposition.h"
+#include "checks/CheckFormulas.h"
+#include "checks/EffectiveLengths.h"
+#include "platform/Arithmetic.h"
+#include "platform/Guard.h"
+
+namespace trelonit {
+
+namespace {
+
+/// One group of the record with its section in storage.
+struct GroupLink {
+  GroupCheck CheckResult::*Block;
+  SectionPlace Place;
+};
+
+/// The groups in the order of the record, in which messages and errors appear.
+constexpr std::array<GroupLink, 5> groups{{
+    {&CheckResult::UpPoyas, sectionUpPoyas},
+    {&CheckResult::DwnPoyas, sectionDwnPoyas},
+    {&CheckResult::Stoyka, sectionStoyka},
+    {&CheckResult::Raskos, sectionRaskos},
+    {&CheckResult::OpornRaskos, sectionOpornRaskos},
+}};
+
+constexpr Long schemeWithoutVerticals = 3;
+
+class Check {
+ public:
+  Check(const TreloData& data, const TreloResult& res, const CheckNumbers& numbers,
+        const SectionArray& sections, MessageService& messages)
+      : data_(data), res_(res), numbers_(numbers), sections_(sections), messages_(messages) {}
+
+  CheckResult Run() {
+    Compose();
+    PutMass();
+    PutForces();
+    PutStrength();
+    PutEffectiveLengths(check_, data_, res_);
+    PutSlenderness();
+    PutAlpha();
+    PutLimits();
+    PutUtilisation();
+    return check_;
+  }
+
+ private:
+  bool HasVerticals() const { return data_.TreloType != schemeWithoutVerticals; }
+  bool IsAbsent(const GroupLink& group) const {
+    return group.Place == sectionStoyka && !HasVerticals();
+  }
+
+  void Compose() {
+    for (const GroupLink& group : groups) {
+      const SectionProps props = ComposeSection(sections_[group.Place]);
+      GroupCheck& block = check_.*group.Block;
+      block.Area = props.Area;
+      block.Jin = props.Jin;
+      block.Jout = props.Jout;
+    }
+  }
+
+  void PutMass() {
+    check_.Mass = CalcMass(res_, numbers_.Density, sections_);
+    if (!(check_.Mass > 0)) {
+      messages_.Show({.Title = warningTitle,
+                      .Text = "Не правильно расчитана масса фермы !",
+                      .Style = MessageStyle::Critical});
+    }
+  }
+
+  static void PutExtremes(GroupCheck& block, const BoundedArray<double>& forces) {
+    block.NMax = MaxAbsForce(forces);
+    const ForceExtreme least = MinForce(forces);
+    block.NComp = least.Value < 0 ? least : ForceExtreme{};
+  }
+
+  void PutForces() {
+    PutExtremes(check_.UpPoyas, res_.UpPoyasForce);
+    PutExtremes(check_.DwnPoyas, res_.DwnPoyasForce);
+    if (HasVerticals()) {
+      PutExtremes(check_.Stoyka, res_.StoykaForce);
+    }
+    PutExtremes(check_.Raskos, StripEnds(res_.RaskosForce));
+    // Intended: the support diagonals are judged by the greatest force of all diagonals.
+    PutExtremes(check_.OpornRaskos, res_.RaskosForce);
+  }
+
+  void PutStrength() {
+    for (const GroupLink& group : groups) {
+      GroupCheck& block = check_.*group.Block;
+      if (!IsAbsent(group)) {
+        block.KStrength = CalcStrength(block.NMax.Value, block.Area, numbers_.Ry, numbers_.Yc,
+                                       numbers_.Gn);
+      }
+    }
+  }
+
+  void PutSlenderness() {
+    // The lengths have their length factors in them already.
+    constexpr double Mu = 1;
+    for (const GroupLink& group : groups) {
+      GroupCheck& block = check_.*group.Block;
+      if (!IsAbsent(group)) {
+        block.FlexX = CalcFlex(block.LenX, block.Area, block.Jin, Mu);
+        block.FlexY = CalcFlex(block.LenY, block.Area, block.Jout, Mu);
+      }
+      block.FlexBarX = CalcFlexBar(block.FlexX, numbers_.Ry, numbers_.E);
+      block.FlexBarY = CalcFlexBar(block.FlexY, numbers_.Ry, numbers_.E);
+      block.PhiX = CalcPhi(block.FlexBarX, numbers_.Ry, numbers_.E);
+      block.PhiY = CalcPhi(block.FlexBarY, numbers_.Ry, numbers_.E);
+    }
+  }
+
+  double Alpha(const GroupCheck& block, double phi) const {
+    if (!(phi > 0)) {
+      return 0;
+    }
+    return CalcAlpha(std::abs(block.NComp.Value), numbers_.Ry, block.Area, phi, numbers_.Yc);
+  }
+
+  void PutAlpha() {
+    for (const GroupLink& group : groups) {
+      GroupCheck& block = check_.*group.Block;
+      block.AlphaX = Alpha(block, block.PhiX);
+      block.AlphaY = Alpha(block, block.PhiY);
+    }
+  }
+
+  void PutLimits() {
+    // Without verticals their length 0 brings the message of the limit up twice in each run, once
+    // a plane; that is intended.
+    for (const GroupLink& group : groups) {
+      GroupCheck& block = check_.*group.Block;
+      const SectionRec& section = sections_[group.Place];
+      block.LimitX =
+          CalcLimitFlex(section, block.AlphaX, block.LenX, numbers_.Dynamic, messages_);
+      block.LimitY =
+          CalcLimitFlex(section, block.AlphaY, block.LenY, numbers_.Dynamic, messages_);
+    }
+  }
+
+  double Stability(const GroupCheck& block, double phi) const {
+    return CalcStability(std::abs(block.NComp.Value), phi, block.Area, numbers_.Ry, numbers_.Yc,
+                         numbers_.Gn);
+  }
+
+  void PutUtilisation() {
+    for (const GroupLink& group : groups) {
+      GroupCheck& block = check_.*group.Block;
+      const bool compressed = block.NComp.Value < 0;
+      if (compressed) {
+        block.KStabX = Stability(block, block.PhiX);
+        block.KStabY = Stability(block, block.PhiY);
+      }
+      block.KFlexX =
+          Real(block.FlexX) / (compressed ? block.LimitX.Compress : block.LimitX.Tension);
+      block.KFlexY =
+          Real(block.FlexY) / (compressed ? block.LimitY.Compress : block.LimitY.Tension);
+      block.KUserX = Real(block.FlexX) / numbers_.LimitUser;
+      block.KUserY = Real(block.FlexY) / numbers_.LimitUser;
+    }
+  }
+
+  const TreloData& data_;
+  const TreloResult& res_;
+  const CheckNumbers& numbers_;
+  const SectionArray& sections_;
+  MessageService& messages_;
+  CheckResult check_;
+};
+
+}  // namespace
+
+CheckResult CheckueStress(const TreloData& data, const TreloResult& res,
+                          const CheckNumbers& numbers, const SectionArray& sections,
+                          MessageService& messages) {
+  CheckResult result;
+  Guard(messages, warningTitle,
+        [&] { result = Check(data, res, numbers, sections, messages).Run(); });
+  return result;
+}
+
+}  // namespace trelonit

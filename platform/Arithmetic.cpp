@@ -1,0 +1,19 @@
+#include "platform/Arithmetic.h"
+
+#include "platform/RuntimeError.h"
+
+namespace trelonit {
+
+void RaiseOverflow() {
+  throw RuntimeError(ErrorNumber::Overflow);
+}
+
+void RaiseDivisionByZero() {
+  throw RuntimeError(ErrorNumber::DivisionByZero);
+}
+
+void RaiseInvalidProcedureCall() {
+  throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+}
+
+}  // namespace trelonit

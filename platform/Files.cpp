@@ -1,0 +1,233 @@
+#include "platform/Files.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "platform/RuntimeError.h"
+
+#ifdef _WIN32
+#include <io.h>
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace trelonit {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path NativePath(const std::string& path) {
+  if (path.empty()) {
+    throw RuntimeError(ErrorNumber::BadFileName);
+  }
+  return {std::u8string(path.begin(), path.end())};
+}
+
+RuntimeError FromErrorCode(const std::error_code& code) {
+  const auto is = [&code](std::errc condition) { return code == condition; };
+  if (is(std::errc::no_such_file_or_directory)) {
+    return RuntimeError(ErrorNumber::FileNotFound);
+  }
+  if (is(std::errc::permission_denied) || is(std::errc::operation_not_permitted) ||
+      is(std::errc::read_only_file_system)) {
+    return RuntimeError(ErrorNumber::PermissionDenied);
+  }
+  if (is(std::errc::no_space_on_device) || is(std::errc::file_too_large)) {
+    return RuntimeError(ErrorNumber::DiskFull);
+  }
+  if (is(std::errc::not_a_directory)) {
+    return RuntimeError(ErrorNumber::PathNotFound);
+  }
+  if (is(std::errc::is_a_directory) || is(std::errc::too_many_symbolic_link_levels)) {
+    return RuntimeError(ErrorNumber::PathFileAccess);
+  }
+  if (is(std::errc::filename_too_long) || is(std::errc::invalid_argument)) {
+    return RuntimeError(ErrorNumber::BadFileName);
+  }
+  return RuntimeError(ErrorNumber::DeviceIoError);
+}
+
+RuntimeError FromErrno() {
+  return FromErrorCode(std::error_code(errno, std::generic_category()));
+}
+
+/// Where the bytes finally go: the file that a symbolic link names, not the link.
+fs::path ResolveLinks(const fs::path& path) {
+  std::error_code code;
+  const fs::path target = fs::weakly_canonical(path, code);
+  return code ? path : target;
+}
+
+#ifdef _WIN32
+
+void WriteFlushed(const fs::path& path, std::string_view bytes) {
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  if (!file) {
+    throw RuntimeError(ErrorNumber::PathFileAccess);
+  }
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  if (!file) {
+    throw RuntimeError(ErrorNumber::DiskFull);
+  }
+}
+
+fs::path NameBeside(const fs::path& target) {
+  fs::path beside = target;
+  beside += ".new" + std::to_string(GetCurrentProcessId());
+  return beside;
+}
+
+#else
+
+/// Owns a descriptor until Close.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) {
+      ::close(number_);
+    }
+  }
+  int Number() const { return number_; }
+  int Close() {
+    const int number = number_;
+    number_ = -1;
+    return ::close(number);
+  }
+
+ private:
+  int number_;
+};
+
+void WriteFlushed(const fs::path& path, std::string_view bytes) {
+  // 0666 less the user's mask, as any program's new file.
+  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  if (file.Number() < 0) {
+    throw errno == ENOENT ? RuntimeError(ErrorNumber::PathNotFound) : FromErrno();
+  }
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(file.Number(), bytes.data(), bytes.size());
+    if (written < 0) {
+      if (errno == EINTR) {
+        continue;
+      }
+      throw FromErrno();
+    }
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  if (::fsync(file.Number()) != 0 && errno != EINVAL) {
+    throw FromErrno();
+  }
+  if (file.Close() != 0) {
+    throw FromErrno();
+  }
+}
+
+fs::path NameBeside(const fs::path& target) {
+  fs::path beside = target;
+  beside += ".new" + std::to_string(::getpid());
+  return beside;
+}
+
+#endif
+
+/// A file that is there but may not be written must not be replaced by way of its folder.
+void RequireWritable(const fs::path& target) {
+#ifdef _WIN32
+  const DWORD attributes = GetFileAttributesW(target.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    throw RuntimeError(ErrorNumber::PermissionDenied);
+  }
+#else
+  if (::access(target.c_str(), W_OK) != 0 && errno != ENOENT) {
+    throw FromErrno();
+  }
+#endif
+}
+
+}  // namespace
+
+bool DiskFiles::FileExists(const std::string& path) {
+  if (path.empty()) {
+    return false;
+  }
+  std::error_code code;
+  const fs::file_status status = fs::status(NativePath(path), code);
+  return fs::exists(status) && !fs::is_directory(status);
+}
+
+std::unique_ptr<std::istream> DiskFiles::OpenForReading(const std::string& path) {
+  const fs::path native = NativePath(path);
+  std::error_code code;
+  const fs::file_status status = fs::status(native, code);
+  if (!fs::exists(status)) {
+    throw code && code != std::errc::no_such_file_or_directory
+        ? FromErrorCode(code)
+        : RuntimeError(fs::exists(native.parent_path(), code) || native.parent_path().empty()
+                           ? ErrorNumber::FileNotFound
+                           : ErrorNumber::PathNotFound);
+  }
+  if (fs::is_directory(status)) {
+    throw RuntimeError(ErrorNumber::PathFileAccess);
+  }
+  errno = 0;
+  auto stream = std::make_unique<std::ifstream>(native, std::ios::binary);
+  if (!*stream) {
+    throw errno != 0 ? FromErrno() : RuntimeError(ErrorNumber::PathFileAccess);
+  }
+  return stream;
+}
+
+std::uint64_t DiskFiles::FileLength(const std::string& path) {
+  std::error_code code;
+  const std::uintmax_t length = fs::file_size(NativePath(path), code);
+  if (code) {
+    throw FromErrorCode(code);
+  }
+  return length;
+}
+
+void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) {
+  const fs::path target = ResolveLinks(NativePath(path));
+  std::error_code code;
+  const fs::file_status before = fs::status(target, code);
+  if (fs::is_directory(before)) {
+    throw RuntimeError(ErrorNumber::PathFileAccess);
+  }
+  RequireWritable(target);
+  const fs::path beside = NameBeside(target);
+  try {
+    WriteFlushed(beside, bytes);
+    if (fs::exists(before)) {
+      // A file system without permissions refuses this; the content matters more.
+      fs::permissions(beside, before.permissions(), code);
+    }
+    fs::rename(beside, target);
+  } catch (const RuntimeError&) {
+    fs::remove(beside, code);
+    throw;
+  } catch (const fs::filesystem_error& error) {
+    fs::remove(beside, code);
+    throw FromErrorCode(error.code());
+  }
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+  std::string path(folder);
+  if (path.empty() || (path.back() != '/' && path.back() != '\\')) {
+    path.push_back('/');
+  }
+  path.append(name);
+  return path;
+}
+
+}  // namespace trelonit

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <istream>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace trelonit {
+
+/// The file system as the logic sees it. Paths are UTF-8. All members raise RuntimeError: 52 for an
+/// empty name, 53 or 76 where there is no such file or folder, 70 or 75 where access is refused, 61
+/// on a full disk, 57 for what else the device says.
+class FileService {
+ public:
+  virtual ~FileService() = default;
+
+  virtual bool FileExists(const std::string& path) = 0;
+
+  /// A stream at the beginning of the file, for reading bytes.
+  virtual std::unique_ptr<std::istream> OpenForReading(const std::string& path) = 0;
+
+  /// Bytes in the file.
+  virtual std::uint64_t FileLength(const std::string& path) = 0;
+
+  /// Puts these bytes in the place of the file: written beside it, flushed, renamed over it. On a
+  /// failure the file that was there before stays whole.
+  virtual void ReplaceFile(const std::string& path, std::string_view bytes) = 0;
+};
+
+/// The real file system.
+class DiskFiles : public FileService {
+ public:
+  bool FileExists(const std::string& path) override;
+  std::unique_ptr<std::istream> OpenForReading(const std::string& path) override;
+  std::uint64_t FileLength(const std::string& path) override;
+  void ReplaceFile(const std::string& path, std::string_view bytes) override;
+};
+
+/// Folder and bare name with exactly one separator between them, whether or not the folder ends
+/// with one (a program started from a drive root has a folder that does).
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+}  // namespace trelonit

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace trelonit {
+
+/// Icon and buttons of a message box; the values are the platform's own and appear in the console
+/// program's output.
+enum class MessageStyle : int {
+  Plain = 0,
+  Critical = 16,
+  QuestionYesNo = 32 + 4,
+  Exclamation = 48,
+  Information = 64,
+};
+
+enum class MessageAnswer { Ok, Yes, No };
+
+/// A message box. An empty title stands for the application's own.
+struct Message {
+  std::string Title;
+  std::string Text;
+  MessageStyle Style = MessageStyle::Plain;
+
+  friend bool operator==(const Message&, const Message&) = default;
+};
+
+/// Shows message boxes one after the other and waits for the answer.
+class MessageService {
+ public:
+  virtual ~MessageService() = default;
+  virtual MessageAnswer Show(const Message& message) = 0;
+};
+
+/// The common form of a failure: " Err # ", number, " Discription : ", description, stop icon.
+Message ErrorMessage(std::string_view title, int number, std::string_view description);
+
+/// Whether the box tells a run-time error, as ErrorMessage makes it.
+bool TellsRuntimeError(const Message& message);
+
+}  // namespace trelonit

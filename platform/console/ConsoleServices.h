@@ -1,0 +1,94 @@
+#pragma once
+
+#include <map>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/Services.h"
+
+namespace trelonit {
+
+/// Message boxes as lines "title: text" on a stream; a question takes its safe answer, No, unless
+/// told otherwise. Keeps what it has shown.
+class ConsoleMessages : public MessageService {
+ public:
+  explicit ConsoleMessages(std::ostream& stream, MessageAnswer toQuestions = MessageAnswer::No)
+      : stream_(stream), toQuestions_(toQuestions) {}
+  MessageAnswer Show(const Message& message) override;
+  const std::vector<Message>& Shown() const { return shown_; }
+
+ private:
+  std::ostream& stream_;
+  MessageAnswer toQuestions_;
+  std::vector<Message> shown_;
+};
+
+/// Answers each dialog with the name from the command line once; asked again, it cancels.
+class ConsoleDialogs : public DialogService {
+ public:
+  void SetSaveName(std::string name) { saveName_ = std::move(name); }
+  void SetOpenName(std::string name) { openName_ = std::move(name); }
+  std::string AskSaveName(const FileDialogRequest& request) override;
+  std::string AskOpenName(const FileDialogRequest& request) override;
+
+ private:
+  std::string saveName_;
+  std::string openName_;
+};
+
+/// A clipboard of the process's own.
+class MemoryClipboard : public ClipboardService {
+ public:
+  bool HasText() override { return !text_.empty(); }
+  std::string Text() override { return text_; }
+  void SetText(const std::string& text) override { text_ = text; }
+
+ private:
+  std::string text_;
+};
+
+/// Settings that last as long as the process.
+class MemorySettings : public SettingsService {
+ public:
+  std::string Get(const std::string& section, const std::string& key,
+                  const std::string& fallback) override;
+  void Set(const std::string& section, const std::string& key, const std::string& value) override;
+
+ private:
+  std::map<std::pair<std::string, std::string>, std::string> values_;
+};
+
+/// A machine without a registry: no key opens.
+class NoRegistry : public RegistryService {
+ public:
+  std::unique_ptr<RegistryKey> Open(RegistryRoot, const std::string&) override { return nullptr; }
+};
+
+/// A machine without programs to automate: every name raises 429.
+class NoAutomation : public AutomationService {
+ public:
+  AutomationHandle Create(const std::string& programIdentifier) override;
+};
+
+/// A machine without a desktop: nothing can be started; the names are the system's.
+class ConsoleShell : public ShellService {
+ public:
+  void StartProgram(const std::string& path) override;
+  void OpenHelp(const std::string& path) override;
+  std::string ComputerName() override;
+  std::string UserName() override;
+};
+
+class SystemClock : public ClockService {
+ public:
+  ClockReading Now() override;
+};
+
+/// The folder for the catalogue files: the executable's own where it is writable or already holds
+/// them, otherwise the program's folder in the user's data folder (made if missing), so that an
+/// installed program works without rights.
+std::string FindProgramFolder();
+
+}  // namespace trelonit

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "analysis/modDatatypes.h"
+#include "platform/Message.h"
+#include "platform/NumberText.h"
+#include "workstation/DesignModel.h"
+
+namespace trelonit {
+
+/// Brings the arrays to the bounds of the scheme and panel count, keeping the values that still
+/// fit. Schemes beyond 5 leave them alone. Raises 9 for a bound below 0; the arrays are then as
+/// they were.
+void ReDimLoads(LoadArrays& loads, Long treloType, Long panelNum);
+
+/// Re-creates the arrays with zeros. Scheme 5 keeps its lower arrays as they are: intended, this
+/// routine and ReDimLoads differ there.
+void ClearLoads(LoadArrays& loads, Long treloType, Long panelNum);
+
+/// Adds this much, tonnes per metre, to every panel of both chords; negative to subtract.
+void AddToDistributedLoads(LoadArrays& loads, double perMetre);
+
+/// Takes own weight out of the master loads: the amount that is inside is subtracted. An amount
+/// that is not positive is told to the user and nothing is subtracted. Either way own weight counts
+/// as not added from then on.
+void WithdrawOwnWeight(DesignModel& model, const NumberLocale& locale, MessageService& messages);
+
+/// Highest joint and panel number of a chord, from 0; -1 for a scheme that has no table.
+Long LastKnotNum(bool upper, Long treloType, Long panelNum);
+Long LastPanelNum(bool upper, Long treloType, Long panelNum);
+
+}  // namespace trelonit

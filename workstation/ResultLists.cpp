@@ -1,0 +1,138 @@
+#include "workstation/ResultLists.h"
+
+#include <algorithm>
+
+#include "platform/Arithmetic.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr int forceDecimals = 4;
+constexpr int coefficientDecimals = 5;
+
+bool HasVerticals(Long treloType) {
+  return treloType == 1 || treloType == 2 || treloType == 4;
+}
+
+class ForceList {
+ public:
+  explicit ForceList(const NumberLocale& locale) : locale_(locale) {}
+
+  void Line(std::string text) { lines_.push_back(std::move(text)); }
+
+  void Bar(Long number, double force) {
+    Line(" Усилие в " + std::to_string(number) + "-ом стержне  " + Number(force) + " тонн");
+  }
+
+  void Tonnes(double value) { Line(Number(value) + " тонн"); }
+
+  /// One line per bar from first to last, numbered from 1.
+  void Bars(const BoundedArray<double>& forces, Long first, Long last) {
+    for (Long bar = first; bar <= last; ++bar) {
+      Bar(bar - first + 1, forces[bar]);
+    }
+  }
+
+  void AllBars(const BoundedArray<double>& forces) {
+    Bars(forces, forces.LowerBound(), forces.UpperBound());
+  }
+
+  std::vector<std::string> Take() { return std::move(lines_); }
+
+ private:
+  std::string Number(double value) const { return FormatShown(value, forceDecimals, locale_); }
+
+  const NumberLocale& locale_;
+  std::vector<std::string> lines_;
+};
+
+/// Rows of one group; the words are the group's own in the captions of the rows.
+void AddGroup(std::vector<Grid::Row>& rows, const std::string& header, const std::string& words,
+              const GroupCheck& check, const NumberLocale& locale) {
+  const auto add = [&](std::string caption, double value) {
+    rows.push_back({std::move(caption), FormatShown(value, coefficientDecimals, locale)});
+  };
+  rows.push_back({header, "***"});
+  if (check.KStrength > 0) {
+    add("Прочность " + words, check.KStrength);
+  }
+  if (check.KStabX > 0) {
+    add("Устойчивость " + words + " в плоскости фермы", check.KStabX);
+  }
+  if (check.KStabY > 0) {
+    add("Устойчивость " + words + " из плоскости фермы", check.KStabY);
+  }
+  add("Гибкость " + words + " ", std::max(check.KFlexX, check.KFlexY));
+  add("Гибкость " + words + " по предельной гибкости, заданной пользователем",
+      std::max(check.KUserX, check.KUserY));
+}
+
+}  // namespace
+
+std::vector<std::string> BuildForceList(Long treloType, const TreloResult& result, double mass,
+                                        const NumberLocale& locale) {
+  ForceList list(locale);
+  list.Line(" Усилия в стержнях фермы даны с лева на право");
+  list.Line(" ");
+  list.Line(" Верхний пояс :");
+  list.AllBars(result.UpPoyasForce);
+  list.Line(" ");
+  list.Line(" Нижний пояс :");
+  list.AllBars(result.DwnPoyasForce);
+  list.Line(" ");
+  list.Line(" Раскосы :");
+  const BoundedArray<double>& diagonals = result.RaskosForce;
+  list.Bars(diagonals, diagonals.LowerBound() + 1, diagonals.UpperBound() - 1);
+  list.Line(" ");
+  list.Line(" Опорные раскосы :");
+  list.Bar(1, diagonals[diagonals.LowerBound()]);
+  list.Bar(2, diagonals[diagonals.UpperBound()]);
+  if (HasVerticals(treloType)) {
+    list.Line(" ");
+    list.Line(" Стойки :");
+    list.AllBars(result.StoykaForce);
+  }
+  list.Line(" ");
+  // The wording stays even when own weight is among the loads and so in these reactions.
+  list.Line(" Реакции опор без учета собственной массы фермы:");
+  list.Tonnes(result.ReactLeft);
+  list.Tonnes(result.ReactRight);
+  list.Line(" ");
+  list.Line(" Теоретическая масса фермы:");
+  list.Tonnes(mass);
+  list.Line(" ");
+  // Intended: half the mass is added here whether or not own weight is among the loads already.
+  // The "c" is a Latin letter.
+  list.Line(" Реакции опор c учетом собственной массы фермы:");
+  list.Tonnes(Real(result.ReactLeft) + Real(mass) / 2);
+  list.Tonnes(Real(result.ReactRight) + Real(mass) / 2);
+  list.Line(" ");
+  return list.Take();
+}
+
+std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& check,
+                                            const NumberLocale& locale) {
+  std::vector<Grid::Row> rows;
+  AddGroup(rows, "*** Верхний пояс", "верхнего пояса", check.UpPoyas, locale);
+  AddGroup(rows, "*** Нижний пояс", "нижнего пояса", check.DwnPoyas, locale);
+  AddGroup(rows, "*** Раскосы", "раскосов", check.Raskos, locale);
+  // A Latin p in this header and a Latin C in the next are the established texts.
+  AddGroup(rows, "*** Опорные pаскосы", "опорных раскосов", check.OpornRaskos, locale);
+  if (HasVerticals(treloType)) {
+    AddGroup(rows, "*** Cтойки", "стоек", check.Stoyka, locale);
+  }
+  return rows;
+}
+
+std::vector<std::string> ProgibLines(const ProgibResult& progib, const NumberLocale& locale) {
+  const std::string value = FormatShown(progib.Value, coefficientDecimals, locale) + " м ";
+  const std::string limit = FormatShown(progib.Limit, coefficientDecimals, locale) + " м ";
+  if (progib.Satisfied) {
+    return {" ", "Максимальный прогиб : " + value, "Допустимый прогиб фермы : " + limit};
+  }
+  return {" ", "Не выполнено условие жесткости !!! ", "Максимальный прогиб фермы : " + value,
+          "Допустимый прогиб фермы : " + limit};
+}
+
+}  // namespace trelonit

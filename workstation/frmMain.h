@@ -1,0 +1,212 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "catalogue/SectionLayouts.h"
+#include "checks/modCheckueStress.h"
+#include "platform/Controls.h"
+#include "platform/Services.h"
+#include "workstation/DesignModel.h"
+#include "workstation/ElementGroups.h"
+#include "workstation/LoadPreview.h"
+#include "workstation/ProjectFile.h"
+#include "workstation/ResultLists.h"
+#include "workstation/RunningCaption.h"
+
+namespace trelonit {
+
+/// The one main form: the model of a design, its inputs and its commands. Controls are public
+/// state, handlers are named after control and event; nothing here knows a window.
+class frmMain {
+ public:
+  /// How the form reaches what it opens, set by whoever owns it all. A window that is not there
+  /// (yet) leaves its command disabled.
+  struct Openers {
+    std::function<void(const ResultLists&)> ShowKoeffOfUse;
+    std::function<void()> ShowDataManager;
+    std::function<void()> ShowParamerty;
+    std::function<void()> ShowSteel;
+    std::function<void()> ShowAbout;
+    std::function<void()> CalcAndSelect;
+    std::function<void()> ShowOtchet;
+    std::function<void()> EndProgram;
+  };
+
+  /// An entry of a menu, or a menu with entries.
+  struct MenuItem {
+    std::string Name;
+    std::string Caption;
+    bool Enabled = true;
+    std::function<void()> Click;
+    std::vector<MenuItem> Items;
+  };
+
+  frmMain(Services services, Openers openers);
+  frmMain(const frmMain&) = delete;
+  frmMain& operator=(const frmMain&) = delete;
+  ~frmMain() = default;
+
+  DesignModel Model;
+
+  // --- start, tabs, menus (frmMain.cpp)
+  void Form_Load();
+  void tabMain_Click(Integer previousTab);
+  std::vector<MenuItem> Menus();
+  void mnuProfile_Click();
+  void optio_Click();
+  void cmdSteelGet_Click();
+  void UserHelp_Click();
+  void Exit_Click();
+  void tmrRuningString_Timer();
+
+  // --- scheme and geometry (frmMainGeometry.cpp)
+  void imgTreloType_Click(Long scheme);
+  void cmbPanelNum_Click();
+  void txtLengthF_LostFocus();
+  void chkProgib_Click();
+  void WritePanelNumEven(Long first);
+  void WritePanelNumAll(Long first);
+  void WriteLenLim();
+  void WriteGdist();
+  /// The one gate that copies the geometry into the analysis input. What it refuses leaves the
+  /// input as it was and brings the first tab up.
+  void CheckGeometry();
+
+  // --- sections (frmMainSections.cpp)
+  void optElementSection_Click(Long option);
+  void imgProfileSecSelect_Click(Long layout);
+  void cmbTypeProfile_Click();
+  void cmbSectType_Click();
+  void cmbGdist_Click();
+  void FillProfileLists(Long layout);
+  /// Subscript of the last size with this name; 1 after a warning where there is none.
+  Long FindSizeIndex(Long typeIdx, const std::string& name);
+
+  // --- loads (frmMainLoads.cpp)
+  void ReDimLoadArrays();
+  void FillKnotListP(bool upper);
+  void FillKnotListQ(bool upper);
+  void RefreshLoadPreview();
+  void imgPForce_Click();
+  void imgDistForce_Click();
+  void cmbKnotNum_Click();
+  void tglUpPoyas_Click();
+  void tglDwnPoyas_Click();
+  void chkAllPanels_Click();
+  void cmdAddForce_Click();
+  void cmdClearLoads_Click();
+  void chkOwnWeight_Click();
+
+  // --- commands (frmMainCalculate.cpp)
+  void cmdCalculate_Click();
+  /// The numbers of the checks as they stand in the boxes.
+  CheckNumbers ReadCheckNumbers() const;
+
+  // --- project files (frmMainProject.cpp)
+  /// Both return whether the command was carried out.
+  bool SaveParam_Click();
+  bool Restore_Click();
+
+  // --- controls
+  Label Form;
+  TabControl tabMain;
+  BoundedArray<Label> StatusBarMain{1, 6};
+  Timer tmrRuningString;
+  Timer Timer1;
+
+  BoundedArray<Image> imgTreloType{1, 10};
+  Image imgMain;
+  TextBox txtLengthF;
+  TextBox txtHight;
+  TextBox txtLenOporn;
+  ComboBox cmbPanelNum;
+  OptionGroup optUpPoyas{4};
+  OptionGroup optDownPoyas{4};
+  CheckBox chkProgib;
+  ComboBox cmbLenlim;
+  OptionButton optBP;
+  OptionButton optNP;
+  TextBox txtProgib;
+  Label lblProgib;
+  Image imgLenLimoverflow;
+
+  OptionGroup optElementSection{groupCount};
+  BoundedArray<Image> imgProfileSecSelect{1, 11};
+  ComboBox cmbKatalog;
+  ComboBox cmbTypeProfile;
+  ComboBox cmbSectType;
+  ComboBox cmbGdist;
+  Image imgProfView;
+  BoundedArray<Image> imgProfileSec{1, groupCount};
+  BoundedArray<Label> lblProfilName{1, groupCount};
+  Line linUpPoyas;
+  Line linDownPoyas;
+  BoundedArray<Line> linRaskos{1, 2};
+  BoundedArray<Line> linStoyka{1, 3};
+  Line linOpornRaskos;
+
+  Image imgPForce;
+  Image imgDistForce;
+  Image imgLoadPreview;
+  OptionButton tglUpPoyas;
+  OptionButton tglDwnPoyas;
+  ComboBox cmbKnotNum;
+  TextBox txtForceVal;
+  CheckBox chkAllPanels;
+  CheckBox chkOwnWeight;
+  CheckBox chkDinloadEnable;
+  LoadPreview Preview;
+  /// Called after the schematic of the loads has changed.
+  std::function<void()> PreviewChanged;
+
+  Label lblStillName;
+  TextBox txtRy;
+  TextBox txtUsloviyaRabot;
+  TextBox txtNadegnost;
+  // Hidden values, edited in a window of their own.
+  TextBox txtDensitSteel;
+  TextBox txtModulYung;
+  TextBox txtLimitFlex;
+
+ private:
+  void SetStartDefaults();
+  void LoadCatalogue();
+  void ConnectEvents();
+
+  double Number(const TextBox& box) const;
+  Long PanelNum() const;
+  void FillPanelNum(Long first, Long step);
+  void RefreshHopt();
+  void ShowVerticals(bool shown);
+  void WarnProportions();
+
+  void SelectGroup(Long option);
+  Long SelectedGroup() const { return optElementSection.Selected(); }
+  SectionRec& SelectedSection();
+  void MarkLayout(Long layout);
+  void ShowLayout(const SectionLayout& layout);
+  void FillSizes(Long typeIdx);
+  void WithdrawOwnWeightOfOldSection();
+
+  void FillKnotList(bool upper);
+  void FillList(Long last);
+  void MarkLoadTool(bool nodal);
+  void BuildChord(bool upper);
+  void ColourChosenMark();
+  void ShowMarksOfShownChord();
+  void NotifyPreview();
+
+  void ShowProgib(const ProgibResult& progib);
+
+  ProjectRecord CollectProject() const;
+  void ApplyProject(const ProjectRecord& record);
+  void FillInputs(const ProjectRecord& record);
+
+  Services services_;
+  Openers openers_;
+  RunningCaption runningCaption_;
+};
+
+}  // namespace trelonit
