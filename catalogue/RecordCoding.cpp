@@ -68,7 +68,7 @@ Bits DecodeBits(std::string_view bytes, std::size_t offset) {
 }  // namespace
 
 std::array<char, profileRecordSize> EncodeProfileRecord(const ProfileRec& record) {
-  std::array<char, profileRecordSize> bytes;
+  std::array<char, profileRecordSize> bytes{};
   EncodeText(record.Name, bytes.data());
   EncodeText(record.Type, bytes.data() + designationSize);
   std::size_t offset = designationSize + standardNameSize;
@@ -92,7 +92,7 @@ ProfileRec DecodeProfileRecord(std::string_view bytes) {
 }
 
 std::array<char, indexRecordSize> EncodeIndexRecord(const IndexRec& record) {
-  std::array<char, indexRecordSize> bytes;
+  std::array<char, indexRecordSize> bytes{};
   EncodeText(record.Name, bytes.data());
   EncodeBits(static_cast<std::uint32_t>(record.FirstNum), bytes.data() + standardNameSize);
   EncodeBits(static_cast<std::uint32_t>(record.LastNum),

@@ -79,10 +79,13 @@ struct Turn {
     const Vector incoming = corner.Place - previous.Place;
     const Vector outgoing = next.Place - corner.Place;
     SideLength = Length(incoming);
+    const Real nextLength = Length(outgoing);
+    RequireDrawable(SideLength > 0 && nextLength > 0);
     In = 1 / SideLength * incoming;
-    Out = 1 / Length(outgoing) * outgoing;
+    Out = 1 / nextLength * outgoing;
     const Real sine = In.u * Out.w - In.w * Out.u;
     const Real cosine = In.u * Out.u + In.w * Out.w;
+    RequireDrawable(1 + cosine > 0);
     Angle = std::atan2(static_cast<double>(sine), static_cast<double>(cosine));
     // The tangent of half the turn, without the loss that comes with computing the angle first.
     TangentLength = corner.Radius * Magnitude(sine) / (1 + cosine);

@@ -41,9 +41,9 @@ AreaIntegrals operator-(const AreaIntegrals& whole, const AreaIntegrals& hole);
 ///   A = ∮ y dz,  Sz = 1/2 ∮ y^2 dz,  Jz = 1/3 ∮ y^3 dz
 /// (and the same with z and -y in place of y and z), which have a closed form on a straight line
 /// and on a circular arc alike. So the result is exact: nothing is cut into pieces.
-/// Raises 5 for an outline that cannot be drawn: fewer than three corners, a negative radius, a
-/// side that is too short for the arcs at its ends; 11 where it turns back on itself or two corners
-/// coincide, 6 beyond the range of Double.
+/// Raises 5 for an outline that cannot be drawn: fewer than three corners, two corners in one
+/// place, a side that turns straight back, a negative radius, a side that is too short for the arcs
+/// at its ends; 6 beyond the range of Double.
 AreaIntegrals Integrate(const Outline& outline);
 
 /// The figures of a section as the tables print them.

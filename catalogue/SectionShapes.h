@@ -7,9 +7,9 @@ namespace trelonit {
 
 // The rolled and bent shapes from the nominal dimensions of a record (B, H, t, s, r1, r2 in mm),
 // with all their fillets. The flange's outer face lies on z = 0, the back of a web or of a long leg
-// on y = 0, symmetrical shapes stand symmetrically about y = 0. All raise a run-time error (5, 6 or
-// 11) for dimensions that make no such section: one that is not above 0, a wall that leaves no room
-// for the other, a fillet that does not fit.
+// on y = 0; I sections and tees stand symmetrically about y = 0, tubes about both axes. All raise 5
+// for dimensions that make no such section: one that is not above 0, a wall that leaves no room for
+// the other, a fillet that does not fit; 6 beyond the range of Double.
 
 /// Angle: horizontal leg B by t, vertical leg H by s, fillet r1, edges of the legs r2.
 SectionFigures AngleSection(const ProfileRec& dimensions);

@@ -28,7 +28,7 @@ struct FigureRule {
 };
 
 struct StandardRule {
-  /// Raises a run-time error (5, 6 or 11) for dimensions that make no section.
+  /// Raises 5 for dimensions that make no section, 6 beyond the range of Double.
   ExpectedFigures (*Compute)(const ProfileRec& record);
   FigureRule A;
   FigureRule Jy;

@@ -85,8 +85,8 @@ inline std::vector<double> Values(const BoundedArray<double>& array) {
 /// Reactions and bar forces in one row: chords, diagonals, verticals.
 inline std::vector<double> AllForces(const TreloResult& result) {
   std::vector<double> forces{result.ReactLeft, result.ReactRight};
-  for (const auto* group : {&result.UpPoyasForce, &result.DwnPoyasForce, &result.RaskosForce,
-                            &result.StoykaForce}) {
+  for (const auto* group :
+       {&result.UpPoyasForce, &result.DwnPoyasForce, &result.RaskosForce, &result.StoykaForce}) {
     forces.insert(forces.end(), group->begin(), group->end());
   }
   return forces;

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <rapidcheck.h>
-
 #include <algorithm>
+#include <rapidcheck.h>
 #include <vector>
 
 #include "tests/analysis/Designs.h"
@@ -21,8 +20,8 @@ inline double PickBetween(double low, double high) {
 inline void PickLoads(BoundedArray<double>& loads) {
   const auto count = static_cast<std::size_t>(loads.end() - loads.begin());
   const auto thousandths = *rc::gen::container<std::vector<int>>(
-      count, rc::gen::weightedOneOf<int>(
-                 {{1, rc::gen::just(0)}, {4, rc::gen::inRange(-20000, 20001)}}));
+      count,
+      rc::gen::weightedOneOf<int>({{1, rc::gen::just(0)}, {4, rc::gen::inRange(-20000, 20001)}}));
   std::transform(thousandths.begin(), thousandths.end(), loads.begin(),
                  [](int value) { return value / 1000.0; });
 }
