@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <utility>
 
 #include "catalogue/StandardFigures.h"
 #include "platform/RuntimeError.h"
@@ -63,7 +63,7 @@ class StandardCheck {
         const Real stored = Finite(record.*figure.Stored);
         const Real low = expected.Low.*figure.Computed;
         const Real high = expected.High.*figure.Computed;
-        const Real computed = std::clamp<double>(stored, low, high);
+        const Real computed = std::max<double>(low, std::min<double>(stored, high));
         const Real difference = stored - computed;
         const Real allowance = (rule.*figure.Rule).Allowance(computed);
         if (Magnitude(difference) > allowance) {

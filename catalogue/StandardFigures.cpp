@@ -67,7 +67,7 @@ ExpectedFigures Tube30245of94(const ProfileRec& record) {
 }
 
 /// GOST 30245-2003: the outer radius grows with the wall, and the published moments of inertia
-/// leave out the own inertia of the two flat walls parallel to the axis (up to 1.3 % for narrow
+/// leave out the own inertia of the two flat walls parallel to the axis (up to 1.4 % for narrow
 /// thick sections).
 ExpectedFigures Tube30245of2003(const ProfileRec& record) {
   constexpr double lastThinWall = 6;

@@ -29,7 +29,7 @@ struct FigureRule {
 
 struct StandardRule {
   /// Raises 5 for dimensions that make no section, 6 beyond the range of Double.
-  ExpectedFigures (*Compute)(const ProfileRec& record);
+  ExpectedFigures (*Compute)(const ProfileRec& record) = nullptr;
   FigureRule A;
   FigureRule Jy;
   FigureRule Jz;

@@ -1,11 +1,12 @@
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
-#include <map>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "catalogue/CatalogueHealth.h"

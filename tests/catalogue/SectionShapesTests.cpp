@@ -1,10 +1,12 @@
 #include <cmath>
+#include <cstddef>
 #include <functional>
 #include <gtest/gtest.h>
 #include <limits>
 #include <numbers>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
+#include <utility>
 #include <vector>
 
 #include "catalogue/SectionShapes.h"

@@ -119,7 +119,8 @@ TEST(TextToNumber, ReadsTheEndsOfTheRange) {
 TEST(TextToNumber, RaisesOverflowForANumberBeyondTheRangeHoweverItIsWritten) {
   for (const std::string& text :
        {std::string("1E309"), std::string("-1E309"), std::string("1.8E308"),
-        std::string("1E+99999999999999999999"), "1" + Zeros(400), "1" + Zeros(400) + ".5",
+        std::string("1E+99999999999999999999"), std::string("12E9223372036854775807"),
+        std::string("12E2147483647"), "1" + Zeros(400), "1" + Zeros(400) + ".5",
         "9" + Zeros(330) + "E-5", std::string("0.1E999"), std::string(".5E400"),
         "0." + Zeros(20) + "1E+500"}) {
     EXPECT_EQ(ErrorOf([&] { TextToNumber(text, PointLocale()); }), 6) << text;

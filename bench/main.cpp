@@ -1,0 +1,205 @@
+// Measures what the program promises and prints one table: the figure, its limit, whether it is
+// kept. Times of different things stand in one run side by side, because machines differ.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <iomanip>
+#include <iostream>
+#include <map>
+#include <string>
+
+#include "analysis/modMaxProgib.h"
+#include "analysis/modTrelo.h"
+#include "bench/Designs.h"
+#include "bench/ProcessCost.h"
+#include "catalogue/modProfileData.h"
+
+namespace {
+
+using namespace trelonit;
+
+/// What any solver has to pay: arrays of the sizes of this result allocated, zero-filled, copied.
+struct ArraysOnly {
+  BoundedArray<double> UpKnotLoad, DwnKnotLoad, UpPoyas, DwnPoyas, Raskos, Stoyka;
+  SquareTable<double> BarForce;
+
+  explicit ArraysOnly(const TreloResult& sizes)
+      : UpKnotLoad(Like(sizes.UpKnotLoad)),
+        DwnKnotLoad(Like(sizes.DwnKnotLoad)),
+        UpPoyas(Like(sizes.UpPoyasForce)),
+        DwnPoyas(Like(sizes.DwnPoyasForce)),
+        Raskos(Like(sizes.RaskosForce)),
+        Stoyka(Like(sizes.StoykaForce)),
+        BarForce(sizes.KnotNum) {}
+
+  static BoundedArray<double> Like(const BoundedArray<double>& array) {
+    return {array.LowerBound(), array.UpperBound()};
+  }
+};
+
+void Arrays(benchmark::State& state, Long scheme) {
+  bench::World world;
+  const TreloResult sizes =
+      CalcTrelo(bench::LoadedTruss(scheme, bench::largestPanelNum), world.Messages);
+  for (auto _ : state) {
+    ArraysOnly arrays(sizes);
+    benchmark::DoNotOptimize(arrays);
+    ArraysOnly copy = arrays;
+    benchmark::DoNotOptimize(copy);
+  }
+}
+
+void Solver(benchmark::State& state, Long scheme) {
+  bench::World world;
+  const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
+  for (auto _ : state) {
+    TreloResult result = CalcTrelo(data, world.Messages);
+    benchmark::DoNotOptimize(result);
+  }
+}
+
+void MemberCheck(benchmark::State& state) {
+  bench::World world;
+  const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
+  const SectionArray sections = bench::PairedAngles(catalogue);
+  const TreloData data = bench::LoadedTruss(1, bench::largestPanelNum);
+  const TreloResult result = CalcTrelo(data, world.Messages);
+  for (auto _ : state) {
+    CheckResult check =
+        CheckueStress(data, result, bench::OrdinarySteel(), sections, world.Messages);
+    benchmark::DoNotOptimize(check);
+  }
+}
+
+/// The unit runs alone, as the deflection makes them: one joint of the upper chord after another.
+void UnitRuns(benchmark::State& state, Long scheme) {
+  bench::World world;
+  TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
+  static_cast<LoadArrays&>(data) =
+      ZeroLoads(*BoundsOfLoads(scheme, bench::largestPanelNum));
+  for (auto _ : state) {
+    for (Long joint = 0; joint <= bench::largestPanelNum; ++joint) {
+      data.UpPForce[joint] = 1;
+      TreloResult result = CalcTrelo(data, world.Messages);
+      benchmark::DoNotOptimize(result);
+      data.UpPForce[joint] = 0;
+    }
+  }
+}
+
+void Deflection(benchmark::State& state, Long scheme) {
+  bench::World world;
+  const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
+  const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
+  const TreloResult result = CalcTrelo(data, world.Messages);
+  const CheckNumbers numbers = bench::OrdinarySteel();
+  const CheckResult check =
+      CheckueStress(data, result, numbers, bench::PairedAngles(catalogue), world.Messages);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(
+        CalcProgib(data, result, check, true, numbers.E, world.Messages));
+  }
+}
+
+void CatalogueLoad(benchmark::State& state) {
+  bench::World world;
+  const Services services = world.Bundle();
+  LoadProfileTypes(services);  // unpacks the files
+  for (auto _ : state) {
+    ProfileTypeArray catalogue = LoadProfileTypes(services);
+    benchmark::DoNotOptimize(catalogue);
+  }
+}
+
+/// Keeps the smallest time of each name, in nanoseconds: what the machine's other work adds is not
+/// the program's.
+class SmallestTimes : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context&) override { return true; }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration || run.error_occurred) {
+        continue;
+      }
+      const double nanoseconds =
+          run.cpu_accumulated_time / static_cast<double>(run.iterations) * 1e9;
+      const auto [place, fresh] = times_.emplace(run.run_name.function_name, nanoseconds);
+      if (!fresh) {
+        place->second = std::min(place->second, nanoseconds);
+      }
+    }
+  }
+  double operator[](const std::string& name) const { return times_.at(name); }
+
+ private:
+  std::map<std::string, double> times_;
+};
+
+std::string Name(const char* what, Long scheme) {
+  return what + std::to_string(scheme);
+}
+
+void Register() {
+  const auto add = [](const std::string& name, auto&&... arguments) {
+    benchmark::RegisterBenchmark(name.c_str(), arguments...)->Repetitions(5)->MinTime(0.05);
+  };
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    add(Name("Arrays", scheme), Arrays, scheme);
+    add(Name("Solver", scheme), Solver, scheme);
+    add(Name("UnitRuns", scheme), UnitRuns, scheme);
+    add(Name("Deflection", scheme), Deflection, scheme);
+  }
+  add("MemberCheck", MemberCheck);
+  add("CatalogueLoad", CatalogueLoad);
+}
+
+class Table {
+ public:
+  void Row(const std::string& what, double figure, double limit, const std::string& unit) {
+    const bool kept = figure <= limit;
+    allKept_ = allKept_ && kept;
+    std::cout << std::left << std::setw(58) << what << std::right << std::fixed
+              << std::setprecision(2) << std::setw(9) << figure << " " << std::left << std::setw(4)
+              << unit << "limit " << std::setprecision(1) << std::setw(6) << limit
+              << (kept ? "kept" : "EXCEEDED") << '\n';
+  }
+  bool AllKept() const { return allKept_; }
+
+ private:
+  bool allKept_ = true;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  Register();
+  SmallestTimes times;
+  benchmark::RunSpecifiedBenchmarks(&times);
+
+  Table table;
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    table.Row("analysis n = 30, scheme " + std::to_string(scheme) + " (" +
+                  FormatPlain(times[Name("Solver", scheme)] / 1000, 2, {}) +
+                  " us) / arrays of its sizes",
+              times[Name("Solver", scheme)] / times[Name("Arrays", scheme)], 3, "x");
+  }
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    table.Row("deflection n = 30, scheme " + std::to_string(scheme) + " / its unit runs",
+              times[Name("Deflection", scheme)] / times[Name("UnitRuns", scheme)], 1.3, "x");
+  }
+  table.Row("member check n = 30", times["MemberCheck"] / 1e3, 1.5, "us");
+  table.Row("loading the catalogue", times["CatalogueLoad"] / 1e6, 3, "ms");
+
+  bench::ProcessCost best{1e9, 0};
+  for (int run = 0; run < 20; ++run) {
+    const bench::ProcessCost cost =
+        bench::RunProcess({TRELONIT_CLI, "calc", EXAMPLES_FOLDER "/scheme1-24m.tsav"});
+    best.Milliseconds = std::min(best.Milliseconds, cost.Milliseconds);
+    best.Megabytes = std::max(best.Megabytes, cost.Megabytes);
+  }
+  table.Row("trelonit-cli calc, whole process", best.Milliseconds, 15, "ms");
+  table.Row("trelonit-cli calc, peak memory", best.Megabytes, 20, "MB");
+  return table.AllKept() ? 0 : 1;
+}
