@@ -1,5 +1,7 @@
 #include "analysis/JointWalk.h"
 
+#include <algorithm>
+
 #include "platform/NumberText.h"
 
 namespace trelonit {
@@ -92,6 +94,23 @@ Long RequireKnotNum(Long knotNum) {
 void PutBar(SquareTable<double>& bars, Long joint, Long otherJoint, Real force) {
   bars(joint, otherJoint) = force;
   bars(otherJoint, joint) = force;
+}
+
+void DropRoundingNoise(WalkedTruss& truss) {
+  constexpr double noise = 1e-11;
+  Real greatest;
+  for (const Reals* bars : {&truss.U, &truss.D, &truss.R, &truss.V}) {
+    for (const Real force : *bars) {
+      greatest = std::max<double>(greatest, Magnitude(force));
+    }
+  }
+  for (Reals* bars : {&truss.U, &truss.D, &truss.R, &truss.V}) {
+    for (Real& force : *bars) {
+      if (Magnitude(force) < greatest * noise) {
+        force = 0;
+      }
+    }
+  }
 }
 
 TreloResult ResultOf(const WalkedTruss& truss) {

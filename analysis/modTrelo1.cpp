@@ -67,6 +67,7 @@ TreloResult SolveScheme(const TreloData& data) {
   r1 = -cosAlpha * R[n - 1] - U[n - 1];
   r2 = reactRight + V[n] - Pd[n];
   r3 = D[n - 1];
+  DropRoundingNoise(truss);
 
   // From the middle on, the upper joint of a column comes before the lower one.
   const auto lowerJoint = [m](Long c) { return c < m ? 2 * c + 1 : 2 * c + 2; };

@@ -74,6 +74,7 @@ TreloResult SolveScheme(const TreloData& data) {
   r1 = sinAlpha * R[n - 1] + V[n - 1] - Pd[n - 2];
   r2 = reactRight - Pu[n] - sinAlpha * R[n - 1];
   r3 = -U[n - 1] - cosAlpha * R[n - 1];
+  DropRoundingNoise(truss);
 
   const auto upperJoint = [m](Long c) { return c < m ? 2 * c + 1 : 2 * c; };
   const auto lowerJoint = [m](Long c) { return c < m ? 2 * c : 2 * c + 1; };

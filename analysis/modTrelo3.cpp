@@ -53,6 +53,7 @@ TreloResult SolveScheme(const TreloData& data) {
   r1 = cosAlpha * R[J - 1] - cosAlpha * R[J - 2] - D[n - 2];
   r2 = reactRight - Pu[n] - sinAlpha * R[J - 1];
   r3 = -U[n - 1] - cosAlpha * R[J - 1];
+  DropRoundingNoise(truss);
 
   TreloResult result = ResultOf(truss);
   for (Long j = 1; j <= 2 * n; ++j) {

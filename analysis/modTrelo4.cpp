@@ -56,6 +56,7 @@ TreloResult SolveScheme(const TreloData& data) {
   r1 = sinAlpha * R[n - 1] + V[last] + sinBeta * R[n - 2] - Pd[last];
   r2 = reactRight - Pu[n] - sinAlpha * R[n - 1];
   r3 = -U[n - 1] - cosAlpha * R[n - 1];
+  DropRoundingNoise(truss);
 
   const auto upperJoint = [](Long c) { return 3 * (c / 2) + 1 + c % 2; };
   const auto lowerJoint = [](Long i) { return 3 * i + 3; };

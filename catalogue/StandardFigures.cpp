@@ -84,7 +84,7 @@ ExpectedFigures Tube30245of2003(const ProfileRec& record) {
 }
 
 /// GOST 8645-68: the table is computed for an outer radius of 1.5 walls, and its moments of inertia
-/// leave out the own inertia of the four corner rings (up to 3 % for narrow thick sections).
+/// leave out the own inertia of the four corner rings (up to 3.8 % for narrow thick sections).
 ExpectedFigures Tube8645(const ProfileRec& record) {
   constexpr double outerRadiusInWalls = 1.5;
   SectionFigures figures = ConcentricTube(record, outerRadiusInWalls);

@@ -14,32 +14,46 @@ namespace {
 void Translate(CLI::App& app) {
   auto formatter = std::make_shared<CLI::Formatter>();
   formatter->label("Usage", "Использование");
-  formatter->label("OPTIONS", "[КЛЮЧИ]");
+  formatter->label("OPTIONS", "КЛЮЧИ");
   formatter->label("SUBCOMMAND", "КОМАНДА");
   formatter->label("SUBCOMMANDS", "КОМАНДЫ");
   formatter->label("Positionals", "Аргументы");
   formatter->label("Options", "Ключи");
   formatter->label("Subcommands", "Команды");
-  formatter->label("REQUIRED", "обязательно");
+  formatter->label("REQUIRED", "");
+  formatter->label("Needs", "только вместе с");
   formatter->label("TEXT", "ТЕКСТ");
   formatter->column_width(28);
   app.formatter(formatter);
+  app.option_defaults()->group("Ключи");
   app.set_help_flag("-h,--help", "показать эту справку");
 }
 
-/// One line on what is wrong with the command line.
+/// The part of the library's sentence before this word: the name that the sentence is about.
+std::string NameBefore(const std::string& sentence, const std::string& word) {
+  return sentence.substr(0, sentence.find(word));
+}
+
+/// What is wrong with the command line.
 std::string Explain(const CLI::App& app, const CLI::ParseError& error) {
+  const std::string sentence = error.what();
   const auto extras = app.remaining(true);
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr && !extras.empty()) {
     return "лишний или неизвестный аргумент «" + extras.front() + "»";
   }
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
-    return std::string("не хватает аргумента или команды (") + error.what() + ")";
+    if (sentence.find("subcommand") == std::string::npos) {
+      return "не указан аргумент «" + NameBefore(sentence, " is required") + "»";
+    }
+    return extras.empty() ? "не указана команда" : "неизвестная команда «" + extras.front() + "»";
+  }
+  if (dynamic_cast<const CLI::RequiresError*>(&error) != nullptr) {
+    return "ключ «" + NameBefore(sentence, " requires ") + "» не имеет смысла без «--json»";
   }
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
-    return std::string("неверное число значений (") + error.what() + ")";
+    return "у ключа «" + NameBefore(sentence, ":") + "» неверное число значений";
   }
-  return std::string("неверная командная строка (") + error.what() + ")";
+  return "неверная командная строка (" + sentence + ")";
 }
 
 constexpr const char* version = "trelonit-cli " TRELONIT_VERSION;
@@ -47,6 +61,7 @@ constexpr const char* version = "trelonit-cli " TRELONIT_VERSION;
 CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description) {
   CLI::App* command = parent.add_subcommand(name, description);
   Translate(*command);
+  command->group("Команды");
   command->set_version_flag("--version", version, "показать версию");
   return command;
 }
@@ -65,15 +80,15 @@ Status RunCommandLine(int argc, const char* const* argv) {
   CLI::App* create = AddCommand(app, "new", "новый проект с исходными данными по умолчанию");
   create->add_option("-o,--output", newOptions.Output, "файл проекта (.tsav)")
       ->required()
-      ->type_name("ФАЙЛ");
+      ->type_name("FILE");
   create->add_flag("-f,--force", newOptions.Force, "заменить существующий файл");
   create->callback([&] { run = [&] { return RunNew(newOptions); }; });
 
   CalcOptions calcOptions;
   CLI::App* calc = AddCommand(app, "calc", "расчёт проекта: усилия и коэффициенты использования");
-  calc->add_option("project", calcOptions.Project, "файл проекта (.tsav)")
+  calc->add_option("FILE", calcOptions.Project, "файл проекта (.tsav)")
       ->required()
-      ->type_name("ФАЙЛ");
+      ->type_name("");
   CLI::Option* json = calc->add_flag("--json", calcOptions.Json, "вывод в формате JSON");
   calc->add_flag("--bar-force", calcOptions.BarForce, "добавить в JSON таблицу BarForce")
       ->needs(json);
@@ -84,10 +99,10 @@ Status RunCommandLine(int argc, const char* const* argv) {
   AddCommand(*catalogue, "list", "стандарты каталога")->callback([&] { run = RunCatalogueList; });
   CatalogueShowOptions showOptions;
   CLI::App* show = AddCommand(*catalogue, "show", "типоразмеры стандарта");
-  show->add_option("standard", showOptions.Standard, "номер или название стандарта")
+  show->add_option("STANDARD", showOptions.Standard, "номер или название стандарта")
       ->required()
-      ->type_name("СТАНДАРТ");
-  show->add_option("size", showOptions.Size, "обозначение типоразмера")->type_name("ТИПОРАЗМЕР");
+      ->type_name("");
+  show->add_option("SIZE", showOptions.Size, "обозначение типоразмера")->type_name("");
   show->callback([&] { run = [&] { return RunCatalogueShow(showOptions); }; });
   AddCommand(*catalogue, "verify", "проверка A, Jy, Jz каждого типоразмера по его размерам")
       ->callback([&] { run = RunCatalogueVerify; });

@@ -2,6 +2,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <random>
 
 #include "tests/catalogue/CatalogueWorld.h"
 
@@ -122,10 +123,9 @@ TEST(ResourceToFile, TellsWhenTheFileCannotBeWritten) {
 class CatalogueOnDisk : public ::testing::Test {
  protected:
   CatalogueOnDisk()
-      : folder_(fs::path(::testing::TempDir()) /
-                ("каталог " + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                 ::testing::UnitTest::GetInstance()->current_test_info()->name())) {
-    fs::remove_all(folder_);
+      // A name that no test running at the same time has, with letters that are not ASCII.
+      : folder_(fs::temp_directory_path() /
+                fs::path(u8"каталог ").concat(std::to_string(std::random_device()()))) {
     fs::create_directories(folder_);
   }
   ~CatalogueOnDisk() override {

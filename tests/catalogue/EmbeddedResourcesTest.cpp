@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <limits>
 #include <set>
 
 #include "platform/Text.h"
@@ -9,12 +8,11 @@
 namespace trelonit {
 namespace {
 
-/// The numbers for which the body raises nothing; every other one must raise 326.
+/// The numbers up to 1000 for which the body raises nothing; every other one must raise 326.
 template <class Body>
 std::set<int> Present(const Body& body) {
   std::set<int> present;
-  for (int number = std::numeric_limits<Integer>::min();
-       number <= std::numeric_limits<Integer>::max(); ++number) {
+  for (int number = -1000; number <= 1000; ++number) {
     const auto error = test::ErrorOf([&] { body(static_cast<Integer>(number)); });
     if (!error) {
       present.insert(number);
