@@ -21,7 +21,10 @@ BoundedArray<double> CopyFrom(Long lower, const Reals& values) {
 }
 
 bool ClosesAtFourDecimals(Real residual) {
-  return RoundToDecimals(residual, 4) == 0;
+  // Far below half of the last decimal there is no need to write the number out, which for nearly
+  // every truss would cost as much as its walk.
+  constexpr double surelyZero = 0.00004;
+  return Magnitude(residual) < surelyZero || RoundToDecimals(residual, 4) == 0;
 }
 
 }  // namespace

@@ -13,11 +13,11 @@ namespace {
 /// Sum of real times unit force over the bars first to last of a force array.
 Real Work(const BoundedArray<double>& real, const BoundedArray<double>& unit, Long first,
           Long last) {
-  Real sum;
+  double sum = 0;
   for (Long bar = first; bar <= last; ++bar) {
-    sum += Real(real[bar]) * unit[bar];
+    sum += real[bar] * unit[bar];
   }
-  return sum;
+  return {Finite(sum)};
 }
 
 Real EndBarWork(const BoundedArray<double>& real, const BoundedArray<double>& unit) {

@@ -8,6 +8,7 @@
 #include <iostream>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "analysis/modMaxProgib.h"
 #include "analysis/modTrelo.h"
@@ -142,7 +143,7 @@ std::string Name(const char* what, Long scheme) {
 
 void Register() {
   const auto add = [](const std::string& name, auto&&... arguments) {
-    benchmark::RegisterBenchmark(name.c_str(), arguments...)->Repetitions(5)->MinTime(0.05);
+    benchmark::RegisterBenchmark(name.c_str(), arguments...)->Repetitions(15)->MinTime(0.02);
   };
   for (Long scheme = 1; scheme <= 4; ++scheme) {
     add(Name("Arrays", scheme), Arrays, scheme);
@@ -173,7 +174,12 @@ class Table {
 }  // namespace
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
+  // Repetitions of different things take turns, so that a busy moment of the machine hits all alike.
+  std::vector<char*> arguments(argv, argv + argc);
+  std::string interleave = "--benchmark_enable_random_interleaving=true";
+  arguments.push_back(interleave.data());
+  int count = static_cast<int>(arguments.size());
+  benchmark::Initialize(&count, arguments.data());
   Register();
   SmallestTimes times;
   benchmark::RunSpecifiedBenchmarks(&times);
