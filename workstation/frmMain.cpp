@@ -107,7 +107,7 @@ void frmMain::LoadCatalogue() {
   FillSizes(layout.DefaultStandard);
   cmbSectType.Select(0);
   optElementSection.Select(optionUpPoyas);
-  SelectGroup(optionUpPoyas);
+  ColourGroup(optionUpPoyas);
   MarkLayout(layout.Number);
   for (Image& picture : imgProfileSec) {
     picture.Show(imgProfileSecSelect[layout.Number].Shown());

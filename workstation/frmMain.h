@@ -182,7 +182,7 @@ class frmMain {
   void ShowVerticals(bool shown);
   void WarnProportions();
 
-  void SelectGroup(Long option);
+  void ColourGroup(Long option);
   Long SelectedGroup() const { return optElementSection.Selected(); }
   SectionRec& SelectedSection();
   void MarkLayout(Long layout);

@@ -21,7 +21,7 @@ SectionRec& frmMain::SelectedSection() {
   return Model.ElementSection[PlaceOfOption(SelectedGroup())];
 }
 
-void frmMain::SelectGroup(Long option) {
+void frmMain::ColourGroup(Long option) {
   const auto color = [option](GroupOption group) {
     return option == group ? colorRed : colorBlack;
   };
@@ -75,7 +75,7 @@ Long frmMain::FindSizeIndex(Long typeIdx, const std::string& name) {
 
 void frmMain::optElementSection_Click(Long option) {
   Guard(services_.Messages, "optElementSection_Click", [&] {
-    SelectGroup(option);
+    ColourGroup(option);
     // A copy: showing the values below raises the clicks of the lists, which write to the record.
     const SectionRec section = Model.ElementSection[PlaceOfOption(option)];
     MarkLayout(section.Layout);

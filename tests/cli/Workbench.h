@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <initializer_list>
+#include <array>
 #include <set>
 #include <string>
 #include <string_view>
