@@ -277,6 +277,31 @@ TEST(Scheme4, ClosesUnderAnyLoadOfTheLowerChord) {
   }
 }
 
+TEST(BarForces, AreExactlyZeroWhereABarCarriesNothing) {
+  // Two loads at equal distances from midspan leave no shear between them. The lengths are no round
+  // numbers, so that the walk itself comes out with rounding noise.
+  for (const double height : {1.1, 1.3, 1.7, 1.9, 2.3}) {
+    SCOPED_TRACE(height);
+    TreloData data = Design(1, 10, 20.3, height, 1.7);
+    data.UpPForce[3] = 2.7;
+    data.UpPForce[7] = 2.7;
+    const TreloResult result = Solved(data);
+    for (Long bar = 4; bar <= 7; ++bar) {
+      EXPECT_EQ(result.RaskosForce[bar], 0) << bar;
+    }
+    EXPECT_EQ(result.DwnPoyasForce[10], 0);
+    EXPECT_NE(result.RaskosForce[3], 0);
+    EXPECT_EQ(result.BarForce(10, 12), 0);
+  }
+}
+
+TEST(BarForces, OfATinyLoadAreNoNoise) {
+  TreloData data = StartDesign(4);
+  data.UpPForce[1] = 1e-9;
+  data.UpPForce[4] = 10;
+  EXPECT_EQ(Solved(data).StoykaForce[1], -1e-9);
+}
+
 TEST(BalanceCheck, TakesAResidualBelowHalfAUnitOfTheFourthDecimalForZero) {
   // A load on the last lower joint but one of scheme 2 leaves a residual of its own size.
   TreloData data = SquareDesign(2, 6);

@@ -128,7 +128,7 @@ class CatalogueOnDisk : public ::testing::Test {
                 fs::path(u8"каталог ").concat(std::to_string(std::random_device()()))) {
     fs::create_directories(folder_);
   }
-  ~CatalogueOnDisk() override {
+  void TearDown() override {
     std::error_code code;
     fs::remove_all(folder_, code);
   }

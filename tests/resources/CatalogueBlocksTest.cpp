@@ -30,7 +30,12 @@ std::string Fault(const std::string& standards, const std::string& sizes) {
   return {};
 }
 
-/// The same for the lines of one standard's sizes.
+/// The text of a fault that shows the cell.
+std::string AtCell(const std::string& place, const std::string& cell, const std::string& what) {
+  return place + ": \"" + cell + "\" " + what;
+}
+
+/// What the packer says to the lines of one standard's sizes.
 std::string FaultOfSizes(const std::string& lines) {
   return Fault("1,Уголок\n", Head() + lines);
 }
@@ -90,10 +95,11 @@ TEST(CatalogueBlocks, RefuseAnotherHeadLine) {
 }
 
 TEST(CatalogueBlocks, RefuseACellThatIsNoNumberFromZeroUp) {
+  const std::string begin = "L1" + zeros + "L2,";
   for (const std::string cell :
        {"", " 1", "1 ", "1.2.3", "x", "+1", "-1", "-0", "nan", "inf", "1e999", "0x10", "1;5"}) {
-    EXPECT_EQ(FaultOfSizes("L1" + zeros + "L2," + cell + ",0,0,0,0,0,0,0,0,0,0,0,0,0\n"),
-              "01.csv:3: \"" + cell + "\" is not a number from 0 up");
+    EXPECT_EQ(FaultOfSizes(begin + cell + ",0,0,0,0,0,0,0,0,0,0,0,0,0\n"),
+              AtCell("01.csv:3", cell, "is not a number from 0 up"));
   }
   EXPECT_EQ(FaultOfSizes("L1,0,0,0,0,0,0,0,0,0,0,0,0,0,y\n"),
             "01.csv:2: \"y\" is not a number from 0 up");
@@ -102,8 +108,8 @@ TEST(CatalogueBlocks, RefuseACellThatIsNoNumberFromZeroUp) {
 TEST(CatalogueBlocks, RefuseANameThatIsTooLong) {
   // Fifteen characters fit whatever their count of bytes in the table.
   EXPECT_EQ(FaultOfSizes("ТрТрТрТрТрТрТрТ" + zeros), "");
-  EXPECT_EQ(FaultOfSizes("L1234567890123456" + zeros),
-            "01.csv:2: \"L1234567890123456\" is longer than 15 characters");
+  EXPECT_EQ(FaultOfSizes("L123456789012345" + zeros),
+            "01.csv:2: \"L123456789012345\" is longer than 15 characters");
   const std::string longName(51, 'x');
   EXPECT_EQ(Fault("1,A\n2," + longName + "\n", Head() + "L1" + zeros),
             "standards.csv:3: \"" + longName + "\" is longer than 50 characters");
@@ -116,11 +122,11 @@ TEST(CatalogueBlocks, RefuseAnEmptyName) {
 }
 
 TEST(CatalogueBlocks, RefuseACharacterOutsideTheCodePage) {
-  const std::string fault = " has a character outside code page 1251";
+  const std::string fault = "has a character outside code page 1251";
   for (const std::string name : {"LΩ", "L×2", "L\t2", "L\xC2\x98", "L\xD0", "L\x7F"}) {
-    EXPECT_EQ(FaultOfSizes(name + zeros), "01.csv:2: \"" + name + "\"" + fault);
+    EXPECT_EQ(FaultOfSizes(name + zeros), AtCell("01.csv:2", name, fault));
   }
-  EXPECT_EQ(Fault("1,ГОСТ Ω\n", ""), "standards.csv:2: \"ГОСТ Ω\"" + fault);
+  EXPECT_EQ(Fault("1,ГОСТ Ω\n", ""), AtCell("standards.csv:2", "ГОСТ Ω", fault));
   EXPECT_EQ(FaultOfSizes("L?№" + zeros), "");
 }
 
