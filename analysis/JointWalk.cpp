@@ -8,7 +8,7 @@ namespace trelonit {
 
 namespace {
 
-constexpr Long maxKnotNum = 1000;
+constexpr std::int64_t maxKnotNum = 1000;
 
 BoundedArray<double> CopyFrom(Long lower, const Reals& values) {
   const Long count = values.UpperBound() - values.LowerBound() + 1;
@@ -87,11 +87,11 @@ void Moments::AddSpaced(const Reals& loads, Real distance, Real spacing) {
   }
 }
 
-Long RequireKnotNum(Long knotNum) {
+Long RequireKnotNum(std::int64_t knotNum) {
   if (knotNum > maxKnotNum) {
     RaiseSubscriptOutOfRange();
   }
-  return knotNum;
+  return static_cast<Long>(std::max(knotNum, -maxKnotNum));
 }
 
 void PutBar(SquareTable<double>& bars, Long joint, Long otherJoint, Real force) {

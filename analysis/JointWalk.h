@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -50,9 +51,10 @@ struct Moments {
   void AddSpaced(const Reals& loads, Real distance, Real spacing);
 };
 
-/// Raises 9 for a joint count that only a damaged input can ask for: the table of bar forces is
-/// square in the joints, and a panel count of 30,000 would cost gigabytes.
-Long RequireKnotNum(Long knotNum);
+/// The joint count, no more than a Long holds. Raises 9 for one that only a damaged input can ask
+/// for: the table of bar forces is square in the joints, and a panel count of 30,000 would cost
+/// gigabytes.
+Long RequireKnotNum(std::int64_t knotNum);
 
 /// All that a walk has found, in the symbols of the method: loads, reactions, chords U and D,
 /// diagonals R, verticals V, each left to right, and the three closing residuals.

@@ -35,7 +35,10 @@ Real AllBarWork(const BoundedArray<double>& real, const BoundedArray<double>& un
 
 /// Sums of real times unit force by the length that the bars are taken with.
 struct WorkSums {
-  Real UpEnds, UpMiddle, DwnEnds, DwnMiddle, Verticals, Diagonals, SupportDiagonals;
+  // Doubles, not Reals: GCC 12 drops the zero that a Real starts with when the call that is to
+  // give it its value throws, and the sum of a failed unit run would be whatever lay in memory.
+  double UpEnds = 0, UpMiddle = 0, DwnEnds = 0, DwnMiddle = 0;
+  double Verticals = 0, Diagonals = 0, SupportDiagonals = 0;
 };
 
 WorkSums SumWork(const TreloData& data, const TreloResult& real, const TreloResult& unit) {

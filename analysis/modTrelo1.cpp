@@ -8,7 +8,7 @@ namespace {
 TreloResult SolveScheme(const TreloData& data) {
   const Long n = data.PanelNum;
   const Long m = n / 2;
-  const Long J = RequireKnotNum((n + 1) * 2);
+  const Long J = RequireKnotNum(2 * (std::int64_t{n} + 1));
   const PanelGeometry panels(data);
   const Real d = panels.d;
   const Real Lop = panels.Lop;

@@ -19,7 +19,7 @@ Reals LowerKnotLoads(const TreloData& data, const PanelGeometry& panels) {
 TreloResult SolveScheme(const TreloData& data) {
   const Long n = data.PanelNum;
   const Long m = n / 2;
-  const Long J = RequireKnotNum(n * 2);
+  const Long J = RequireKnotNum(2 * std::int64_t{n});
   const PanelGeometry panels(data);
   const Real d = panels.d;
   const Real sinAlpha = panels.SinAlpha;

@@ -9,7 +9,7 @@ namespace {
 // joint t is 2t + 1, lower joint i is 2i + 2, diagonal j joins joints j and j + 1.
 TreloResult SolveScheme(const TreloData& data) {
   const Long n = data.PanelNum;
-  const Long J = RequireKnotNum(n * 2 + 1);
+  const Long J = RequireKnotNum(2 * std::int64_t{n} + 1);
   const Real L = data.LengthF;
   const Real d = L / n;
   const Real alpha = ArcTangent(2 * Real(data.Hight) / d);

@@ -8,7 +8,7 @@ namespace {
 TreloResult SolveScheme(const TreloData& data) {
   const Long n = data.PanelNum;
   const Long last = n / 2 - 1;  // the last lower joint
-  const Long J = RequireKnotNum(3 * (n / 2) + 1);
+  const Long J = RequireKnotNum(3 * (std::int64_t{n} / 2) + 1);
   const PanelGeometry panels(data);
   const Real d = panels.d;
   const Real sinAlpha = panels.SinAlpha;

@@ -31,7 +31,8 @@ class BoundedArray {
   }
   Long UpperBound() const {
     RequireAllocated();
-    return lower_ + static_cast<Long>(elements_.size()) - 1;
+    // In the wider type: lower + size may lie one above the highest Long.
+    return static_cast<Long>(lower_ + static_cast<std::ptrdiff_t>(elements_.size()) - 1);
   }
 
   T& operator[](Long subscript) { return elements_[Place(subscript)]; }

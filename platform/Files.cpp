@@ -60,8 +60,21 @@ RuntimeError FromErrno() {
 /// Where the bytes finally go: the file that a symbolic link names, not the link.
 fs::path ResolveLinks(const fs::path& path) {
   std::error_code code;
-  const fs::path target = fs::weakly_canonical(path, code);
-  return code ? path : target;
+  fs::path target = fs::weakly_canonical(path, code);
+  // A link to a file that is not there yet stays unresolved by that.
+  while (!code && fs::is_symlink(fs::symlink_status(target, code))) {
+    const fs::path named = fs::read_symlink(target, code);
+    target = fs::weakly_canonical(target.parent_path() / named, code);
+  }
+  return target.empty() ? path : target;
+}
+
+/// 53 where only the file is missing, 76 where its folder is.
+RuntimeError MissingError(const fs::path& path) {
+  std::error_code code;
+  const fs::path folder = path.parent_path();
+  return RuntimeError(folder.empty() || fs::exists(folder, code) ? ErrorNumber::FileNotFound
+                                                                 : ErrorNumber::PathNotFound);
 }
 
 #ifdef _WIN32
@@ -79,9 +92,7 @@ void WriteFlushed(const fs::path& path, std::string_view bytes) {
 }
 
 fs::path NameBeside(const fs::path& target) {
-  fs::path beside = target;
-  beside += ".new" + std::to_string(GetCurrentProcessId());
-  return beside;
+  return target.parent_path() / (".trelonit-new" + std::to_string(GetCurrentProcessId()));
 }
 
 #else
@@ -133,9 +144,8 @@ void WriteFlushed(const fs::path& path, std::string_view bytes) {
 }
 
 fs::path NameBeside(const fs::path& target) {
-  fs::path beside = target;
-  beside += ".new" + std::to_string(::getpid());
-  return beside;
+  // A name of its own: the target's with something behind it could become too long.
+  return target.parent_path() / (".trelonit-new" + std::to_string(::getpid()));
 }
 
 #endif
@@ -170,11 +180,8 @@ std::unique_ptr<std::istream> DiskFiles::OpenForReading(const std::string& path)
   std::error_code code;
   const fs::file_status status = fs::status(native, code);
   if (!fs::exists(status)) {
-    throw code && code != std::errc::no_such_file_or_directory
-        ? FromErrorCode(code)
-        : RuntimeError(fs::exists(native.parent_path(), code) || native.parent_path().empty()
-                           ? ErrorNumber::FileNotFound
-                           : ErrorNumber::PathNotFound);
+    throw code && code != std::errc::no_such_file_or_directory ? FromErrorCode(code)
+                                                               : MissingError(native);
   }
   if (fs::is_directory(status)) {
     throw RuntimeError(ErrorNumber::PathFileAccess);
@@ -189,9 +196,10 @@ std::unique_ptr<std::istream> DiskFiles::OpenForReading(const std::string& path)
 
 std::uint64_t DiskFiles::FileLength(const std::string& path) {
   std::error_code code;
-  const std::uintmax_t length = fs::file_size(NativePath(path), code);
+  const fs::path native = NativePath(path);
+  const std::uintmax_t length = fs::file_size(native, code);
   if (code) {
-    throw FromErrorCode(code);
+    throw code == std::errc::no_such_file_or_directory ? MissingError(native) : FromErrorCode(code);
   }
   return length;
 }
@@ -200,7 +208,8 @@ void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) {
   const fs::path target = ResolveLinks(NativePath(path));
   std::error_code code;
   const fs::file_status before = fs::status(target, code);
-  if (fs::is_directory(before)) {
+  // A folder cannot be replaced, and a device or a pipe must not be.
+  if (fs::exists(before) && !fs::is_regular_file(before)) {
     throw RuntimeError(ErrorNumber::PathFileAccess);
   }
   RequireWritable(target);

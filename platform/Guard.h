@@ -38,6 +38,8 @@ bool PassOver(Statement&& statement) {
     return true;
   } catch (const RuntimeError&) {
     return false;
+  } catch (const std::bad_alloc&) {
+    return false;
   }
 }
 

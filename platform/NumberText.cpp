@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <locale>
 #include <stdexcept>
 #include <system_error>
@@ -30,8 +31,7 @@ DecimalDigits ToDigits(double value) {
   const auto written =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(Finite(value)),
                     std::chars_format::scientific, significantDigits - 1);
-  const std::string_view text(buffer.data(),
-                              static_cast<std::size_t>(written.ptr - buffer.data()));
+  const std::string_view text(buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data()));
   const std::size_t mark = text.find('e');
   DecimalDigits decimal;
   decimal.Negative = std::signbit(value);
@@ -172,13 +172,34 @@ std::string ToNeutral(std::string_view text, const NumberLocale& locale) {
     if (place < text.size() && (text[place] == '+' || text[place] == '-')) {
       neutral.push_back(text[place++]);
     }
-    if (place == text.size() || !std::all_of(text.begin() + static_cast<std::ptrdiff_t>(place),
-                                             text.end(), IsDigit)) {
+    if (place == text.size() ||
+        !std::all_of(text.begin() + static_cast<std::ptrdiff_t>(place), text.end(), IsDigit)) {
       return {};
     }
     neutral.append(text.substr(place));
   }
   return neutral;
+}
+
+/// Of a number that from_chars finds out of range: whether it is too large, and not too small. That
+/// is told by the decimal place of its first digit other than 0; there is one, because 0 is in
+/// range.
+bool IsTooLarge(std::string_view neutral) {
+  const std::size_t mark = std::min(neutral.find('e'), neutral.size());
+  const std::string_view digits = neutral.substr(0, mark);
+  const auto lead = static_cast<std::ptrdiff_t>(digits.find_first_of("123456789"));
+  const auto point = static_cast<std::ptrdiff_t>(std::min(digits.find('.'), digits.size()));
+  std::string_view exponent = neutral.substr(std::min(mark + 1, neutral.size()));
+  const bool negative = exponent.starts_with('-');
+  if (negative || exponent.starts_with('+')) {
+    exponent.remove_prefix(1);
+  }
+  std::int32_t power = 0;
+  const auto read = std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
+  if (read.ec == std::errc::result_out_of_range) {
+    return !negative;
+  }
+  return point - lead + (negative ? -power : power) > 0;
 }
 
 enum class Reading { Done, NoNumber, TooLarge };
@@ -192,12 +213,8 @@ Reading Read(std::string_view text, const NumberLocale& locale, double& value) {
   const char* const last = neutral.data() + neutral.size();
   const auto read = std::from_chars(neutral.data(), last, value);
   if (read.ec == std::errc::result_out_of_range) {
-    // from_chars does not tell which end of the range was left: a text without a whole part or
-    // with a negative exponent can only have been too small.
-    const bool small = neutral.find("e-") != std::string::npos ||
-                       neutral.find_first_of("123456789") > neutral.find('.');
     value = 0;
-    return small ? Reading::Done : Reading::TooLarge;
+    return IsTooLarge(neutral) ? Reading::TooLarge : Reading::Done;
   }
   if (read.ec != std::errc() || read.ptr != last) {
     return Reading::NoNumber;
@@ -225,8 +242,7 @@ NumberLocale SystemNumberLocale() {
     result.DecimalSeparator = Utf8(std::u32string(1, static_cast<char32_t>(form.decimal_point())));
     const std::string grouping = form.grouping();
     if (!grouping.empty() && grouping[0] > 0 && form.thousands_sep() != L'\0') {
-      result.GroupSeparator =
-          Utf8(std::u32string(1, static_cast<char32_t>(form.thousands_sep())));
+      result.GroupSeparator = Utf8(std::u32string(1, static_cast<char32_t>(form.thousands_sep())));
       result.GroupSize = grouping[0];
     }
   } catch (const std::runtime_error&) {

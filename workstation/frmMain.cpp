@@ -18,6 +18,13 @@ constexpr Integer schemeBitmapBase = 100;
 constexpr int captionInterval = 200;
 constexpr std::size_t longestUserName = 25;
 
+/// A window that this program does not have opens as nothing.
+void Open(const std::function<void()>& opener) {
+  if (opener) {
+    opener();
+  }
+}
+
 }  // namespace
 
 frmMain::frmMain(Services services, Openers openers)
@@ -210,16 +217,16 @@ std::vector<frmMain::MenuItem> frmMain::Menus() {
 
 void frmMain::mnuProfile_Click() {
   Form.SetVisible(false);
-  openers_.ShowDataManager();
+  Open(openers_.ShowDataManager);
   Form.SetVisible(true);
 }
 
 void frmMain::optio_Click() {
-  openers_.ShowParamerty();
+  Open(openers_.ShowParamerty);
 }
 
 void frmMain::cmdSteelGet_Click() {
-  openers_.ShowSteel();
+  Open(openers_.ShowSteel);
   Form.SetVisible(true);
   txtProgib.SetText("");
 }
@@ -235,9 +242,7 @@ void frmMain::UserHelp_Click() {
 
 void frmMain::Exit_Click() {
   // Nothing is saved and nothing is asked.
-  if (openers_.EndProgram) {
-    openers_.EndProgram();
-  }
+  Open(openers_.EndProgram);
 }
 
 void frmMain::tmrRuningString_Timer() {
