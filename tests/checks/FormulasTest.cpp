@@ -63,7 +63,7 @@ TEST(ConditionalSlenderness, GoesWithTheRootOfTheStrain) {
   EXPECT_EQ(ErrorOf([] { CalcFlexBar(100, -240, 210000); }), 5);
 }
 
-TEST(Phi, OfAStraightBarIsZero) {
+TEST(Phi, OfABarWithoutSlendernessIsZero) {
   EXPECT_EQ(CalcPhi(0, Ry, E), 0);
   EXPECT_EQ(CalcPhi(-1, Ry, E), 0);
   EXPECT_EQ(CalcPhi(-std::numeric_limits<double>::max(), Ry, E), 0);
@@ -113,9 +113,9 @@ TEST(Phi, IsNotClampedToOne) {
 }
 
 TEST(Phi, IsNotClampedToZero) {
-  // With no strain the second formula at 4.4 is 1.47 - 1.6324 + 0.5324; with 0.02 it is negative.
-  EXPECT_NEAR(CalcPhi(4.4, 0, 210000), 0.37, 1e-12);
-  EXPECT_LT(CalcPhi(3, -20000, 210000), 0.5);
+  // With a strain of 1 the second formula falls below 0 near its end.
+  EXPECT_NEAR(CalcPhi(4.49, 210000, 210000), -11.53 + 26.929 * 4.49 - 5.5025 * 20.1601, 1e-11);
+  EXPECT_LT(CalcPhi(4.49, 210000, 210000), -1.5);
 }
 
 TEST(Alpha, IsTheUseInCompression) {
