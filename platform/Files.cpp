@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <random>
+#include <string>
 #include <system_error>
 
 #include "platform/RuntimeError.h"
@@ -91,10 +93,6 @@ void WriteFlushed(const fs::path& path, std::string_view bytes) {
   }
 }
 
-fs::path NameBeside(const fs::path& target) {
-  return target.parent_path() / (".trelonit-new" + std::to_string(GetCurrentProcessId()));
-}
-
 #else
 
 /// Owns a descriptor until Close.
@@ -121,7 +119,7 @@ class Descriptor {
 
 void WriteFlushed(const fs::path& path, std::string_view bytes) {
   // 0666 less the user's mask, as any program's new file.
-  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
   if (file.Number() < 0) {
     throw errno == ENOENT ? RuntimeError(ErrorNumber::PathNotFound) : FromErrno();
   }
@@ -143,12 +141,15 @@ void WriteFlushed(const fs::path& path, std::string_view bytes) {
   }
 }
 
-fs::path NameBeside(const fs::path& target) {
-  // A name of its own: the target's with something behind it could become too long.
-  return target.parent_path() / (".trelonit-new" + std::to_string(::getpid()));
-}
-
 #endif
+
+/// A new name in the target's folder. It is not the target's with something behind it, which could
+/// become too long, and nobody can guess it and put a link there beforehand.
+fs::path NameBeside(const fs::path& target) {
+  std::random_device random;
+  return target.parent_path() /
+         (".trelonit-new" + std::to_string(random()) + "-" + std::to_string(random()));
+}
 
 /// A file that is there but may not be written must not be replaced by way of its folder.
 void RequireWritable(const fs::path& target) {

@@ -73,7 +73,7 @@ Status RunCatalogueShow(const CatalogueShowOptions& options) {
   }
   std::vector<Row> rows{HeadRow()};
   for (const ProfileRec& record : (*catalogue)[standard].Rec) {
-    if (options.Size.empty() || record.Name == FixedText<15>(options.Size)) {
+    if (options.Size.empty() || record.Name.Trimmed() == options.Size) {
       rows.push_back(RecordRow(record));
     }
   }

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <iostream>
+#include <sstream>
 
 #include "apps/cli/Commands.h"
 
@@ -45,13 +46,21 @@ std::string Explain(const CLI::App& app, const CLI::ParseError& error) {
     if (sentence.find("subcommand") == std::string::npos) {
       return "не указан аргумент «" + NameBefore(sentence, " is required") + "»";
     }
-    return extras.empty() ? "не указана команда" : "неизвестная команда «" + extras.front() + "»";
+    if (extras.empty()) {
+      return "не указана команда";
+    }
+    return (extras.front().starts_with('-') ? "неизвестный ключ «" : "неизвестная команда «") +
+           extras.front() + "»";
   }
   if (dynamic_cast<const CLI::RequiresError*>(&error) != nullptr) {
     return "ключ «" + NameBefore(sentence, " requires ") + "» не имеет смысла без «--json»";
   }
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
     return "у ключа «" + NameBefore(sentence, ":") + "» неверное число значений";
+  }
+  if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) {
+    const std::string name = NameBefore(sentence, " = ");
+    return "у ключа «" + name.substr(name.rfind(' ') + 1) + "» неверное значение";
   }
   return "неверная командная строка (" + sentence + ")";
 }
@@ -110,8 +119,9 @@ Status RunCommandLine(int argc, const char* const* argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& success) {
-    app.exit(success);
-    return std::cout.flush() ? Status::Done : Status::Failed;
+    std::ostringstream text;
+    app.exit(success, text);
+    return Print(text.str());
   } catch (const CLI::ParseError& error) {
     std::cerr << "trelonit-cli: " << Explain(app, error) << "; справка: trelonit-cli --help\n";
     return Status::WrongUsage;

@@ -59,9 +59,9 @@ void ExpectShown(const std::vector<std::string>& lines, const std::vector<double
 std::vector<std::pair<std::string, double>> ShownCoefficients(const Json& group) {
   std::vector<std::pair<std::string, double>> rows;
   const auto number = [&group](const char* key) { return group.at(key).get<double>(); };
-  for (const auto& [caption, key] : {std::pair("Прочность", "KStrength"),
-                                     std::pair("Устойчивость", "KStabX"),
-                                     std::pair("Устойчивость", "KStabY")}) {
+  for (const auto& [caption, key] :
+       {std::pair("Прочность", "KStrength"), std::pair("Устойчивость", "KStabX"),
+        std::pair("Устойчивость", "KStabY")}) {
     if (number(key) > 0) {
       rows.emplace_back(caption, number(key));
     }
@@ -257,7 +257,11 @@ TEST_F(CalcJsonNumbers, FollowTheInputsOfTheFile) {
   EXPECT_EQ(before.at("Progib").at("Limit"), 24.0 / 250);
   EXPECT_EQ(before.at("CheckResult").at("UpPoyas").at("LimitX").at("Tension"), 400);
   // Dynamic loads; another limit of the deflection; four times the resistance.
-  EXPECT_EQ(Calculated(WithLine(project, 45, "1")).at("CheckResult").at("UpPoyas").at("LimitX").at("Tension"),
+  EXPECT_EQ(Calculated(WithLine(project, 45, "1"))
+                .at("CheckResult")
+                .at("UpPoyas")
+                .at("LimitX")
+                .at("Tension"),
             250);
   EXPECT_EQ(Calculated(WithLine(project, 17, "1 / 300")).at("Progib").at("Limit"), 24.0 / 300);
   const Json strong = Calculated(WithLine(project, 10, "960"));
@@ -268,8 +272,7 @@ TEST_F(CalcJsonNumbers, FollowTheInputsOfTheFile) {
 TEST_F(CalcJsonNumbers, DoubleWithTheLoads) {
   const std::string project = WithLine(ExampleBytes(1), 46, "0");
   const Json once = Calculated(project);
-  const Json twice =
-      Calculated(WithLine(project, 50, "3.36;3.36;3.36;3.36;3.36;3.36;3.36;3.36"));
+  const Json twice = Calculated(WithLine(project, 50, "3.36;3.36;3.36;3.36;3.36;3.36;3.36;3.36"));
   for (const char* key : {"UpPoyasForce", "DwnPoyasForce", "RaskosForce", "StoykaForce"}) {
     const std::vector<double> single = Numbers(once.at("TreloResult").at(key));
     const std::vector<double> doubled = Numbers(twice.at("TreloResult").at(key));
@@ -278,8 +281,8 @@ TEST_F(CalcJsonNumbers, DoubleWithTheLoads) {
       EXPECT_NEAR(doubled[bar], 2 * single[bar], 1e-9) << key << bar;
     }
   }
-  EXPECT_NEAR(twice.at("Progib").at("Value").get<double>(), 2 * once.at("Progib").at("Value").get<double>(),
-              1e-12);
+  EXPECT_NEAR(twice.at("Progib").at("Value").get<double>(),
+              2 * once.at("Progib").at("Value").get<double>(), 1e-12);
 }
 
 TEST_F(CalcJsonNumbers, AreTheSameEveryTime) {

@@ -11,36 +11,28 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-const Texts topKeys{"TreloData",
-                    "TreloResult",
-                    "CheckResult",
-                    "ElementSection",
-                    "OwnWeightAdded",
-                    "OwnWeightPerMetre",
-                    "Progib",
-                    "lstForces",
-                    "MSFlexGKoefUse",
-                    "Messages"};
+const Texts topKeys{"TreloData",      "TreloResult",       "CheckResult", "ElementSection",
+                    "OwnWeightAdded", "OwnWeightPerMetre", "Progib",      "lstForces",
+                    "MSFlexGKoefUse", "Messages"};
 
-const Texts dataKeys{"TreloType",   "LengthF",      "Hight",        "LenOporn",
-                     "PanelNum",    "UpPForce",     "UpDistForce",  "DwnPForce",
+const Texts dataKeys{"TreloType",    "LengthF",      "Hight",         "LenOporn",
+                     "PanelNum",     "UpPForce",     "UpDistForce",   "DwnPForce",
                      "DwnDistForce", "UpPoyasBrace", "DownPoyasBrace"};
 
 const Texts resultKeysBeforeTable{"KnotNum",        "AngleOporn", "AngleRaskos", "LenPanel",
                                   "LenOpornRaskos", "LenRaskos",  "UpKnotLoad",  "DwnKnotLoad",
                                   "ReactLeft",      "ReactRight"};
 
-const Texts resultKeysAfterTable{"UpPoyasForce",  "DwnPoyasForce",  "RaskosForce",
-                                 "StoykaForce",   "Balanced",       "SumLenUpPoyas",
-                                 "SumLenDwnPoyas", "SumLenOpornRaskos", "SumLenRaskos",
-                                 "SumLenStoyka"};
+const Texts resultKeysAfterTable{
+    "UpPoyasForce",  "DwnPoyasForce",  "RaskosForce",       "StoykaForce",  "Balanced",
+    "SumLenUpPoyas", "SumLenDwnPoyas", "SumLenOpornRaskos", "SumLenRaskos", "SumLenStoyka"};
 
-const Texts groupKeys{"AlphaX",    "AlphaY", "FlexX",     "FlexY",  "FlexBarX", "FlexBarY",
-                      "PhiX",      "PhiY",   "Area",      "Jin",    "Jout",     "KStrength",
-                      "KStabX",    "KStabY", "KFlexX",    "KFlexY", "LimitX",   "LimitY",
-                      "NMax",      "NComp",  "LenX",      "LenY",   "KUserX",   "KUserY"};
+const Texts groupKeys{"AlphaX", "AlphaY", "FlexX",  "FlexY",  "FlexBarX", "FlexBarY",
+                      "PhiX",   "PhiY",   "Area",   "Jin",    "Jout",     "KStrength",
+                      "KStabX", "KStabY", "KFlexX", "KFlexY", "LimitX",   "LimitY",
+                      "NMax",   "NComp",  "LenX",   "LenY",   "KUserX",   "KUserY"};
 
-const Texts profileKeys{"Name", "Type", "B", "H",  "t",  "s",  "r1", "r2",
+const Texts profileKeys{"Name", "Type", "B",  "H", "t",  "s",  "r1", "r2",
                         "A",    "Jy",   "Jz", "P", "Wy", "Wz", "y0", "z0"};
 
 /// Elements of the arrays, by scheme, for the panel count of each example.
@@ -74,8 +66,7 @@ TEST_F(CalcJsonShape, HasTheNamesOfTheCodeAsKeysInTheirOrder) {
 
 TEST_F(CalcJsonShape, HasTheFiveBlocksOfTheCheckWithTheVerticalsThird) {
   const Json check = Calculated(ExampleBytes(1)).at("CheckResult");
-  EXPECT_EQ(Keys(check),
-            (Texts{"UpPoyas", "DwnPoyas", "Stoyka", "Raskos", "OpornRaskos", "Mass"}));
+  EXPECT_EQ(Keys(check), (Texts{"UpPoyas", "DwnPoyas", "Stoyka", "Raskos", "OpornRaskos", "Mass"}));
   for (const char* block : {"UpPoyas", "DwnPoyas", "Stoyka", "Raskos", "OpornRaskos"}) {
     EXPECT_EQ(Keys(check.at(block)), groupKeys) << block;
     for (const char* limit : {"LimitX", "LimitY"}) {
@@ -92,8 +83,7 @@ TEST_F(CalcJsonShape, HasFiveSectionsInTheOrderOfStorage) {
   ASSERT_EQ(sections.size(), 5U);
   Texts sizes;
   for (const Json& section : sections) {
-    EXPECT_EQ(Keys(section),
-              (Texts{"TypeIdx", "SizeIdx", "Gdist", "Paired", "Profile", "Layout"}));
+    EXPECT_EQ(Keys(section), (Texts{"TypeIdx", "SizeIdx", "Gdist", "Paired", "Profile", "Layout"}));
     EXPECT_EQ(Keys(section.at("Profile")), profileKeys);
     sizes.push_back(section.at("Profile").at("Name"));
   }

@@ -38,9 +38,12 @@ bool HasRow(const std::vector<std::string>& grid, const std::string& caption) {
   });
 }
 
-std::vector<std::string> GoldenForces() {
-  return Lines(
-      FileBytes(fs::path(EXAMPLES_FOLDER).parent_path() / "tests/cli/golden/scheme1-24m.txt"));
+/// The force list that an example must print. Its forces have been checked by equilibrium at every
+/// joint, apart from the program; those of the second scheme with its shifted lower loads.
+std::vector<std::string> GoldenForces(int scheme = 1) {
+  fs::path name = exampleNames.at(static_cast<std::size_t>(scheme - 1));
+  name.replace_extension(".txt");
+  return Lines(FileBytes(fs::path(EXAMPLES_FOLDER).parent_path() / "tests/cli/golden" / name));
 }
 
 class CalcText : public CliTest {
@@ -107,8 +110,10 @@ TEST_F(CalcText, AlignsTheTableInTwoColumns) {
   }
 }
 
-TEST_F(CalcText, PrintsTheForcesOfTheFirstExampleToTheLetter) {
-  EXPECT_EQ(CalculatedExample(1).Forces, GoldenForces());
+TEST_F(CalcText, PrintsTheForcesOfEveryExampleToTheLetter) {
+  for (int scheme = 1; scheme <= 4; ++scheme) {
+    EXPECT_EQ(CalculatedExample(scheme).Forces, GoldenForces(scheme)) << scheme;
+  }
 }
 
 TEST_F(CalcText, LeavesTheProjectAsItIs) {

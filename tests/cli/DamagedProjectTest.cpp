@@ -244,7 +244,8 @@ class SpoiltProject : public DamagedProject {
   void ExpectAnAnswer(const std::string& project) {
     const Outcome outcome = Calculated(project);
     EXPECT_FALSE(outcome.TimedOut);
-    ASSERT_TRUE(outcome.Status == done || outcome.Status == failed) << outcome.Status << outcome.Err;
+    ASSERT_TRUE(outcome.Status == done || outcome.Status == failed)
+        << outcome.Status << outcome.Err;
     EXPECT_EQ(outcome.Out.empty(), outcome.Status == failed) << outcome.Err;
     EXPECT_TRUE(outcome.Status == done || !outcome.Err.empty());
   }

@@ -28,8 +28,7 @@ std::string MessagesAsText(const Json& object) {
   return text;
 }
 
-Json CalcJsonTest::Calculated(const std::string& project,
-                              const std::vector<std::string>& options) {
+Json CalcJsonTest::Calculated(const std::string& project, const std::vector<std::string>& options) {
   Put("project.tsav", project);
   std::vector<std::string> arguments{"calc", "project.tsav", "--json"};
   arguments.insert(arguments.end(), options.begin(), options.end());

@@ -2,20 +2,19 @@
 
 #include "tests/cli/Subprocess.h"
 
-#include <fcntl.h>
-#include <grp.h>
-#include <poll.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <fcntl.h>
+#include <grp.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <system_error>
 #include <thread>
+#include <unistd.h>
 
 namespace trelonit::test {
 

@@ -2,13 +2,12 @@
 
 #include "tests/cli/Workbench.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <stdlib.h>
 #include <system_error>
 #include <utility>
 
@@ -99,9 +98,8 @@ Launch CliTest::Command(std::vector<std::string> arguments) const {
   launch.Arguments.insert(launch.Arguments.begin(),
                           (ProgramFolder() / fs::path(TRELONIT_CLI).filename()).string());
   launch.Folder = WorkFolder();
-  launch.Environment = {{"HOME", root_.string()},
-                        {"XDG_DATA_HOME", DataFolder().string()},
-                        {"LC_ALL", "C"}};
+  launch.Environment = {
+      {"HOME", root_.string()}, {"XDG_DATA_HOME", DataFolder().string()}, {"LC_ALL", "C"}};
   return launch;
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <array>
+#include <filesystem>
+#include <gtest/gtest.h>
 #include <set>
 #include <string>
 #include <string_view>
