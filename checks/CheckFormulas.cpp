@@ -77,12 +77,11 @@ double CalcMass(const TreloResult& Res, double Density, const SectionArray& Sect
   const auto area = [&Sections](SectionPlace place) {
     return Real(ComposeSection(Sections[place]).Area);
   };
-  const Real mass = (area(sectionUpPoyas) * Res.SumLenUpPoyas +
-                     area(sectionDwnPoyas) * Res.SumLenDwnPoyas +
-                     area(sectionRaskos) * Res.SumLenRaskos +
-                     area(sectionOpornRaskos) * Res.SumLenOpornRaskos +
-                     area(sectionStoyka) * Res.SumLenStoyka) *
-                    Density / 10000;
+  const Real mass =
+      (area(sectionUpPoyas) * Res.SumLenUpPoyas + area(sectionDwnPoyas) * Res.SumLenDwnPoyas +
+       area(sectionRaskos) * Res.SumLenRaskos + area(sectionOpornRaskos) * Res.SumLenOpornRaskos +
+       area(sectionStoyka) * Res.SumLenStoyka) *
+      Density / 10000;
   return mass > 0.0 ? mass : Real(0);
 }
 

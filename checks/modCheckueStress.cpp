@@ -95,8 +95,8 @@ class Check {
     for (const GroupLink& group : groups) {
       GroupCheck& block = check_.*group.Block;
       if (!IsAbsent(group)) {
-        block.KStrength = CalcStrength(block.NMax.Value, block.Area, numbers_.Ry, numbers_.Yc,
-                                       numbers_.Gn);
+        block.KStrength =
+            CalcStrength(block.NMax.Value, block.Area, numbers_.Ry, numbers_.Yc, numbers_.Gn);
       }
     }
   }
@@ -138,10 +138,8 @@ class Check {
     for (const GroupLink& group : groups) {
       GroupCheck& block = check_.*group.Block;
       const SectionRec& section = sections_[group.Place];
-      block.LimitX =
-          CalcLimitFlex(section, block.AlphaX, block.LenX, numbers_.Dynamic, messages_);
-      block.LimitY =
-          CalcLimitFlex(section, block.AlphaY, block.LenY, numbers_.Dynamic, messages_);
+      block.LimitX = CalcLimitFlex(section, block.AlphaX, block.LenX, numbers_.Dynamic, messages_);
+      block.LimitY = CalcLimitFlex(section, block.AlphaY, block.LenY, numbers_.Dynamic, messages_);
     }
   }
 

@@ -157,8 +157,8 @@ void LoadPreview::ShowDwnMarks(bool show, const LoadArrays& loads, const NumberL
   }
   for (Long joint = 0; joint <= loads.DwnPForce.UpperBound(); ++joint) {
     const double own = loads.DwnPForce[joint];
-    const Head head = own > 0 ? Head::Positive
-                              : (loads.UpPForce[joint] < 0 ? Head::Negative : Head::None);
+    const Head head =
+        own > 0 ? Head::Positive : (loads.UpPForce[joint] < 0 ? Head::Negative : Head::None);
     ShowArrow(Dwn, joint, head, NumberToText(own, locale));
   }
   for (Long panel = 0; panel <= loads.DwnDistForce.UpperBound(); ++panel) {

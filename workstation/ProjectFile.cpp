@@ -21,10 +21,10 @@ constexpr std::array<SectionPlace, sectionCount> fileOrder{
 
 void ShowOpenFailure(const RuntimeError& error, const Services& services) {
   // Reading and writing share text and title; that is intended.
-  services.Messages.Show({.Title = "WriteApplParameters",
-                          .Text = "Ошибка создания файла для записи ! err discription : \n" +
-                                  error.Description(),
-                          .Style = MessageStyle::Critical});
+  services.Messages.Show(
+      {.Title = "WriteApplParameters",
+       .Text = "Ошибка создания файла для записи ! err discription : \n" + error.Description(),
+       .Style = MessageStyle::Critical});
 }
 
 class ProjectWriter {

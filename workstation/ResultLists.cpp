@@ -47,25 +47,41 @@ class ForceList {
   std::vector<std::string> lines_;
 };
 
+/// A row of the utilisation grid; the head of a group has no coefficient.
+struct UtilisationRow {
+  std::string Text;
+  std::optional<double> Coefficient;
+};
+
 /// Rows of one group; the words are the group's own in the captions of the rows.
-void AddGroup(std::vector<Grid::Row>& rows, const std::string& header, const std::string& words,
-              const GroupCheck& check, const NumberLocale& locale) {
-  const auto add = [&](std::string caption, double value) {
-    rows.push_back({std::move(caption), FormatShown(value, coefficientDecimals, locale)});
-  };
-  rows.push_back({header, "***"});
+void AddGroup(std::vector<UtilisationRow>& rows, const std::string& header,
+              const std::string& words, const GroupCheck& check) {
+  rows.push_back({header, std::nullopt});
   if (check.KStrength > 0) {
-    add("Прочность " + words, check.KStrength);
+    rows.push_back({"Прочность " + words, check.KStrength});
   }
   if (check.KStabX > 0) {
-    add("Устойчивость " + words + " в плоскости фермы", check.KStabX);
+    rows.push_back({"Устойчивость " + words + " в плоскости фермы", check.KStabX});
   }
   if (check.KStabY > 0) {
-    add("Устойчивость " + words + " из плоскости фермы", check.KStabY);
+    rows.push_back({"Устойчивость " + words + " из плоскости фермы", check.KStabY});
   }
-  add("Гибкость " + words + " ", std::max(check.KFlexX, check.KFlexY));
-  add("Гибкость " + words + " по предельной гибкости, заданной пользователем",
-      std::max(check.KUserX, check.KUserY));
+  rows.push_back({"Гибкость " + words + " ", std::max(check.KFlexX, check.KFlexY)});
+  rows.push_back({"Гибкость " + words + " по предельной гибкости, заданной пользователем",
+                  std::max(check.KUserX, check.KUserY)});
+}
+
+std::vector<UtilisationRow> UtilisationRows(Long treloType, const CheckResult& check) {
+  std::vector<UtilisationRow> rows;
+  AddGroup(rows, "*** Верхний пояс", "верхнего пояса", check.UpPoyas);
+  AddGroup(rows, "*** Нижний пояс", "нижнего пояса", check.DwnPoyas);
+  AddGroup(rows, "*** Раскосы", "раскосов", check.Raskos);
+  // A Latin p in this header and a Latin C in the next are the established texts.
+  AddGroup(rows, "*** Опорные pаскосы", "опорных раскосов", check.OpornRaskos);
+  if (HasVerticals(treloType)) {
+    AddGroup(rows, "*** Cтойки", "стоек", check.Stoyka);
+  }
+  return rows;
 }
 
 }  // namespace
@@ -113,16 +129,21 @@ std::vector<std::string> BuildForceList(Long treloType, const TreloResult& resul
 
 std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& check,
                                             const NumberLocale& locale) {
-  std::vector<Grid::Row> rows;
-  AddGroup(rows, "*** Верхний пояс", "верхнего пояса", check.UpPoyas, locale);
-  AddGroup(rows, "*** Нижний пояс", "нижнего пояса", check.DwnPoyas, locale);
-  AddGroup(rows, "*** Раскосы", "раскосов", check.Raskos, locale);
-  // A Latin p in this header and a Latin C in the next are the established texts.
-  AddGroup(rows, "*** Опорные pаскосы", "опорных раскосов", check.OpornRaskos, locale);
-  if (HasVerticals(treloType)) {
-    AddGroup(rows, "*** Cтойки", "стоек", check.Stoyka, locale);
+  std::vector<Grid::Row> grid;
+  for (UtilisationRow& row : UtilisationRows(treloType, check)) {
+    grid.push_back({std::move(row.Text),
+                    row.Coefficient ? FormatShown(*row.Coefficient, coefficientDecimals, locale)
+                                    : std::string("***")});
   }
-  return rows;
+  return grid;
+}
+
+std::vector<bool> RowsOverLimit(Long treloType, const CheckResult& check) {
+  std::vector<bool> over;
+  for (const UtilisationRow& row : UtilisationRows(treloType, check)) {
+    over.push_back(row.Coefficient > 1);
+  }
+  return over;
 }
 
 std::vector<std::string> ProgibLines(const ProgibResult& progib, const NumberLocale& locale) {

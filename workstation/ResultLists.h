@@ -8,6 +8,7 @@
 #include "analysis/modDatatypes.h"
 #include "platform/Controls.h"
 #include "platform/NumberText.h"
+#include "workstation/ResultPicture.h"
 
 namespace trelonit {
 
@@ -25,6 +26,8 @@ struct ResultLists {
   /// Rows of two texts, without the head row.
   std::vector<Grid::Row> MSFlexGKoefUse;
   std::optional<ProgibResult> Progib;
+  /// The same as a drawing.
+  ResultPicture Picture;
 };
 
 /// Bar forces by group, reactions and mass, line by line. Raises 9 for an empty result.
@@ -34,6 +37,9 @@ std::vector<std::string> BuildForceList(Long treloType, const TreloResult& resul
 /// The utilisation coefficients by group. Strength and stability that are not above 0 have no row.
 std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& check,
                                             const NumberLocale& locale);
+
+/// By row of that grid: whether its coefficient is above 1.
+std::vector<bool> RowsOverLimit(Long treloType, const CheckResult& check);
 
 /// The lines on the deflection that follow the forces.
 std::vector<std::string> ProgibLines(const ProgibResult& progib, const NumberLocale& locale);

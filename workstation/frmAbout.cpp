@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "platform/Guard.h"
+#include "platform/Text.h"
 #include "workstation/ApplicationInfo.h"
 #include "workstation/modUtility.h"
 
@@ -43,7 +44,7 @@ std::optional<std::string> ReadRegistryText(RegistryService& registry, RegistryR
     return "&h" + Hexadecimal(*number);
   }
   std::string text = std::get<std::string>(*value);
-  if (text.size() > registryBuffer) {
+  if (Characters(text).size() > registryBuffer) {
     return std::nullopt;
   }
   if (!text.empty() && text.back() == '\0') {

@@ -14,6 +14,7 @@ void frmKoeffOfUse::Fill(const ResultLists& lists) {
   rows.insert(rows.end(), lists.MSFlexGKoefUse.begin(), lists.MSFlexGKoefUse.end());
   MSFlexGKoefUse.SetRows(std::move(rows));
   lstForces.SetList(lists.lstForces);
+  Picture = lists.Picture;
 }
 
 void frmKoeffOfUse::cmdClose_Click() {

@@ -18,6 +18,8 @@ class frmKoeffOfUse {
   Label Form;
   Grid MSFlexGKoefUse;
   ListBox lstForces;
+  /// The truss with its forces and the groups with their largest coefficient, beside the lists.
+  ResultPicture Picture;
   Label framKoef;
   Label framForces;
   Label cmdClose;

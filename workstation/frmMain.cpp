@@ -13,10 +13,12 @@ namespace {
 constexpr Integer aboutString = 101;
 constexpr Integer nodalToolIcon = 102;
 constexpr Integer distributedToolIcon = 103;
-constexpr Integer nodalPreviewBitmap = 309;
 constexpr Integer schemeBitmapBase = 100;
 constexpr int captionInterval = 200;
 constexpr std::size_t longestUserName = 25;
+constexpr Integer schemeTab = 0;
+constexpr Integer sectionTab = 1;
+constexpr Integer calculateTab = 2;
 
 /// A window that this program does not have opens as nothing.
 void Open(const std::function<void()>& opener) {
@@ -57,8 +59,7 @@ void frmMain::Form_Load() {
     LoadCatalogue();
     imgPForce.Show(services_.Resources.Icon(nodalToolIcon));
     imgDistForce.Show(services_.Resources.Icon(distributedToolIcon));
-    imgLoadPreview.Show(services_.Resources.Bitmap(nodalPreviewBitmap));
-    MarkLoadTool(true);
+    ChooseLoadTool(true);
     txtForceVal.SetText("0");
     chkDinloadEnable.SetChecked(false);
     ReDimLoadArrays();
@@ -66,7 +67,6 @@ void frmMain::Form_Load() {
     chkOwnWeight.SetChecked(false);
     Model.OwnWeightPerMetre = 0;
     chkAllPanels.SetChecked(false);
-    chkAllPanels.SetEnabled(false);
     tmrRuningString.SetInterval(captionInterval);
     tmrRuningString.SetEnabled(true);
   });
@@ -140,8 +140,15 @@ void frmMain::ConnectEvents() {
   txtLengthF.Change = dropProgib;
   txtHight.Change = dropProgib;
   txtLenOporn.Change = dropProgib;
-  optBP.Click = dropProgib;
-  optNP.Click = dropProgib;
+  // The two chords share a frame: choosing one clears the other.
+  optBP.Click = [this, dropProgib] {
+    optNP.SetValue(false);
+    dropProgib();
+  };
+  optNP.Click = [this, dropProgib] {
+    optBP.SetValue(false);
+    dropProgib();
+  };
 
   for (Long option = 1; option <= groupCount; ++option) {
     optElementSection[option].Click = [this, option] { optElementSection_Click(option); };
@@ -158,9 +165,6 @@ void frmMain::ConnectEvents() {
 }
 
 void frmMain::tabMain_Click(Integer previousTab) {
-  constexpr Integer schemeTab = 0;
-  constexpr Integer sectionTab = 1;
-  constexpr Integer calculateTab = 2;
   Guard(services_.Messages, "tabMain_Click", [&] {
     if (tabMain.Tab() <= previousTab) {
       return;
@@ -197,7 +201,7 @@ std::vector<frmMain::MenuItem> frmMain::Menus() {
                  item("Exit", "Выход Alt+F4", [this] { Exit_Click(); })}},
       {.Name = "mnuCalcmain",
        .Caption = "Расчет",
-       .Items = {item("mnuCalc", "Вычислить", [this] { cmdCalculate_Click(); }),
+       .Items = {item("mnuCalc", "Вычислить", [this] { mnuCalc_Click(); }),
                  item("mnuSearch", "Подобрать ...", openers_.CalcAndSelect),
                  item("mnuOtchet", "Отчет расчета ...", openers_.ShowOtchet)}},
       {.Name = "DataBase",
@@ -213,6 +217,26 @@ std::vector<frmMain::MenuItem> frmMain::Menus() {
        .Items = {item("About", "&О программе...", openers_.ShowAbout),
                  item("UserHelp", "Справка", [this] { UserHelp_Click(); })}},
   };
+}
+
+frmMain::MenuItem frmMain::FindMenuItem(const std::string& name) {
+  for (const MenuItem& menu : Menus()) {
+    for (const MenuItem& item : menu.Items) {
+      if (item.Name == name) {
+        return item;
+      }
+    }
+  }
+  return {.Name = name, .Enabled = false};
+}
+
+void frmMain::mnuCalc_Click() {
+  // The button stands on the last tab, and on the way there the geometry is checked and taken. The
+  // menu can be reached from everywhere, so it takes the same way.
+  tabMain.SetTab(calculateTab);
+  if (tabMain.Tab() == calculateTab) {
+    cmdCalculate_Click();
+  }
 }
 
 void frmMain::mnuProfile_Click() {

@@ -54,6 +54,10 @@ class frmMain {
   void Form_Load();
   void tabMain_Click(Integer previousTab);
   std::vector<MenuItem> Menus();
+  /// The entry with this name; one without a command, disabled, where there is none.
+  MenuItem FindMenuItem(const std::string& name);
+  bool HasSteelWindow() const { return static_cast<bool>(openers_.ShowSteel); }
+  void mnuCalc_Click();
   void mnuProfile_Click();
   void optio_Click();
   void cmdSteelGet_Click();
@@ -192,7 +196,8 @@ class frmMain {
 
   void FillKnotList(bool upper);
   void FillList(Long last);
-  void MarkLoadTool(bool nodal);
+  /// Marks the tool; its picture and the box that only counts with the other one follow it.
+  void ChooseLoadTool(bool nodal);
   void BuildChord(bool upper);
   void ColourChosenMark();
   void ShowMarksOfShownChord();
@@ -202,6 +207,8 @@ class frmMain {
 
   ProjectRecord CollectProject() const;
   void ApplyProject(const ProjectRecord& record);
+  /// Sizes and pictures of all groups as the model has them.
+  void ShowSectionSummary();
   void FillInputs(const ProjectRecord& record);
 
   Services services_;

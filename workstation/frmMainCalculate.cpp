@@ -30,9 +30,12 @@ void frmMain::cmdCalculate_Click() {
     }
     const Long scheme = Model.TreloData.TreloType;
     ResultLists lists{
-        .lstForces = BuildForceList(scheme, Model.TreloResult, Model.CheckData.Mass,
-                                    services_.Locale),
-        .MSFlexGKoefUse = BuildUtilisationGrid(scheme, Model.CheckData, services_.Locale)};
+        .lstForces =
+            BuildForceList(scheme, Model.TreloResult, Model.CheckData.Mass, services_.Locale),
+        .MSFlexGKoefUse = BuildUtilisationGrid(scheme, Model.CheckData, services_.Locale),
+        .Picture = {.Bars = BuildBars(Model.TreloData, Model.TreloResult),
+                    .Use = BuildUse(scheme, Model.CheckData),
+                    .OverLimit = RowsOverLimit(scheme, Model.CheckData)}};
     if (chkProgib.Checked()) {
       lists.Progib = CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(),
                                  services_.Locale, services_.Messages);

@@ -146,8 +146,8 @@ void frmMain::CheckGeometry() {
   // 2.2 is the tangent of about 65.6 degrees for a diagonal across one panel; in scheme 3 it runs
   // across half a panel.
   const Real slope = H * n / L;
-  const bool steep = data.TreloType == schemeWithoutVerticals ? slope > 4.4
-                                                              : slope > 2.2 || H / a > 2.2;
+  const bool steep =
+      data.TreloType == schemeWithoutVerticals ? slope > 4.4 : slope > 2.2 || H / a > 2.2;
   if (steep) {
     WarnProportions();
   }

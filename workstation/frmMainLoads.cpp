@@ -44,9 +44,12 @@ void frmMain::FillKnotList(bool upper) {
   }
 }
 
-void frmMain::MarkLoadTool(bool nodal) {
+void frmMain::ChooseLoadTool(bool nodal) {
   imgPForce.SetMarked(nodal);
   imgDistForce.SetMarked(!nodal);
+  imgLoadPreview.Show(
+      services_.Resources.Bitmap(nodal ? nodalPreviewBitmap : distributedPreviewBitmap));
+  chkAllPanels.SetEnabled(!nodal);
 }
 
 void frmMain::NotifyPreview() {
@@ -89,21 +92,17 @@ void frmMain::RefreshLoadPreview() {
 
 void frmMain::imgPForce_Click() {
   Guard(services_.Messages, "imgPForce_Click", [&] {
-    MarkLoadTool(true);
-    imgLoadPreview.Show(services_.Resources.Bitmap(nodalPreviewBitmap));
+    ChooseLoadTool(true);
     FillKnotListP(tglUpPoyas.Value());
     chkAllPanels.SetChecked(false);
-    chkAllPanels.SetEnabled(false);
     ColourChosenMark();
   });
 }
 
 void frmMain::imgDistForce_Click() {
   Guard(services_.Messages, "imgDistForce_Click", [&] {
-    MarkLoadTool(false);
-    imgLoadPreview.Show(services_.Resources.Bitmap(distributedPreviewBitmap));
+    ChooseLoadTool(false);
     FillKnotListQ(tglUpPoyas.Value());
-    chkAllPanels.SetEnabled(true);
     ColourChosenMark();
   });
 }
@@ -157,8 +156,7 @@ void frmMain::cmdAddForce_Click() {
       joint = Real(joint) + force;
       Preview.ShowJoint(upper, number, joint, services_.Locale);
     } else {
-      BoundedArray<double>& panels =
-          upper ? Model.Loads.UpDistForce : Model.Loads.DwnDistForce;
+      BoundedArray<double>& panels = upper ? Model.Loads.UpDistForce : Model.Loads.DwnDistForce;
       const bool all = chkAllPanels.Checked();
       const Long first = all ? panels.LowerBound() : number;
       const Long last = all ? panels.UpperBound() : number;

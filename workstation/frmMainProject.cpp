@@ -85,16 +85,13 @@ void frmMain::ApplyProject(const ProjectRecord& record) {
   FillInputs(record);
 
   Model.ElementSection = record.Sections;
+  ShowSectionSummary();
   // Intended: the inputs show the group of the file while the option that was set before stays
   // set. Showing a group raises the clicks of the lists, and those write to the group of the set
   // option; so the file's sections are put in once more, and their names after that.
   optElementSection_Click(record.ActiveGroup);
   Model.ElementSection = record.Sections;
-  for (Long option = 1; option <= groupCount; ++option) {
-    const SectionRec& section = record.Sections[PlaceOfOption(option)];
-    lblProfilName[option].SetCaption(section.Profile.Name.Trimmed());
-    imgProfileSec[option].Show(imgProfileSecSelect[section.Layout].Shown());
-  }
+  ShowSectionSummary();
 
   chkDinloadEnable.SetChecked(record.DinloadOn != 0);
   chkOwnWeight.SetChecked(record.OwnWeightOn != 0);
@@ -102,12 +99,25 @@ void frmMain::ApplyProject(const ProjectRecord& record) {
   // Own weight that was saved inside the loads stays there as if the user had entered it.
   Model.OwnWeightAdded = false;
   Model.OwnWeightPerMetre = 0;
-  MarkLoadTool(record.PForceTool != 0);
+  ChooseLoadTool(record.PForceTool != 0);
+  // Before the chord changes too: its click shows loads for which there must be marks.
+  RefreshLoadPreview();
   tglUpPoyas.SetValue(true);
   tglDwnPoyas.SetValue(false);
   RefreshLoadPreview();
   if (record.PForceTool == 0) {
     chkAllPanels.SetChecked(record.AllPanelsOn != 0);
+  }
+  // The geometry of the file is checked and taken on the way to the last tab, as if it had just
+  // been entered. Staying there would calculate the new loads on the old truss.
+  tabMain.SetTab(0);
+}
+
+void frmMain::ShowSectionSummary() {
+  for (Long option = 1; option <= groupCount; ++option) {
+    const SectionRec& section = Model.ElementSection[PlaceOfOption(option)];
+    lblProfilName[option].SetCaption(section.Profile.Name.Trimmed());
+    imgProfileSec[option].Show(imgProfileSecSelect[section.Layout].Shown());
   }
 }
 

@@ -96,8 +96,7 @@ void frmMain::optElementSection_Click(Long option) {
     FillProfileLists(section.Layout);
     FillSizes(section.TypeIdx);
     cmbTypeProfile.SetText(Model.ProfileTypes[section.TypeIdx].Name.Trimmed());
-    cmbSectType.SetText(
-        Model.ProfileTypes[section.TypeIdx].Rec[section.SizeIdx].Name.Trimmed());
+    cmbSectType.SetText(Model.ProfileTypes[section.TypeIdx].Rec[section.SizeIdx].Name.Trimmed());
   });
 }
 
@@ -162,9 +161,8 @@ void frmMain::cmbSectType_Click() {
 }
 
 void frmMain::cmbGdist_Click() {
-  Guard(services_.Messages, "cmbGdist_Click", [&] {
-    SelectedSection().Gdist = TextToNumber(cmbGdist.Text(), services_.Locale);
-  });
+  Guard(services_.Messages, "cmbGdist_Click",
+        [&] { SelectedSection().Gdist = TextToNumber(cmbGdist.Text(), services_.Locale); });
 }
 
 void frmMain::WithdrawOwnWeightOfOldSection() {

@@ -61,7 +61,8 @@ BoundedArray<double> SplitDoubles(std::string_view text, std::string_view delimi
                                   const NumberLocale& locale) {
   BoundedArray<double> values(0, -1);
   for (std::size_t start = 0;;) {
-    const std::size_t end = text.find(delimiter, start);
+    const std::size_t end =
+        delimiter.empty() ? std::string_view::npos : text.find(delimiter, start);
     values.Append(ParseNumber(text.substr(start, end - start), locale));
     if (end == std::string_view::npos) {
       return values;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "analysis/CheckRecord.h"
+#include "analysis/modDatatypes.h"
+#include "workstation/ElementGroups.h"
+
+namespace trelonit {
+
+/// A bar of the truss with what it carries. Coordinates in metres from the left end of the lower
+/// edge of the truss, Y upward; the force in tonnes, positive in tension.
+struct PictureBar {
+  GroupOption Group = optionUpPoyas;
+  Long Number = 0;  ///< as in the force list: from the left, from 1 in each group
+  double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
+  double Force = 0;
+};
+
+/// The largest coefficient of a group.
+struct GroupUse {
+  GroupOption Group = optionUpPoyas;
+  double Value = 0;
+};
+
+/// What the results window draws beside its lists.
+struct ResultPicture {
+  std::vector<PictureBar> Bars;
+  std::vector<GroupUse> Use;
+  /// By row of the utilisation grid, its head not counted: whether the coefficient is above 1.
+  std::vector<bool> OverLimit;
+};
+
+/// The bars of schemes 1 to 4; nothing for a reserved scheme or where the forces are not those of
+/// this truss.
+std::vector<PictureBar> BuildBars(const TreloData& data, const TreloResult& result);
+
+/// The groups in the order of the results; no verticals where the scheme has none.
+std::vector<GroupUse> BuildUse(Long treloType, const CheckResult& check);
+
+/// The name of a group for the user.
+std::string GroupName(GroupOption group);
+
+}  // namespace trelonit
