@@ -1,0 +1,69 @@
+#include <QApplication>
+#include <cstdio>
+#include <exception>
+#include <optional>
+#include <string_view>
+
+#include "apps/trelonit/DesktopSession.h"
+#include "platform/RuntimeError.h"
+#include "windows/Desktop.h"
+#include "workstation/ApplicationInfo.h"
+
+namespace {
+
+/// A failure in a handler without a tail of its own is shown; the program goes on.
+class Application : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    try {
+      return QApplication::notify(receiver, event);
+    } catch (const trelonit::RuntimeError& error) {
+      trelonit::DesktopMessages().Show(
+          trelonit::ErrorMessage(trelonit::applicationTitle, error.Number(), error.Description()));
+    }
+    return false;
+  }
+};
+
+/// The answer to --help or --version, to a wrong command line its line; nothing to go on.
+/// They need no display, so they come before the application.
+std::optional<int> AnswerCommandLine(int argc, char** argv) {
+  if (argc < 2) {
+    return std::nullopt;
+  }
+  const std::string_view argument = argv[1];
+  if (argc == 2 && argument == "--version") {
+    std::printf("trelonit %s\n", trelonit::applicationVersion);
+    return 0;
+  }
+  if (argc == 2 && (argument == "--help" || argument == "-h")) {
+    std::printf(
+        "Использование: trelonit\n\n"
+        "Расчет плоских стальных стропильных ферм: открывает рабочее окно программы.\n"
+        "Проекты открываются из меню «Файл». Расчет без окон: trelonit-cli --help.\n\n"
+        "  -h, --help   показать эту справку\n"
+        "  --version    показать версию\n");
+    return 0;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (const std::optional<int> answer = AnswerCommandLine(argc, argv)) {
+    return *answer;
+  }
+  try {
+    Application application(argc, argv);
+    const trelonit::Desktop desktop;
+    trelonit::DesktopSession session;
+    session.Start();
+    return QApplication::exec();
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "trelonit: %s\n", error.what());
+    return 1;
+  }
+}

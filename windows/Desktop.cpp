@@ -1,0 +1,23 @@
+#include "windows/Desktop.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+
+#include "workstation/ApplicationInfo.h"
+
+namespace trelonit {
+
+Desktop::Desktop() {
+  QApplication::setOrganizationName(QStringLiteral("Trelonit"));
+  QApplication::setApplicationName(QStringLiteral("trelonit"));
+  QApplication::setApplicationDisplayName(QString());
+  QApplication::setApplicationVersion(QLatin1String(applicationVersion));
+  QApplication::setDesktopFileName(QStringLiteral("trelonit"));
+  if (buttons_.load(QStringLiteral("qtbase_ru"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&buttons_);
+  }
+}
+
+}  // namespace trelonit

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QTranslator>
+
+namespace trelonit {
+
+/// What the toolkit is told once about this program: its name (by which settings are found), the
+/// Russian of its own buttons. Lives as long as the application object.
+class Desktop {
+ public:
+  Desktop();
+
+ private:
+  QTranslator buttons_;
+};
+
+}  // namespace trelonit

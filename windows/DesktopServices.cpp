@@ -1,0 +1,125 @@
+#include "windows/DesktopServices.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QLocale>
+#include <QMessageBox>
+#include <QProcess>
+#include <QSettings>
+#include <QUrl>
+
+#include "platform/RuntimeError.h"
+#include "windows/Binding.h"
+#include "workstation/ApplicationInfo.h"
+
+namespace trelonit {
+
+namespace {
+
+QMessageBox::Icon IconOf(MessageStyle style) {
+  switch (style) {
+    case MessageStyle::Critical:
+      return QMessageBox::Critical;
+    case MessageStyle::QuestionYesNo:
+      return QMessageBox::Question;
+    case MessageStyle::Exclamation:
+      return QMessageBox::Warning;
+    case MessageStyle::Information:
+      return QMessageBox::Information;
+    case MessageStyle::Plain:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+std::string RunDialog(const FileDialogRequest& request, QFileDialog::AcceptMode mode) {
+  // "description (*.ext)|*.ext": Qt takes the description with its pattern in brackets.
+  const QString filter = ToQt(request.Filter).section(QLatin1Char('|'), 0, 0);
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.Title), {}, filter);
+  dialog.setAcceptMode(mode);
+  dialog.setDefaultSuffix(ToQt(request.Extension));
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile
+                                                     : QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return {};
+  }
+  return FromQt(dialog.selectedFiles().front());
+}
+
+QString SettingName(const std::string& section, const std::string& key) {
+  return ToQt(section) + QLatin1Char('/') + ToQt(key);
+}
+
+}  // namespace
+
+MessageAnswer DesktopMessages::Show(const Message& message) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(message.Title.empty() ? QString::fromUtf8(applicationTitle)
+                                           : ToQt(message.Title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(message.Text));
+  box.setIcon(IconOf(message.Style));
+  const bool question = message.Style == MessageStyle::QuestionYesNo;
+  box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  // Closing a question without an answer is the safe one.
+  box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
+  const int answer = box.exec();
+  if (!question) {
+    return MessageAnswer::Ok;
+  }
+  return answer == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+}
+
+std::string DesktopDialogs::AskSaveName(const FileDialogRequest& request) {
+  return RunDialog(request, QFileDialog::AcceptSave);
+}
+
+std::string DesktopDialogs::AskOpenName(const FileDialogRequest& request) {
+  return RunDialog(request, QFileDialog::AcceptOpen);
+}
+
+bool DesktopClipboard::HasText() {
+  return !QApplication::clipboard()->text().isEmpty();
+}
+
+std::string DesktopClipboard::Text() {
+  return FromQt(QApplication::clipboard()->text());
+}
+
+void DesktopClipboard::SetText(const std::string& text) {
+  QApplication::clipboard()->setText(ToQt(text));
+}
+
+std::string DesktopSettings::Get(const std::string& section, const std::string& key,
+                                 const std::string& fallback) {
+  return FromQt(QSettings().value(SettingName(section, key), ToQt(fallback)).toString());
+}
+
+void DesktopSettings::Set(const std::string& section, const std::string& key,
+                          const std::string& value) {
+  QSettings().setValue(SettingName(section, key), ToQt(value));
+}
+
+void DesktopShell::StartProgram(const std::string& path) {
+  if (!QProcess::startDetached(ToQt(path), {})) {
+    throw RuntimeError(ErrorNumber::FileNotFound);
+  }
+}
+
+void DesktopShell::OpenHelp(const std::string& path) {
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)))) {
+    throw RuntimeError(ErrorNumber::FileNotFound);
+  }
+}
+
+NumberLocale DesktopNumberLocale() {
+  const QLocale locale;
+  return {.DecimalSeparator = FromQt(locale.decimalPoint()),
+          .GroupSeparator = FromQt(locale.groupSeparator()),
+          .GroupSize = 3};
+}
+
+}  // namespace trelonit

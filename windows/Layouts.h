@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QString>
+
+namespace trelonit {
+
+/// A group box with a layout of its own.
+template <class Layout>
+Layout* AddGroup(QBoxLayout* parent, const QString& title, int stretch = 0) {
+  auto* box = new QGroupBox(title);
+  auto* layout = new Layout(box);
+  parent->addWidget(box, stretch);
+  return layout;
+}
+
+/// A label that leads to the widget, by its mnemonic and for those who hear the screen.
+inline QLabel* LabelFor(QWidget* widget, const QString& caption) {
+  auto* label = new QLabel(caption);
+  label->setBuddy(widget);
+  widget->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
+  return label;
+}
+
+/// The hint also tells those who hear the screen.
+inline void SetHint(QWidget* widget, const QString& hint) {
+  widget->setToolTip(hint);
+  widget->setAccessibleDescription(hint);
+}
+
+}  // namespace trelonit

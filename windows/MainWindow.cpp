@@ -1,0 +1,148 @@
+#include "windows/MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QIcon>
+#include <QLocale>
+#include <QMenuBar>
+#include <QStatusBar>
+
+#include "windows/Binding.h"
+#include "windows/LoadTab.h"
+#include "windows/LockKeys.h"
+#include "windows/SchemeTab.h"
+#include "windows/SectionTab.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr int statusInterval = 500;
+constexpr Long hoptPanel = 6;
+constexpr const char* settingsSection = "Window";
+constexpr const char* placeKey = "Geometry";
+
+/// The keys that the captions leave to the desktop.
+QKeySequence ShortcutOf(const std::string& item) {
+  if (item == "SaveParam") {
+    return QKeySequence::Save;
+  }
+  if (item == "Restore") {
+    return QKeySequence::Open;
+  }
+  if (item == "Exit") {
+    return QKeySequence(Qt::ALT | Qt::Key_F4);
+  }
+  if (item == "mnuCalc") {
+    return QKeySequence(Qt::Key_F9);
+  }
+  if (item == "UserHelp") {
+    return QKeySequence::HelpContents;
+  }
+  return {};
+}
+
+}  // namespace
+
+MainWindow::MainWindow(frmMain& form, SettingsService& settings)
+    : form_(form), settings_(settings) {
+  setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
+  AddTabs();
+  AddMenus();
+  AddStatusBar();
+
+  Follow(form_.Form, this, [this] {
+    setWindowTitle(ToQt(form_.Form.Caption()));
+    // Before the first show there is nothing to hide or to bring back.
+    if (testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+      setVisible(form_.Form.Visible());
+    }
+  });
+  QObject::connect(&caption_, &QTimer::timeout, this, [this] { form_.tmrRuningString_Timer(); });
+  Bind(form_.tmrRuningString, &caption_);
+  RestorePlace();
+}
+
+void MainWindow::AddTabs() {
+  auto* tabs = new QTabWidget;
+  tabs->setObjectName(QStringLiteral("tabMain"));
+  tabs->addTab(new SchemeTab(form_), QStringLiteral("Параметры фермы"));
+  tabs->addTab(new SectionTab(form_), QStringLiteral("Сечение элементов"));
+  tabs->addTab(new LoadTab(form_), QStringLiteral("Вычислить"));
+  Bind(form_.tabMain, tabs);
+  setCentralWidget(tabs);
+}
+
+void MainWindow::AddMenus() {
+  for (const frmMain::MenuItem& menu : form_.Menus()) {
+    AddMenu(menuBar()->addMenu(ToQt(menu.Caption)), menu.Items);
+  }
+}
+
+void MainWindow::AddMenu(QMenu* menu, const std::vector<frmMain::MenuItem>& items) {
+  for (const frmMain::MenuItem& item : items) {
+    QAction* action = menu->addAction(ToQt(item.Caption));
+    action->setObjectName(ToQt(item.Name));
+    action->setEnabled(item.Enabled);
+    action->setShortcut(ShortcutOf(item.Name));
+    if (item.Name == "Exit") {
+      // The caption names its key already.
+      action->setShortcutVisibleInContextMenu(false);
+      action->setText(ToQt(item.Caption).replace(QLatin1Char(' '), QLatin1Char('\t')));
+    }
+    QObject::connect(action, &QAction::triggered, this, item.Click);
+  }
+}
+
+void MainWindow::AddStatusBar() {
+  const auto panel = [this](const QString& name, const QString& text = {}) {
+    auto* label = new QLabel(text);
+    label->setAccessibleName(name);
+    statusBar()->addPermanentWidget(label);
+    return label;
+  };
+  auto* hopt = new QLabel;
+  hopt->setObjectName(QStringLiteral("Hopt"));
+  hopt->setToolTip(QStringLiteral("Отображает оптимальную высоту фермы"));
+  hopt->setAccessibleDescription(hopt->toolTip());
+  Bind(form_.StatusBarMain[hoptPanel], hopt);
+  statusBar()->addWidget(hopt);
+  time_ = panel(QStringLiteral("Время"));
+  date_ = panel(QStringLiteral("Дата"));
+  num_ = panel(QStringLiteral("Num Lock"), QStringLiteral("NUM"));
+  caps_ = panel(QStringLiteral("Caps Lock"), QStringLiteral("CAPS"));
+  scroll_ = panel(QStringLiteral("Scroll Lock"), QStringLiteral("SCRL"));
+  QObject::connect(&status_, &QTimer::timeout, this, [this] { ShowStatus(); });
+  status_.start(statusInterval);
+  ShowStatus();
+}
+
+void MainWindow::ShowStatus() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QLocale locale;
+  time_->setText(locale.toString(now.time(), QStringLiteral("HH:mm")));
+  date_->setText(locale.toString(now.date(), QLocale::ShortFormat));
+  const LockKeys keys = ReadLockKeys();
+  num_->setEnabled(keys.Num);
+  caps_->setEnabled(keys.Caps);
+  scroll_->setEnabled(keys.Scroll);
+}
+
+void MainWindow::RestorePlace() {
+  resize(1180, 700);
+  const std::string stored = settings_.Get(settingsSection, placeKey, "");
+  restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored)));
+}
+
+void MainWindow::StorePlace() {
+  settings_.Set(settingsSection, placeKey, saveGeometry().toBase64().toStdString());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  StorePlace();
+  event->accept();
+  form_.Exit_Click();
+}
+
+}  // namespace trelonit
