@@ -8,7 +8,15 @@ Program::Program(Services services, Windows windows)
     : services_(services),
       windows_(std::move(windows)),
       about_(services),
-      main_(services, MakeOpeners()) {}
+      dataManager_(services, windows_.EndProgram),
+      main_(services, MakeOpeners()),
+      steel_(services, {.lblStillName = main_.lblStillName,
+                        .txtRy = main_.txtRy,
+                        .txtNadegnost = main_.txtNadegnost,
+                        .txtUsloviyaRabot = main_.txtUsloviyaRabot}),
+      paramerty_(services, {.txtModulYung = main_.txtModulYung,
+                            .txtDensitSteel = main_.txtDensitSteel,
+                            .txtLimitFlex = main_.txtLimitFlex}) {}
 
 frmMain::Openers Program::MakeOpeners() {
   frmMain::Openers openers;
@@ -19,14 +27,31 @@ frmMain::Openers Program::MakeOpeners() {
       windows_.ShowKoeffOfUse(koeffOfUse_);
     }
   };
-  if (windows_.ShowAbout) {
-    openers.ShowAbout = [this] {
-      about_.Form_Load();
-      windows_.ShowAbout(about_);
-    };
+  // A form is loaded, then shown until the user closes it; without a window for it there is no way
+  // to it either.
+  const auto window = [](auto& show, auto& form) {
+    return show ? std::function<void()>([&show, &form] {
+      form.Form_Load();
+      show(form);
+    })
+                : std::function<void()>();
+  };
+  openers.ShowAbout = window(windows_.ShowAbout, about_);
+  openers.ShowSteel = window(windows_.ShowSteel, steel_);
+  openers.ShowParamerty = window(windows_.ShowParamerty, paramerty_);
+  openers.ShowDataManager = window(windows_.ShowDataManager, dataManager_);
+  if (windows_.ShowSearch) {
+    openers.ShowSearch = [this](const SelectionProposal& proposal) { return OpenSearch(proposal); };
   }
   openers.EndProgram = windows_.EndProgram;
   return openers;
+}
+
+bool Program::OpenSearch(const SelectionProposal& proposal) {
+  lastProposal_ = proposal;
+  search_.Fill(proposal, main_.imgProfileSec, main_.Model.TreloData.TreloType);
+  windows_.ShowSearch(search_);
+  return search_.SearchApplied;
 }
 
 }  // namespace trelonit

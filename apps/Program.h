@@ -2,10 +2,14 @@
 
 #include <functional>
 
+#include "catalogue/frmDataManager.h"
+#include "checks/frmParamerty.h"
+#include "checks/frmSteel.h"
 #include "platform/Services.h"
 #include "workstation/frmAbout.h"
 #include "workstation/frmKoeffOfUse.h"
 #include "workstation/frmMain.h"
+#include "workstation/frmSearch.h"
 
 namespace trelonit {
 
@@ -17,6 +21,10 @@ class Program {
   struct Windows {
     std::function<void(frmKoeffOfUse&)> ShowKoeffOfUse;
     std::function<void(frmAbout&)> ShowAbout;
+    std::function<void(frmSearch&)> ShowSearch;
+    std::function<void(frmSteel&)> ShowSteel;
+    std::function<void(frmParamerty&)> ShowParamerty;
+    std::function<void(frmDataManager&)> ShowDataManager;
     std::function<void()> EndProgram;
   };
 
@@ -25,16 +33,25 @@ class Program {
   frmMain& Main() { return main_; }
   /// The results of the last Calculate that came to its end; nothing before one did.
   const std::optional<ResultLists>& LastResults() const { return lastResults_; }
+  /// What automatic selection proposed last; nothing before it did.
+  const std::optional<SelectionProposal>& LastProposal() const { return lastProposal_; }
 
  private:
   frmMain::Openers MakeOpeners();
+  bool OpenSearch(const SelectionProposal& proposal);
 
   Services services_;
   Windows windows_;
   std::optional<ResultLists> lastResults_;
+  std::optional<SelectionProposal> lastProposal_;
   frmKoeffOfUse koeffOfUse_;
   frmAbout about_;
+  frmSearch search_;
+  frmDataManager dataManager_;
   frmMain main_;
+  // These two write to controls of the main form.
+  frmSteel steel_;
+  frmParamerty paramerty_;
 };
 
 }  // namespace trelonit

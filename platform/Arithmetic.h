@@ -25,8 +25,8 @@ class Real {
  public:
   constexpr Real() = default;
   // Implicit both ways on purpose: records hold plain Doubles, formulas work on Reals.
-  constexpr Real(double value) : value_(value) {}           // NOLINT(google-explicit-constructor)
-  constexpr operator double() const { return value_; }      // NOLINT(google-explicit-constructor)
+  constexpr Real(double value) : value_(value) {}       // NOLINT(google-explicit-constructor)
+  constexpr operator double() const { return value_; }  // NOLINT(google-explicit-constructor)
 
   Real operator-() const { return {-value_}; }
   Real& operator+=(Real other) { return *this = *this + other; }
@@ -52,43 +52,35 @@ class Real {
 // Exact matches for the mixed forms: without them "Real * 2" would be ambiguous with the
 // built-in operators.
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator+(Real a, T b) {
+requires std::is_arithmetic_v<T> Real operator+(Real a, T b) {
   return a + Real(static_cast<double>(b));
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator+(T a, Real b) {
+requires std::is_arithmetic_v<T> Real operator+(T a, Real b) {
   return Real(static_cast<double>(a)) + b;
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator-(Real a, T b) {
+requires std::is_arithmetic_v<T> Real operator-(Real a, T b) {
   return a - Real(static_cast<double>(b));
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator-(T a, Real b) {
+requires std::is_arithmetic_v<T> Real operator-(T a, Real b) {
   return Real(static_cast<double>(a)) - b;
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator*(Real a, T b) {
+requires std::is_arithmetic_v<T> Real operator*(Real a, T b) {
   return a * Real(static_cast<double>(b));
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator*(T a, Real b) {
+requires std::is_arithmetic_v<T> Real operator*(T a, Real b) {
   return Real(static_cast<double>(a)) * b;
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator/(Real a, T b) {
+requires std::is_arithmetic_v<T> Real operator/(Real a, T b) {
   return a / Real(static_cast<double>(b));
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-Real operator/(T a, Real b) {
+requires std::is_arithmetic_v<T> Real operator/(T a, Real b) {
   return Real(static_cast<double>(a)) / b;
 }
 

@@ -67,4 +67,16 @@ std::string EncodeCodePage1251(std::string_view text) {
   return bytes;
 }
 
+std::string StripToPrintable(std::string_view text) {
+  std::string kept;
+  for (const char32_t character : Characters(text)) {
+    const unsigned char code = ToCodePage1251(character);
+    if ((code >= 33 && code <= 59) || (code >= 65 && code <= 90) || (code >= 97 && code <= 122) ||
+        code >= 192) {
+      AppendUtf8(kept, character);
+    }
+  }
+  return kept;
+}
+
 }  // namespace trelonit

@@ -19,4 +19,8 @@ std::string DecodeCodePage1251(std::string_view bytes);
 /// UTF-8 included, becomes "?".
 std::string EncodeCodePage1251(std::string_view text);
 
+/// Keeps only characters whose code in the code page lies in 33 to 59, 65 to 90, 97 to 122 or 192
+/// to 255.
+std::string StripToPrintable(std::string_view text);
+
 }  // namespace trelonit

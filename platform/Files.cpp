@@ -93,6 +93,27 @@ void WriteFlushed(const fs::path& path, std::string_view bytes) {
   }
 }
 
+/// A stream of the standard library writes in place when it is opened for both directions.
+class DiskUpdate : public FileUpdate {
+ public:
+  explicit DiskUpdate(const fs::path& path)
+      : file_(path, std::ios::binary | std::ios::in | std::ios::out) {
+    if (!file_) {
+      throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+  }
+  void WriteAt(std::uint64_t place, std::string_view bytes) override {
+    file_.seekp(static_cast<std::streamoff>(place));
+    file_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!file_.flush()) {
+      throw RuntimeError(ErrorNumber::DiskFull);
+    }
+  }
+
+ private:
+  std::fstream file_;
+};
+
 #else
 
 /// Owns a descriptor until Close.
@@ -117,29 +138,60 @@ class Descriptor {
   int number_;
 };
 
-void WriteFlushed(const fs::path& path, std::string_view bytes) {
-  // 0666 less the user's mask, as any program's new file.
-  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-  if (file.Number() < 0) {
-    throw errno == ENOENT ? RuntimeError(ErrorNumber::PathNotFound) : FromErrno();
-  }
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(file.Number(), bytes.data(), bytes.size());
+/// All bytes through this write, which is told how many are done already.
+template <class Write>
+void WriteAll(std::string_view bytes, Write&& write) {
+  std::size_t done = 0;
+  while (done < bytes.size()) {
+    const ssize_t written = write(bytes.substr(done), done);
     if (written < 0) {
       if (errno == EINTR) {
         continue;
       }
       throw FromErrno();
     }
-    bytes.remove_prefix(static_cast<std::size_t>(written));
+    done += static_cast<std::size_t>(written);
   }
+}
+
+void Flush(const Descriptor& file) {
   if (::fsync(file.Number()) != 0 && errno != EINVAL) {
     throw FromErrno();
   }
+}
+
+void WriteFlushed(const fs::path& path, std::string_view bytes) {
+  // 0666 less the user's mask, as any program's new file.
+  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+  if (file.Number() < 0) {
+    throw errno == ENOENT ? RuntimeError(ErrorNumber::PathNotFound) : FromErrno();
+  }
+  WriteAll(bytes, [&file](std::string_view rest, std::size_t) {
+    return ::write(file.Number(), rest.data(), rest.size());
+  });
+  Flush(file);
   if (file.Close() != 0) {
     throw FromErrno();
   }
 }
+
+class DiskUpdate : public FileUpdate {
+ public:
+  explicit DiskUpdate(const fs::path& path) : file_(::open(path.c_str(), O_WRONLY | O_CLOEXEC)) {
+    if (file_.Number() < 0) {
+      throw errno == ENOENT ? MissingError(path) : FromErrno();
+    }
+  }
+  void WriteAt(std::uint64_t place, std::string_view bytes) override {
+    WriteAll(bytes, [this, place](std::string_view rest, std::size_t done) {
+      return ::pwrite(file_.Number(), rest.data(), rest.size(), static_cast<off_t>(place + done));
+    });
+    Flush(file_);
+  }
+
+ private:
+  Descriptor file_;
+};
 
 #endif
 
@@ -229,6 +281,10 @@ void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) {
     fs::remove(beside, code);
     throw FromErrorCode(error.code());
   }
+}
+
+std::unique_ptr<FileUpdate> DiskFiles::OpenForUpdate(const std::string& path) {
+  return std::make_unique<DiskUpdate>(NativePath(path));
 }
 
 std::string JoinPath(std::string_view folder, std::string_view name) {

@@ -8,6 +8,14 @@
 
 namespace trelonit {
 
+/// A file that is open for writing in place. Both members raise as the service does.
+class FileUpdate {
+ public:
+  virtual ~FileUpdate() = default;
+  /// Writes these bytes from this place on, counted from 0, and touches no other byte.
+  virtual void WriteAt(std::uint64_t place, std::string_view bytes) = 0;
+};
+
 /// The file system as the logic sees it. Paths are UTF-8. All members raise RuntimeError: 52 for an
 /// empty name, 53 or 76 where there is no such file or folder, 70 or 75 where access is refused, 61
 /// on a full disk, 57 for what else the device says.
@@ -26,6 +34,9 @@ class FileService {
   /// Puts these bytes in the place of the file: written beside it, flushed, renamed over it. On a
   /// failure the file that was there before stays whole.
   virtual void ReplaceFile(const std::string& path, std::string_view bytes) = 0;
+
+  /// A file that is there, for writing in place.
+  virtual std::unique_ptr<FileUpdate> OpenForUpdate(const std::string& path) = 0;
 };
 
 /// The real file system.
@@ -35,6 +46,7 @@ class DiskFiles : public FileService {
   std::unique_ptr<std::istream> OpenForReading(const std::string& path) override;
   std::uint64_t FileLength(const std::string& path) override;
   void ReplaceFile(const std::string& path, std::string_view bytes) override;
+  std::unique_ptr<FileUpdate> OpenForUpdate(const std::string& path) override;
 };
 
 /// Folder and bare name with exactly one separator between them, whether or not the folder ends

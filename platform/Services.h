@@ -74,9 +74,8 @@ class RegistryService {
 /// 438 where the object has no such member, the host's own number otherwise.
 class AutomationObject;
 using AutomationHandle = std::shared_ptr<AutomationObject>;
-using AutomationValue =
-    std::variant<std::monostate, bool, Long, double, std::string, std::vector<double>,
-                 AutomationHandle>;
+using AutomationValue = std::variant<std::monostate, bool, Long, double, std::string,
+                                     std::vector<double>, AutomationHandle>;
 
 class AutomationObject {
  public:

@@ -1,8 +1,7 @@
 #include "platform/Text.h"
 
-#include <utf8.h>
-
 #include <iterator>
+#include <utf8.h>
 
 namespace trelonit {
 

@@ -5,7 +5,7 @@
 #include <span>
 
 #include "platform/RuntimeError.h"
-#include "resources/EmbeddedCatalogue.h"
+#include "resources/EmbeddedBlocks.h"
 
 namespace trelonit {
 
@@ -25,6 +25,8 @@ Picture Find(std::span<const Integer> present, Picture picture) {
 
 std::string_view EmbeddedResources::CustomBlock(Integer identifier) {
   switch (identifier) {
+    case 101:
+      return EmbeddedSteelTable();
     case 102:
       return EmbeddedCatalogueData();
     case 103:

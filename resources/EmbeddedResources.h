@@ -11,7 +11,7 @@ namespace trelonit {
 /// and the sentence on what it does.
 class EmbeddedResources : public ResourceService {
  public:
-  /// 102 catalogue data, 103 catalogue index; the bytes live as long as the program.
+  /// 101 steels, 102 catalogue data, 103 catalogue index; the bytes live as long as the program.
   std::string_view CustomBlock(Integer identifier) override;
   /// 101 to 105 schemes, 205 to 208 paired sections, 309 and 310 load previews.
   Picture Bitmap(Integer identifier) override;

@@ -9,8 +9,8 @@
 
 namespace trelonit {
 
-AboutWindow::AboutWindow(frmAbout& form, QWidget* parent) : QDialog(parent), form_(form) {
-  setWindowTitle(ToQt(form_.Form.Caption()));
+AboutWindow::AboutWindow(frmAbout& form, QWidget* parent)
+    : FormDialog(form.Form, form.Unload, parent), form_(form) {
   auto* rows = new QHBoxLayout(this);
   auto* icon = new PictureView({96, 96});
   icon->setFixedSize(96, 96);
@@ -46,11 +46,6 @@ AboutWindow::AboutWindow(frmAbout& form, QWidget* parent) : QDialog(parent), for
   };
   button("cmdSysInfo", QStringLiteral("&Сведения о системе..."), &frmAbout::cmdSysInfo_Click);
   button("cmdOK", QStringLiteral("OK"), &frmAbout::cmdOK_Click)->setDefault(true);
-  form_.Unload = [this] { accept(); };
-}
-
-AboutWindow::~AboutWindow() {
-  form_.Unload = nullptr;
 }
 
 }  // namespace trelonit

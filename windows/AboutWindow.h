@@ -1,18 +1,14 @@
 #pragma once
 
-#include <QDialog>
-
+#include "windows/FormDialog.h"
 #include "workstation/frmAbout.h"
 
 namespace trelonit {
 
 /// The window on the program.
-class AboutWindow : public QDialog {
+class AboutWindow : public FormDialog {
  public:
   AboutWindow(frmAbout& form, QWidget* parent);
-  ~AboutWindow() override;
-  AboutWindow(const AboutWindow&) = delete;
-  AboutWindow& operator=(const AboutWindow&) = delete;
 
  private:
   frmAbout& form_;

@@ -12,6 +12,8 @@ Desktop::Desktop() {
   QApplication::setOrganizationName(QStringLiteral("Trelonit"));
   QApplication::setApplicationName(QStringLiteral("trelonit"));
   QApplication::setApplicationDisplayName(QString());
+  // The main form ends the program; while it is hidden, the last window seen may well be another.
+  QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationVersion(QLatin1String(applicationVersion));
   QApplication::setDesktopFileName(QStringLiteral("trelonit"));
   if (buttons_.load(QStringLiteral("qtbase_ru"),

@@ -99,8 +99,7 @@ QListWidget* MakeList(frmKoeffOfUse& form) {
 }  // namespace
 
 KoeffOfUseWindow::KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent)
-    : QDialog(parent), form_(form) {
-  setWindowTitle(ToQt(form_.Form.Caption()));
+    : FormDialog(form.Form, form.Unload, parent), form_(form) {
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   resize(1120, 680);
   auto* column = new QVBoxLayout(this);
@@ -139,11 +138,6 @@ KoeffOfUseWindow::KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent)
   buttons->addWidget(close);
   column->addLayout(buttons);
   close->setFocus();
-  form_.Unload = [this] { accept(); };
-}
-
-KoeffOfUseWindow::~KoeffOfUseWindow() {
-  form_.Unload = nullptr;
 }
 
 }  // namespace trelonit

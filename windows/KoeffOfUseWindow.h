@@ -1,18 +1,14 @@
 #pragma once
 
-#include <QDialog>
-
+#include "windows/FormDialog.h"
 #include "workstation/frmKoeffOfUse.h"
 
 namespace trelonit {
 
 /// The results: coefficients and forces as lists, and both as pictures.
-class KoeffOfUseWindow : public QDialog {
+class KoeffOfUseWindow : public FormDialog {
  public:
   KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent);
-  ~KoeffOfUseWindow() override;
-  KoeffOfUseWindow(const KoeffOfUseWindow&) = delete;
-  KoeffOfUseWindow& operator=(const KoeffOfUseWindow&) = delete;
 
  private:
   frmKoeffOfUse& form_;

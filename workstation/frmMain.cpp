@@ -4,6 +4,7 @@
 #include "platform/Guard.h"
 #include "platform/Text.h"
 #include "workstation/ApplicationInfo.h"
+#include "workstation/WaitCaption.h"
 #include "workstation/modUtility.h"
 
 namespace trelonit {
@@ -202,7 +203,9 @@ std::vector<frmMain::MenuItem> frmMain::Menus() {
       {.Name = "mnuCalcmain",
        .Caption = "Расчет",
        .Items = {item("mnuCalc", "Вычислить", [this] { mnuCalc_Click(); }),
-                 item("mnuSearch", "Подобрать ...", openers_.CalcAndSelect),
+                 item(
+                     "mnuSearch", "Подобрать ...",
+                     openers_.ShowSearch ? [this] { mnuSearch_Click(); } : std::function<void()>()),
                  item("mnuOtchet", "Отчет расчета ...", openers_.ShowOtchet)}},
       {.Name = "DataBase",
        .Caption = "База данных",
@@ -231,12 +234,22 @@ frmMain::MenuItem frmMain::FindMenuItem(const std::string& name) {
 }
 
 void frmMain::mnuCalc_Click() {
-  // The button stands on the last tab, and on the way there the geometry is checked and taken. The
-  // menu can be reached from everywhere, so it takes the same way.
-  tabMain.SetTab(calculateTab);
-  if (tabMain.Tab() == calculateTab) {
+  if (GoToCommands()) {
     cmdCalculate_Click();
   }
+}
+
+void frmMain::mnuSearch_Click() {
+  if (GoToCommands()) {
+    cmdCalcAndSelect_Click();
+  }
+}
+
+bool frmMain::GoToCommands() {
+  // The buttons stand on the last tab, and on the way there the geometry is checked and taken. The
+  // menu can be reached from everywhere, so it takes the same way.
+  tabMain.SetTab(calculateTab);
+  return tabMain.Tab() == calculateTab;
 }
 
 void frmMain::mnuProfile_Click() {
@@ -267,6 +280,10 @@ void frmMain::UserHelp_Click() {
 void frmMain::Exit_Click() {
   // Nothing is saved and nothing is asked.
   Open(openers_.EndProgram);
+}
+
+void frmMain::Timer1_Timer() {
+  StepWaitCaption(Form, waitCounter_);
 }
 
 void frmMain::tmrRuningString_Timer() {

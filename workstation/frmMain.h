@@ -14,6 +14,7 @@
 #include "workstation/ProjectFile.h"
 #include "workstation/ResultLists.h"
 #include "workstation/RunningCaption.h"
+#include "workstation/Selection.h"
 
 namespace trelonit {
 
@@ -29,7 +30,8 @@ class frmMain {
     std::function<void()> ShowParamerty;
     std::function<void()> ShowSteel;
     std::function<void()> ShowAbout;
-    std::function<void()> CalcAndSelect;
+    /// Shows a proposal of automatic selection; true when the user takes it.
+    std::function<bool(const SelectionProposal&)> ShowSearch;
     std::function<void()> ShowOtchet;
     std::function<void()> EndProgram;
   };
@@ -58,12 +60,14 @@ class frmMain {
   MenuItem FindMenuItem(const std::string& name);
   bool HasSteelWindow() const { return static_cast<bool>(openers_.ShowSteel); }
   void mnuCalc_Click();
+  void mnuSearch_Click();
   void mnuProfile_Click();
   void optio_Click();
   void cmdSteelGet_Click();
   void UserHelp_Click();
   void Exit_Click();
   void tmrRuningString_Timer();
+  void Timer1_Timer();
 
   // --- scheme and geometry (frmMainGeometry.cpp)
   void imgTreloType_Click(Long scheme);
@@ -105,6 +109,7 @@ class frmMain {
 
   // --- commands (frmMainCalculate.cpp)
   void cmdCalculate_Click();
+  void cmdCalcAndSelect_Click();
   /// The numbers of the checks as they stand in the boxes.
   CheckNumbers ReadCheckNumbers() const;
 
@@ -203,6 +208,13 @@ class frmMain {
   void ShowMarksOfShownChord();
   void NotifyPreview();
 
+  /// On the tab with the commands; false where the geometry was refused on the way.
+  bool GoToCommands();
+  /// Analysis, check and the own weight; what both commands begin with.
+  void AnalyseWithOwnWeight(const CheckNumbers& numbers);
+  /// The lists, the deflection and the results window; what both end with.
+  void ShowResults(const CheckNumbers& numbers);
+  void TakeProposal(const SelectionProposal& proposal);
   void ShowProgib(const ProgibResult& progib);
 
   ProjectRecord CollectProject() const;
@@ -214,6 +226,7 @@ class frmMain {
   Services services_;
   Openers openers_;
   RunningCaption runningCaption_;
+  Long waitCounter_ = 1;
 };
 
 }  // namespace trelonit

@@ -24,30 +24,60 @@ CheckNumbers frmMain::ReadCheckNumbers() const {
 void frmMain::cmdCalculate_Click() {
   Guard(services_.Messages, "cmdCalculate_Click", [&] {
     const CheckNumbers numbers = ReadCheckNumbers();
-    AnalyseAndCheck(Model, numbers, services_.Messages);
-    if (chkOwnWeight.Checked() && ApplyOwnWeight(Model, numbers, services_.Messages)) {
-      RefreshLoadPreview();
-    }
-    const Long scheme = Model.TreloData.TreloType;
-    ResultLists lists{
-        .lstForces =
-            BuildForceList(scheme, Model.TreloResult, Model.CheckData.Mass, services_.Locale),
-        .MSFlexGKoefUse = BuildUtilisationGrid(scheme, Model.CheckData, services_.Locale),
-        .Picture = {.Bars = BuildBars(Model.TreloData, Model.TreloResult),
-                    .Use = BuildUse(scheme, Model.CheckData),
-                    .OverLimit = RowsOverLimit(scheme, Model.CheckData)}};
-    if (chkProgib.Checked()) {
-      lists.Progib = CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(),
-                                 services_.Locale, services_.Messages);
-      for (std::string& line : ProgibLines(*lists.Progib, services_.Locale)) {
-        lists.lstForces.push_back(std::move(line));
-      }
-      ShowProgib(*lists.Progib);
-    }
-    if (openers_.ShowKoeffOfUse) {
-      openers_.ShowKoeffOfUse(lists);
-    }
+    AnalyseWithOwnWeight(numbers);
+    ShowResults(numbers);
   });
+}
+
+void frmMain::cmdCalcAndSelect_Click() {
+  Guard(services_.Messages, "cmdCalcAndSelect_Click", [&] {
+    const CheckNumbers numbers = ReadCheckNumbers();
+    AnalyseWithOwnWeight(numbers);
+    const SelectionProposal proposal = SelectSections(Model, numbers, services_.Messages);
+    if (openers_.ShowSearch && openers_.ShowSearch(proposal)) {
+      TakeProposal(proposal);
+    }
+    ShowResults(numbers);
+  });
+}
+
+void frmMain::AnalyseWithOwnWeight(const CheckNumbers& numbers) {
+  AnalyseAndCheck(Model, numbers, services_.Messages);
+  if (chkOwnWeight.Checked() && ApplyOwnWeight(Model, numbers, services_.Messages)) {
+    RefreshLoadPreview();
+  }
+}
+
+void frmMain::TakeProposal(const SelectionProposal& proposal) {
+  // Loads and forces stay: the changed mass reaches them with the next calculation.
+  Model.ElementSection = proposal.Sections;
+  Model.CheckData = proposal.Check;
+  for (Long option = 1; option <= groupCount; ++option) {
+    lblProfilName[option].SetCaption(
+        Model.ElementSection[PlaceOfOption(option)].Profile.Name.Trimmed());
+  }
+}
+
+void frmMain::ShowResults(const CheckNumbers& numbers) {
+  const Long scheme = Model.TreloData.TreloType;
+  ResultLists lists{
+      .lstForces =
+          BuildForceList(scheme, Model.TreloResult, Model.CheckData.Mass, services_.Locale),
+      .MSFlexGKoefUse = BuildUtilisationGrid(scheme, Model.CheckData, services_.Locale),
+      .Picture = {.Bars = BuildBars(Model.TreloData, Model.TreloResult),
+                  .Use = BuildUse(scheme, Model.CheckData),
+                  .OverLimit = RowsOverLimit(scheme, Model.CheckData)}};
+  if (chkProgib.Checked()) {
+    lists.Progib = CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(), services_.Locale,
+                               services_.Messages);
+    for (std::string& line : ProgibLines(*lists.Progib, services_.Locale)) {
+      lists.lstForces.push_back(std::move(line));
+    }
+    ShowProgib(*lists.Progib);
+  }
+  if (openers_.ShowKoeffOfUse) {
+    openers_.ShowKoeffOfUse(lists);
+  }
 }
 
 void frmMain::ShowProgib(const ProgibResult& progib) {

@@ -2,26 +2,12 @@
 
 #include <algorithm>
 
-#include "platform/CodePage1251.h"
 #include "platform/Guard.h"
-#include "platform/Text.h"
 
 namespace trelonit {
 
 Long MaxOfTwoLong(Long a, Long b) {
   return std::max(a, b);
-}
-
-std::string StripToPrintable(std::string_view text) {
-  std::string kept;
-  for (const char32_t character : Characters(text)) {
-    const unsigned char code = ToCodePage1251(character);
-    if ((code >= 33 && code <= 59) || (code >= 65 && code <= 90) || (code >= 97 && code <= 122) ||
-        code >= 192) {
-      AppendUtf8(kept, character);
-    }
-  }
-  return kept;
 }
 
 double MaxInArray(const BoundedArray<double>& values, MessageService& messages) {

@@ -10,10 +10,6 @@ namespace trelonit {
 
 Long MaxOfTwoLong(Long a, Long b);
 
-/// Keeps only characters whose code in code page 1251 lies in 33 to 59, 65 to 90, 97 to 122 or 192
-/// to 255.
-std::string StripToPrintable(std::string_view text);
-
 /// The greatest element; 0 for an upper bound below 1, whatever stands at 0. A failure is shown
 /// under "MaxInArray" and gives 0.
 double MaxInArray(const BoundedArray<double>& values, MessageService& messages);

@@ -4,6 +4,8 @@
 #include "apps/cli/Commands.h"
 #include "apps/cli/TextTable.h"
 #include "catalogue/CatalogueHealth.h"
+#include "catalogue/DataFile.h"
+#include "platform/RuntimeError.h"
 
 namespace trelonit::cli {
 
@@ -44,6 +46,36 @@ Long FindStandard(const ProfileTypeArray& catalogue, const std::string& wanted) 
   return 0;
 }
 
+/// The records of a data file by the standard that they name, in the catalogue's order; those of no
+/// standard of the catalogue come last. Nothing where the file cannot be read: the user is told.
+std::optional<ProfileTypeArray> RecordsOfFile(const std::string& file,
+                                              const ProfileTypeArray& catalogue) {
+  DiskFiles files;
+  BoundedArray<ProfileRec> records;
+  try {
+    const std::unique_ptr<std::istream> stream = files.OpenForReading(file);
+    records = ReadProfileRecords(*stream, files.FileLength(file));
+  } catch (const RuntimeError& error) {
+    std::cerr << "trelonit-cli: файл «" << file << "» не прочитан: " << error.Description() << "\n";
+    return std::nullopt;
+  }
+  ProfileTypeArray standards(1, catalogue.UpperBound() + 1);
+  for (Long number = 1; number <= standards.UpperBound(); ++number) {
+    standards[number].Rec = BoundedArray<ProfileRec>(1, 0);
+    if (number <= catalogue.UpperBound()) {
+      standards[number].Name = catalogue[number].Name;
+    }
+  }
+  for (const ProfileRec& record : records) {
+    Long number = 1;
+    while (number <= catalogue.UpperBound() && catalogue[number].Name != record.Type) {
+      ++number;
+    }
+    standards[number].Rec.Append(record);
+  }
+  return standards;
+}
+
 }  // namespace
 
 Status RunCatalogueList() {
@@ -54,8 +86,8 @@ Status RunCatalogueList() {
   std::vector<Row> rows{{"Стандарт", "№", "Размеров"}};
   for (Long standard = 1; standard <= catalogue->UpperBound(); ++standard) {
     const ProfileType& type = (*catalogue)[standard];
-    rows.push_back({type.Name.Trimmed(), std::to_string(standard),
-                    std::to_string(type.Rec.UpperBound())});
+    rows.push_back(
+        {type.Name.Trimmed(), std::to_string(standard), std::to_string(type.Rec.UpperBound())});
   }
   return Print(TextTable(rows));
 }
@@ -85,16 +117,26 @@ Status RunCatalogueShow(const CatalogueShowOptions& options) {
   return Print((*catalogue)[standard].Name.Trimmed() + "\n" + TextTable(rows));
 }
 
-Status RunCatalogueVerify() {
-  const auto catalogue = LoadedCatalogue();
+Status RunCatalogueVerify(const std::string& file) {
+  auto catalogue = LoadedCatalogue();
   if (!catalogue) {
     return Status::Failed;
+  }
+  if (!file.empty()) {
+    catalogue = RecordsOfFile(file, *catalogue);
+    if (!catalogue) {
+      return Status::Failed;
+    }
   }
   Long records = 0;
   for (const ProfileType& standard : *catalogue) {
     records += standard.Rec.UpperBound();
   }
-  const std::vector<Deviation> deviations = VerifyCatalogue(*catalogue);
+  std::vector<Deviation> deviations = VerifyCatalogue(*catalogue);
+  if (!file.empty()) {
+    // A file of the user's own need not have records of every standard.
+    std::erase_if(deviations, [](const Deviation& found) { return found.SizeIdx == 0; });
+  }
   std::string text;
   if (!deviations.empty()) {
     std::vector<Row> rows{{"Типоразмер", "№ стандарта", "Величина", "В каталоге", "По размерам",

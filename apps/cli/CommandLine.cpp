@@ -95,13 +95,23 @@ Status RunCommandLine(int argc, const char* const* argv) {
 
   CalcOptions calcOptions;
   CLI::App* calc = AddCommand(app, "calc", "расчёт проекта: усилия и коэффициенты использования");
-  calc->add_option("FILE", calcOptions.Project, "файл проекта (.tsav)")
-      ->required()
-      ->type_name("");
+  calc->add_option("FILE", calcOptions.Project, "файл проекта (.tsav)")->required()->type_name("");
   CLI::Option* json = calc->add_flag("--json", calcOptions.Json, "вывод в формате JSON");
   calc->add_flag("--bar-force", calcOptions.BarForce, "добавить в JSON таблицу BarForce")
       ->needs(json);
   calc->callback([&] { run = [&] { return RunCalc(calcOptions); }; });
+
+  SelectOptions selectOptions;
+  CLI::App* select =
+      AddCommand(app, "select", "автоматический подбор профилей и расчёт с подобранными");
+  select->add_option("FILE", selectOptions.Project, "файл проекта (.tsav)")
+      ->required()
+      ->type_name("");
+  select->add_option("-o,--output", selectOptions.Output, "сохранить подобранное как проект")
+      ->type_name("FILE");
+  select->add_flag("-f,--force", selectOptions.Force, "заменить существующий файл");
+  select->add_flag("--json", selectOptions.Json, "вывод в формате JSON");
+  select->callback([&] { run = [&] { return RunSelect(selectOptions); }; });
 
   CLI::App* catalogue = AddCommand(app, "catalogue", "каталог проката");
   catalogue->require_subcommand(1);
@@ -113,8 +123,12 @@ Status RunCommandLine(int argc, const char* const* argv) {
       ->type_name("");
   show->add_option("SIZE", showOptions.Size, "обозначение типоразмера")->type_name("");
   show->callback([&] { run = [&] { return RunCatalogueShow(showOptions); }; });
-  AddCommand(*catalogue, "verify", "проверка A, Jy, Jz каждого типоразмера по его размерам")
-      ->callback([&] { run = RunCatalogueVerify; });
+  std::string verifyFile;
+  CLI::App* verify =
+      AddCommand(*catalogue, "verify", "проверка A, Jy, Jz каждого типоразмера по его размерам");
+  verify->add_option("FILE", verifyFile, "файл базы данных проката; без него — сам каталог")
+      ->type_name("");
+  verify->callback([&] { run = [&] { return RunCatalogueVerify(verifyFile); }; });
 
   try {
     app.parse(argc, argv);

@@ -21,6 +21,16 @@ struct CalcOptions {
 /// Restores a project, checks its geometry, calculates, prints the two lists.
 Status RunCalc(const CalcOptions& options);
 
+struct SelectOptions {
+  std::string Project;
+  std::string Output;  ///< empty: nothing is saved
+  bool Force = false;
+  bool Json = false;
+};
+/// The same with automatic selection; the results are those of the proposal, which is saved as a
+/// project where an output is named.
+Status RunSelect(const SelectOptions& options);
+
 /// The standards of the catalogue in memory.
 Status RunCatalogueList();
 
@@ -30,7 +40,8 @@ struct CatalogueShowOptions {
 };
 Status RunCatalogueShow(const CatalogueShowOptions& options);
 
-/// Area and moments of inertia of all records against their dimensions.
-Status RunCatalogueVerify();
+/// Area and moments of inertia of all records against their dimensions: of the catalogue in memory,
+/// or of a data file where one is named.
+Status RunCatalogueVerify(const std::string& file);
 
 }  // namespace trelonit::cli

@@ -22,11 +22,11 @@ std::string FullPath(const std::string& name) {
 
 }  // namespace
 
-ConsoleSession::ConsoleSession(MessageAnswer toQuestions)
+ConsoleSession::ConsoleSession(MessageAnswer toQuestions, Program::Windows windows)
     : messages_(std::cerr, toQuestions),
       program_({messages_, dialogs_, clipboard_, settings_, registry_, automation_, shell_, clock_,
                 resources_, files_, SystemNumberLocale(), FindProgramFolder()},
-               {}) {}
+               std::move(windows)) {}
 
 bool ConsoleSession::Start() {
   Main().Form_Load();

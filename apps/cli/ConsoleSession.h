@@ -16,7 +16,8 @@ enum class Status : int { Done = 0, Failed = 1, WrongUsage = 2 };
 /// the command line.
 class ConsoleSession {
  public:
-  explicit ConsoleSession(MessageAnswer toQuestions = MessageAnswer::No);
+  explicit ConsoleSession(MessageAnswer toQuestions = MessageAnswer::No,
+                          Program::Windows windows = {});
   ConsoleSession(const ConsoleSession&) = delete;
   ConsoleSession& operator=(const ConsoleSession&) = delete;
   ~ConsoleSession() = default;

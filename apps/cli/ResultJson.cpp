@@ -74,8 +74,7 @@ Json ToJson(const ForceExtreme& force) {
 }
 
 Json ToJson(const LimitFlex& limit) {
-  return {
-      {"Compress", limit.Compress}, {"Tension", limit.Tension}, {"Tension2", limit.Tension2}};
+  return {{"Compress", limit.Compress}, {"Tension", limit.Tension}, {"Tension2", limit.Tension2}};
 }
 
 Json ToJson(const GroupCheck& group) {
@@ -106,12 +105,9 @@ Json ToJson(const GroupCheck& group) {
 }
 
 Json ToJson(const CheckResult& check) {
-  return {{"UpPoyas", ToJson(check.UpPoyas)},
-          {"DwnPoyas", ToJson(check.DwnPoyas)},
-          {"Stoyka", ToJson(check.Stoyka)},
-          {"Raskos", ToJson(check.Raskos)},
-          {"OpornRaskos", ToJson(check.OpornRaskos)},
-          {"Mass", check.Mass}};
+  return {{"UpPoyas", ToJson(check.UpPoyas)},         {"DwnPoyas", ToJson(check.DwnPoyas)},
+          {"Stoyka", ToJson(check.Stoyka)},           {"Raskos", ToJson(check.Raskos)},
+          {"OpornRaskos", ToJson(check.OpornRaskos)}, {"Mass", check.Mass}};
 }
 
 Json ToJson(const ProfileRec& record) {
@@ -134,9 +130,12 @@ Json ToJson(const ProfileRec& record) {
 }
 
 Json ToJson(const SectionRec& section) {
-  return {{"TypeIdx", section.TypeIdx}, {"SizeIdx", section.SizeIdx},
-          {"Gdist", section.Gdist},     {"Paired", section.Paired},
-          {"Profile", ToJson(section.Profile)}, {"Layout", section.Layout}};
+  return {{"TypeIdx", section.TypeIdx},
+          {"SizeIdx", section.SizeIdx},
+          {"Gdist", section.Gdist},
+          {"Paired", section.Paired},
+          {"Profile", ToJson(section.Profile)},
+          {"Layout", section.Layout}};
 }
 
 Json ToJson(const std::vector<Message>& messages) {
@@ -153,8 +152,7 @@ Json ToJson(const std::optional<ProgibResult>& progib) {
   if (!progib) {
     return nullptr;
   }
-  return {
-      {"Value", progib->Value}, {"Limit", progib->Limit}, {"Satisfied", progib->Satisfied}};
+  return {{"Value", progib->Value}, {"Limit", progib->Limit}, {"Satisfied", progib->Satisfied}};
 }
 
 std::string Dump(const Json& object) {
@@ -162,24 +160,49 @@ std::string Dump(const Json& object) {
   return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-}  // namespace
+Json ToJson(const SelectionRow& row) {
+  return {{"Group", row.Group},
+          {"Name", row.Name},
+          {"SizeIdx", row.SizeIdx},
+          {"Gdist", row.Gdist},
+          {"Possible", row.Possible}};
+}
 
-std::string CalcJson(const DesignModel& model, const ResultLists& lists,
-                     const std::vector<Message>& messages, bool barForce) {
+Json ToJson(const DesignModel& model, const ResultLists& lists,
+            const std::vector<Message>& messages, bool barForce) {
   Json sections = Json::array();
   for (const SectionRec& section : model.ElementSection) {
     sections.push_back(ToJson(section));
   }
-  return Dump({{"TreloData", ToJson(model.TreloData)},
-               {"TreloResult", ToJson(model.TreloResult, barForce)},
-               {"CheckResult", ToJson(model.CheckData)},
-               {"ElementSection", std::move(sections)},
-               {"OwnWeightAdded", model.OwnWeightAdded},
-               {"OwnWeightPerMetre", model.OwnWeightPerMetre},
-               {"Progib", ToJson(lists.Progib)},
-               {"lstForces", lists.lstForces},
-               {"MSFlexGKoefUse", lists.MSFlexGKoefUse},
-               {"Messages", ToJson(messages)}});
+  return {{"TreloData", ToJson(model.TreloData)},
+          {"TreloResult", ToJson(model.TreloResult, barForce)},
+          {"CheckResult", ToJson(model.CheckData)},
+          {"ElementSection", std::move(sections)},
+          {"OwnWeightAdded", model.OwnWeightAdded},
+          {"OwnWeightPerMetre", model.OwnWeightPerMetre},
+          {"Progib", ToJson(lists.Progib)},
+          {"lstForces", lists.lstForces},
+          {"MSFlexGKoefUse", lists.MSFlexGKoefUse},
+          {"Messages", ToJson(messages)}};
+}
+
+}  // namespace
+
+std::string CalcJson(const DesignModel& model, const ResultLists& lists,
+                     const std::vector<Message>& messages, bool barForce) {
+  return Dump(ToJson(model, lists, messages, barForce));
+}
+
+std::string SelectJson(const DesignModel& model, const ResultLists& lists,
+                       const std::vector<Message>& messages,
+                       const std::vector<SelectionRow>& selection) {
+  Json object = ToJson(model, lists, messages, false);
+  Json rows = Json::array();
+  for (const SelectionRow& row : selection) {
+    rows.push_back(ToJson(row));
+  }
+  object["Selection"] = std::move(rows);
+  return Dump(object);
 }
 
 std::string FailureJson(const std::vector<Message>& messages) {

@@ -14,6 +14,21 @@ namespace trelonit::cli {
 std::string CalcJson(const DesignModel& model, const ResultLists& lists,
                      const std::vector<Message>& messages, bool barForce);
 
+/// What automatic selection found for a group.
+struct SelectionRow {
+  std::string Group;    ///< key of the group's block
+  std::string Caption;  ///< name of the group for the user
+  std::string Name;     ///< designation of the size
+  Long SizeIdx = 0;
+  double Gdist = 0;
+  bool Possible = true;
+};
+
+/// The same with the proposal's rows.
+std::string SelectJson(const DesignModel& model, const ResultLists& lists,
+                       const std::vector<Message>& messages,
+                       const std::vector<SelectionRow>& selection);
+
 /// The object of a command that came to no result: the messages alone.
 std::string FailureJson(const std::vector<Message>& messages);
 

@@ -3,7 +3,11 @@
 #include <QApplication>
 
 #include "windows/AboutWindow.h"
+#include "windows/DataManagerWindow.h"
 #include "windows/KoeffOfUseWindow.h"
+#include "windows/ParamertyWindow.h"
+#include "windows/SearchWindow.h"
+#include "windows/SteelWindow.h"
 
 namespace trelonit {
 
@@ -13,10 +17,13 @@ DesktopSession::DesktopSession()
                MakeWindows()) {}
 
 Program::Windows DesktopSession::MakeWindows() {
-  return {.ShowKoeffOfUse =
-              [this](frmKoeffOfUse& form) { KoeffOfUseWindow(form, window_.get()).exec(); },
-          .ShowAbout = [this](frmAbout& form) { AboutWindow(form, window_.get()).exec(); },
-          .EndProgram = [] { QApplication::quit(); }};
+  return {.ShowKoeffOfUse = Modal<KoeffOfUseWindow, frmKoeffOfUse>(),
+          .ShowAbout = Modal<AboutWindow, frmAbout>(),
+          .ShowSearch = Modal<SearchWindow, frmSearch>(),
+          .ShowSteel = Modal<SteelWindow, frmSteel>(),
+          .ShowParamerty = Modal<ParamertyWindow, frmParamerty>(),
+          .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(),
+          .EndProgram = [] { QApplication::exit(0); }};
 }
 
 void DesktopSession::Start() {

@@ -20,6 +20,14 @@ class DesktopSession {
 
  private:
   Program::Windows MakeWindows();
+  /// Shows a filled form in a window of its own until the user closes it.
+  template <class Window, class Form>
+  std::function<void(Form&)> Modal() {
+    // A hidden main window would hide its children.
+    return [this](Form& form) {
+      Window(form, window_ && window_->isVisible() ? window_.get() : nullptr).exec();
+    };
+  }
 
   DesktopMessages messages_;
   DesktopDialogs dialogs_;

@@ -69,17 +69,6 @@ double ParseCell(const CsvTable& table, const CsvLine& line, const std::string& 
   return value;
 }
 
-void AppendBlock(std::string& source, std::string_view accessor, std::string_view bytes) {
-  constexpr std::size_t bytesInLine = 24;
-  source.append("\nstd::string_view ").append(accessor).append("() {\n");
-  source += "  static const unsigned char bytes[] = {";
-  for (std::size_t place = 0; place < bytes.size(); ++place) {
-    source += place % bytesInLine == 0 ? "\n" : "";
-    source += std::to_string(static_cast<unsigned char>(bytes[place])) + ",";
-  }
-  source += "};\n  return {reinterpret_cast<const char*>(bytes), sizeof bytes};\n}\n";
-}
-
 }  // namespace
 
 CatalogueBlocks PackCatalogue(const CsvTable& standards,
@@ -124,17 +113,6 @@ CatalogueBlocks PackCatalogue(const CsvTable& standards,
   }
   blocks.Data.append(dataTail, '\0');
   return blocks;
-}
-
-std::string BlocksSource(const CatalogueBlocks& blocks) {
-  std::string source =
-      "// Made from the tables in resources/catalogue when the program is built.\n"
-      "#include \"resources/EmbeddedCatalogue.h\"\n\n"
-      "namespace trelonit {\n";
-  AppendBlock(source, "EmbeddedCatalogueData", blocks.Data);
-  AppendBlock(source, "EmbeddedCatalogueIndex", blocks.Index);
-  source += "\n}  // namespace trelonit\n";
-  return source;
 }
 
 }  // namespace trelonit::packer

@@ -26,7 +26,4 @@ struct CatalogueBlocks {
 CatalogueBlocks PackCatalogue(const CsvTable& standards,
                               const std::function<CsvTable(int standard)>& sizesOf);
 
-/// C++ source that defines both blocks for EmbeddedResources.
-std::string BlocksSource(const CatalogueBlocks& blocks);
-
 }  // namespace trelonit::packer

@@ -7,12 +7,12 @@ namespace trelonit::packer {
 
 namespace {
 
-std::vector<std::string> SplitCells(std::string_view line) {
+std::vector<std::string> SplitCells(std::string_view line, char separator) {
   std::vector<std::string> cells;
-  for (std::size_t comma = line.find(','); comma != std::string_view::npos;
-       comma = line.find(',')) {
-    cells.emplace_back(line.substr(0, comma));
-    line.remove_prefix(comma + 1);
+  for (std::size_t end = line.find(separator); end != std::string_view::npos;
+       end = line.find(separator)) {
+    cells.emplace_back(line.substr(0, end));
+    line.remove_prefix(end + 1);
   }
   cells.emplace_back(line);
   return cells;
@@ -27,9 +27,10 @@ void CsvTable::Refuse(const CsvLine& line, const std::string& what) const {
   throw SourceFault(File, line.Number, what);
 }
 
-CsvTable ParseCsv(const std::string& file, std::string_view text, std::string_view head) {
+CsvTable ParseCsv(const std::string& file, std::string_view text, std::string_view head,
+                  char separator) {
   CsvTable table{.File = file, .Lines = {}};
-  const std::size_t columns = SplitCells(head).size();
+  const std::size_t columns = SplitCells(head, separator).size();
   for (std::size_t number = 1; !text.empty() || number == 1; ++number) {
     const std::size_t end = text.find('\n');
     std::string_view line = text.substr(0, end);
@@ -44,7 +45,7 @@ CsvTable ParseCsv(const std::string& file, std::string_view text, std::string_vi
       }
       continue;
     }
-    table.Lines.push_back({.Number = number, .Cells = SplitCells(line)});
+    table.Lines.push_back({.Number = number, .Cells = SplitCells(line, separator)});
     if (const std::size_t found = table.Lines.back().Cells.size(); found != columns) {
       table.Refuse(table.Lines.back(), std::to_string(columns) + " columns expected, " +
                                            std::to_string(found) + " found");
@@ -53,13 +54,13 @@ CsvTable ParseCsv(const std::string& file, std::string_view text, std::string_vi
   return table;
 }
 
-CsvTable ReadCsv(const std::filesystem::path& path, std::string_view head) {
+CsvTable ReadCsv(const std::filesystem::path& path, std::string_view head, char separator) {
   std::ifstream file(path, std::ios::binary);
   const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   if (!file.is_open() || file.bad()) {
     throw SourceFault(path.string(), 1, "the file cannot be read");
   }
-  return ParseCsv(path.string(), text, head);
+  return ParseCsv(path.string(), text, head, separator);
 }
 
 }  // namespace trelonit::packer

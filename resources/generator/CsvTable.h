@@ -20,8 +20,7 @@ struct CsvLine {
   std::vector<std::string> Cells;
 };
 
-/// A comma-separated table in UTF-8 without quoting: neither designations nor names of standards
-/// hold commas.
+/// A table in UTF-8 with a separator that stands in none of its cells, so that nothing is quoted.
 struct CsvTable {
   std::string File;
   std::vector<CsvLine> Lines;
@@ -31,9 +30,10 @@ struct CsvTable {
 
 /// Splits the text into lines and cells. Raises SourceFault for another head line than the given
 /// one and for a line with another count of cells than the head has.
-CsvTable ParseCsv(const std::string& file, std::string_view text, std::string_view head);
+CsvTable ParseCsv(const std::string& file, std::string_view text, std::string_view head,
+                  char separator = ',');
 
 /// The same for a file. Raises SourceFault (line 1) where it cannot be read.
-CsvTable ReadCsv(const std::filesystem::path& path, std::string_view head);
+CsvTable ReadCsv(const std::filesystem::path& path, std::string_view head, char separator = ',');
 
 }  // namespace trelonit::packer

@@ -1,4 +1,5 @@
-// Packs the catalogue's tables into the blocks that the program carries. Runs in the build.
+// Packs the tables of sections and steels into the blocks that the program carries. Runs in the
+// build.
 
 #include <exception>
 #include <filesystem>
@@ -8,8 +9,10 @@
 #include <string>
 #include <string_view>
 
+#include "resources/generator/BlocksSource.h"
 #include "resources/generator/CatalogueBlocks.h"
 #include "resources/generator/CsvTable.h"
+#include "resources/generator/SteelBlock.h"
 
 namespace fs = std::filesystem;
 namespace packer = trelonit::packer;
@@ -31,26 +34,32 @@ void Write(const fs::path& path, std::string_view bytes) {
   }
 }
 
-void Pack(const fs::path& tables, const fs::path& output) {
+void Pack(const fs::path& tables, const fs::path& steel, const fs::path& output) {
   const packer::CatalogueBlocks blocks = packer::PackCatalogue(
       packer::ReadCsv(tables / "standards.csv", packer::standardsHead), [&tables](int standard) {
         return packer::ReadCsv(SizesPath(tables, standard), packer::sizesHead);
       });
+  const std::string steels =
+      packer::PackSteel(packer::ReadCsv(steel, packer::steelHead, packer::steelSeparator));
   // Only now: a fault in the tables leaves the files of the last build as they were.
+  Write(output / "101.bin", steels);
   Write(output / "102.bin", blocks.Data);
   Write(output / "103.bin", blocks.Index);
-  Write(output / "EmbeddedCatalogue.cpp", packer::BlocksSource(blocks));
+  Write(output / "EmbeddedBlocks.cpp",
+        packer::BlocksSource({{"EmbeddedSteelTable", steels},
+                              {"EmbeddedCatalogueData", blocks.Data},
+                              {"EmbeddedCatalogueIndex", blocks.Index}}));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::cerr << "usage: trelonit_pack_catalogue FOLDER-OF-TABLES FOLDER-OF-RESULTS\n";
+  if (argc != 4) {
+    std::cerr << "usage: trelonit_pack_resources FOLDER-OF-TABLES STEEL-TABLE FOLDER-OF-RESULTS\n";
     return 2;
   }
   try {
-    Pack(argv[1], argv[2]);
+    Pack(argv[1], argv[2], argv[3]);
   } catch (const std::exception& fault) {
     std::cerr << fault.what() << '\n';
     return 1;

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "platform/CodePage1251.h"
+#include "resources/generator/BlocksSource.h"
 #include "resources/generator/CatalogueBlocks.h"
 
 namespace trelonit::packer {
@@ -166,7 +167,8 @@ TEST(CatalogueBlocks, NameTheFileThatCannotBeRead) {
 }
 
 TEST(CatalogueBlocks, BecomeSourceThatHoldsTheirBytes) {
-  const std::string source = BlocksSource({.Data = std::string("\0\xFF", 2), .Index = "A"});
+  const std::string source =
+      BlocksSource({{"EmbeddedCatalogueData", {"\0\xFF", 2}}, {"EmbeddedCatalogueIndex", "A"}});
   EXPECT_NE(
       source.find("EmbeddedCatalogueData() {\n  static const unsigned char bytes[] = {\n0,255,};"),
       std::string::npos);

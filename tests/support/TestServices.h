@@ -82,12 +82,39 @@ class MemoryFiles : public FileService {
     Content[path] = bytes;
     ++Writes;
   }
+  std::unique_ptr<FileUpdate> OpenForUpdate(const std::string& path) override {
+    Require(path);
+    if (ReadOnly.count(path) != 0) {
+      throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
+    return std::make_unique<Update>(*this, path);
+  }
   std::map<std::string, std::string> Content;
   std::map<std::string, ErrorNumber> Refused;
+  /// Files that open for reading only.
+  std::set<std::string> ReadOnly;
   bool NoFileSystem = false;
   int Writes = 0;
 
  private:
+  class Update : public FileUpdate {
+   public:
+    Update(MemoryFiles& files, std::string path) : files_(files), path_(std::move(path)) {}
+    void WriteAt(std::uint64_t place, std::string_view bytes) override {
+      std::string& content = files_.Content.at(path_);
+      const auto start = static_cast<std::size_t>(place);
+      if (content.size() < start + bytes.size()) {
+        content.resize(start + bytes.size(), '\0');
+      }
+      content.replace(start, bytes.size(), bytes);
+      ++files_.Writes;
+    }
+
+   private:
+    MemoryFiles& files_;
+    std::string path_;
+  };
+
   void Require(const std::string& path) const {
     if (path.empty()) {
       throw RuntimeError(ErrorNumber::BadFileName);
@@ -165,8 +192,8 @@ class World {
 
   /// A bundle of references to this world; the world must outlive whoever holds it.
   Services Bundle() {
-    return {Messages, Dialogs,    Clipboard, Settings, Registry, Automation,
-            Shell,    Clock,      resources_, Files,   Locale,   ProgramFolder};
+    return {Messages, Dialogs, Clipboard,  Settings, Registry, Automation,
+            Shell,    Clock,   resources_, Files,    Locale,   ProgramFolder};
   }
 
   RecordingMessages Messages;

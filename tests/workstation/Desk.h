@@ -85,6 +85,9 @@ class Desk {
   World Outside{Resources};
   std::vector<ResultLists> Results;
   std::vector<std::string> Opened;
+  std::vector<SelectionProposal> Proposals;
+  /// Whether the user takes a proposal.
+  bool TakesProposals = false;
   /// Whether the form was to be seen while the last window was open.
   bool VisibleMeanwhile = false;
 
@@ -101,7 +104,12 @@ class Desk {
             .ShowParamerty = note("Paramerty"),
             .ShowSteel = note("Steel"),
             .ShowAbout = note("About"),
-            .CalcAndSelect = note("CalcAndSelect"),
+            .ShowSearch =
+                [this](const SelectionProposal& proposal) {
+                  Opened.push_back("Search");
+                  Proposals.push_back(proposal);
+                  return TakesProposals;
+                },
             .ShowOtchet = note("Otchet"),
             .EndProgram = note("End")};
   }

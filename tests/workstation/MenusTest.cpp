@@ -82,8 +82,8 @@ TEST(Menus, OpenTheirWindows) {
   for (const char* name : {"mnuSearch", "mnuOtchet", "mnuProfile", "optio", "About", "Exit"}) {
     Item(desk.Main, name).Click();
   }
-  const std::vector<std::string> expected{"CalcAndSelect", "Otchet", "DataManager",
-                                          "Paramerty",     "About",  "End"};
+  const std::vector<std::string> expected{"Search",    "Otchet", "DataManager",
+                                          "Paramerty", "About",  "End"};
   EXPECT_EQ(desk.Opened, expected);
 }
 

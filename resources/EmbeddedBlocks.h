@@ -4,7 +4,10 @@
 
 namespace trelonit {
 
-// Defined in a source file that the build makes from the tables in resources/catalogue.
+// Defined in a source file that the build makes from the tables in resources/.
+
+/// Block 101: the steels with their design resistances.
+std::string_view EmbeddedSteelTable();
 
 /// Block 102: 2698 records of 177 bytes, each a type size, and two zero bytes.
 std::string_view EmbeddedCatalogueData();

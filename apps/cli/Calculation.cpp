@@ -1,0 +1,35 @@
+#include "apps/cli/Calculation.h"
+
+#include "apps/cli/TextTable.h"
+
+namespace trelonit::cli {
+
+bool Calculate(ConsoleSession& session, const std::string& project, void (frmMain::*command)()) {
+  constexpr Integer calculateTab = 2;
+  if (!session.Start()) {
+    return false;
+  }
+  session.SetOpenName(project);
+  frmMain& form = session.Main();
+  if (!form.Restore_Click() || session.MetRuntimeError()) {
+    return false;
+  }
+  form.tabMain.SetTab(calculateTab);
+  if (form.tabMain.Tab() != calculateTab || session.MetRuntimeError()) {
+    return false;
+  }
+  (form.*command)();
+  return session.TheProgram().LastResults().has_value() && !session.MetRuntimeError();
+}
+
+std::string ListsAsText(const ResultLists& lists) {
+  std::string text;
+  for (const std::string& line : lists.lstForces) {
+    text += line + '\n';
+  }
+  std::vector<Grid::Row> rows{{"Проверка", "Коэффициент"}};
+  rows.insert(rows.end(), lists.MSFlexGKoefUse.begin(), lists.MSFlexGKoefUse.end());
+  return text + '\n' + TextTable(rows);
+}
+
+}  // namespace trelonit::cli

@@ -1,0 +1,65 @@
+#include "apps/cli/Calculation.h"
+#include "apps/cli/Commands.h"
+#include "apps/cli/ResultJson.h"
+#include "apps/cli/TextTable.h"
+
+namespace trelonit::cli {
+
+namespace {
+
+/// A row a group, in the order in which they are searched; scheme 3 has no verticals.
+std::vector<SelectionRow> RowsOf(const SelectionProposal& proposal, Long treloType) {
+  std::vector<SelectionRow> rows;
+  const auto add = [&](const char* block, GroupOption option) {
+    const SectionRec& section = proposal.Sections[PlaceOfOption(option)];
+    rows.push_back({.Group = block,
+                    .Caption = GroupName(option),
+                    .Name = section.Profile.Name.Trimmed(),
+                    .SizeIdx = section.SizeIdx,
+                    .Gdist = section.Gdist,
+                    .Possible = proposal.Impossible.count(option) == 0});
+  };
+  add("UpPoyas", optionUpPoyas);
+  add("DwnPoyas", optionDwnPoyas);
+  add("Raskos", optionRaskos);
+  if (treloType != 3) {
+    add("Stoyka", optionStoyka);
+  }
+  add("OpornRaskos", optionOpornRaskos);
+  return rows;
+}
+
+std::string RowsAsText(const std::vector<SelectionRow>& selection) {
+  std::vector<Grid::Row> rows{{"Группа", "Профиль", ""}};
+  for (const SelectionRow& row : selection) {
+    rows.push_back({row.Caption, row.Name, row.Possible ? "" : "Подбор невозможен"});
+  }
+  return TextTable(rows) + '\n';
+}
+
+}  // namespace
+
+Status RunSelect(const SelectOptions& options) {
+  ConsoleSession session(options.Force ? MessageAnswer::Yes : MessageAnswer::No,
+                         {.ShowSearch = [](frmSearch& form) { form.cmdApply_Click(); }});
+  if (!Calculate(session, options.Project, &frmMain::cmdCalcAndSelect_Click)) {
+    if (options.Json) {
+      Print(FailureJson(session.Messages()));
+    }
+    return Status::Failed;
+  }
+  frmMain& form = session.Main();
+  const ResultLists& lists = *session.TheProgram().LastResults();
+  const std::vector<SelectionRow> selection =
+      RowsOf(*session.TheProgram().LastProposal(), form.Model.TreloData.TreloType);
+  if (!options.Output.empty()) {
+    session.SetSaveName(options.Output);
+    if (!form.SaveParam_Click()) {
+      return Status::Failed;
+    }
+  }
+  return Print(options.Json ? SelectJson(form.Model, lists, session.Messages(), selection)
+                            : RowsAsText(selection) + ListsAsText(lists));
+}
+
+}  // namespace trelonit::cli

@@ -1,0 +1,290 @@
+#include "catalogue/frmDataManager.h"
+
+#include <algorithm>
+#include <array>
+
+#include "catalogue/DataFile.h"
+#include "catalogue/RecordCoding.h"
+#include "platform/CodePage1251.h"
+#include "platform/Guard.h"
+#include "platform/NumberText.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr Long longStep = 100;
+/// The last record of the round tubes: the designations after it stand for shaped tubes.
+constexpr Long lastRoundTube = 1574;
+constexpr std::size_t longestBareName = 13;
+constexpr const char* firstReached = "Fist position reached !";
+constexpr const char* lastReached = "Last position reached !";
+constexpr const char* notChosen = "Data file has not got !";
+constexpr const char* notThere = "Data file not exists !";
+
+/// A number of the record with what stands before its box. The order of the boxes is not that of
+/// the file: H stands before B, s before t, and P last.
+struct NumberBox {
+  const char* Caption;
+  double ProfileRec::*Field;
+};
+constexpr std::array<NumberBox, 14> numberBoxes{{{"H = мм", &ProfileRec::H},
+                                                 {"B = мм", &ProfileRec::B},
+                                                 {"s =  мм", &ProfileRec::s},
+                                                 {"t = мм", &ProfileRec::t},
+                                                 {"r1 = мм", &ProfileRec::r1},
+                                                 {"r2 =  мм", &ProfileRec::r2},
+                                                 {"A =  см", &ProfileRec::A},
+                                                 {"Jy = см4", &ProfileRec::Jy},
+                                                 {"Jz  = см4", &ProfileRec::Jz},
+                                                 {"Wy = см3", &ProfileRec::Wy},
+                                                 {"Wz = см3", &ProfileRec::Wz},
+                                                 {"y0 = мм", &ProfileRec::y0},
+                                                 {"z0 = мм", &ProfileRec::z0},
+                                                 {"P =  кг/см", &ProfileRec::P}}};
+constexpr Long nameBox = 1;
+constexpr Long typeBox = 2;
+constexpr Long firstNumberBox = 3;
+
+bool IsBlank(const std::string& path) {
+  return path.empty() || path == " ";
+}
+
+std::uint64_t PlaceOfRecord(Long number) {
+  return static_cast<std::uint64_t>(number - 1) * profileRecordSize;
+}
+
+std::string EncodeAll(const BoundedArray<ProfileRec>& records) {
+  std::string bytes;
+  for (const ProfileRec& record : records) {
+    const auto encoded = EncodeProfileRecord(record);
+    bytes.append(encoded.data(), encoded.size());
+  }
+  return bytes;
+}
+
+std::string ReadAll(FileService& files, const std::string& path) {
+  const std::unique_ptr<std::istream> stream = files.OpenForReading(path);
+  return {std::istreambuf_iterator<char>(*stream), std::istreambuf_iterator<char>()};
+}
+
+FixedText<15> RepairedName(const FixedText<15>& name, Long number) {
+  std::string cleaned = StripToPrintable(name.Padded());
+  // What is left has one byte a character in the code page.
+  if (number > lastRoundTube && EncodeCodePage1251(cleaned).size() <= longestBareName) {
+    cleaned.insert(0, "Тр");
+  }
+  return {cleaned};
+}
+
+}  // namespace
+
+frmDataManager::frmDataManager(Services services, std::function<void()> endProgram)
+    : services_(services), endProgram_(std::move(endProgram)) {
+  Form.SetCaption("Менеджер базы данных проката ");
+  lblText[nameBox].SetCaption("Name");
+  lblText[typeBox].SetCaption("Type");
+  for (std::size_t place = 0; place < numberBoxes.size(); ++place) {
+    lblText[firstNumberBox + static_cast<Long>(place)].SetCaption(numberBoxes[place].Caption);
+  }
+}
+
+void frmDataManager::Form_Load() {
+  Records = BoundedArray<ProfileRec>();
+  CurPos = 0;
+  TotalPos = 0;
+  DataPath.clear();
+  for (TextBox& box : Text) {
+    box.SetText("");
+  }
+  ShowCounts();
+}
+
+std::string frmDataManager::AskForFile() {
+  return services_.Dialogs.AskOpenName(
+      {.Title = "Открытие базы данных", .Extension = "dat", .Filter = "Data Files (*.dat)|*.dat"});
+}
+
+void frmDataManager::Show(const std::string& text) {
+  services_.Messages.Show({.Text = text});
+}
+
+bool frmDataManager::Open(const std::function<void()>& open) {
+  if (PassOver(open)) {
+    return true;
+  }
+  services_.Messages.Show({.Title = "Trelo error",
+                           .Text = "Can't get file discriptor , to many files open !",
+                           .Style = MessageStyle::Critical});
+  if (endProgram_) {
+    endProgram_();
+  }
+  return false;
+}
+
+void frmDataManager::cmdLoadDB_Click() {
+  const std::string path = AskForFile();
+  if (IsBlank(path)) {
+    Show(notChosen);
+    return;
+  }
+  if (!services_.Files.FileExists(path)) {
+    Show(notThere);
+    return;
+  }
+  std::unique_ptr<std::istream> stream;
+  if (!Open([&] { stream = services_.Files.OpenForReading(path); })) {
+    return;
+  }
+  DataPath = path;
+  Guard(services_.Messages, "cmdLoadDB_Click", [&] {
+    Records = ReadProfileRecords(*stream, services_.Files.FileLength(path));
+    TotalPos = Records.UpperBound();
+    CurPos = 1;
+    ShowRecord();
+    ShowCounts();
+  });
+}
+
+void frmDataManager::ShowRecord() {
+  PassOver([&] {
+    const ProfileRec& record = Records[CurPos];
+    Text[nameBox].SetText(record.Name.Padded());
+    Text[typeBox].SetText(record.Type.Padded());
+    for (std::size_t place = 0; place < numberBoxes.size(); ++place) {
+      TextBox& box = Text[firstNumberBox + static_cast<Long>(place)];
+      // A number that is none keeps the box as it was.
+      PassOver(
+          [&] { box.SetText(NumberToText(record.*numberBoxes[place].Field, services_.Locale)); });
+    }
+  });
+  lblCurr.SetCaption(std::to_string(CurPos));
+}
+
+void frmDataManager::ShowCounts() {
+  lblCurr.SetCaption(std::to_string(CurPos));
+  lblTotal.SetCaption(std::to_string(TotalPos));
+}
+
+void frmDataManager::MoveTo(Long position) {
+  CurPos = position;
+  ShowRecord();
+}
+
+void frmDataManager::cmdPrew_Click() {
+  if (CurPos > 1) {
+    MoveTo(CurPos - 1);
+  } else {
+    Show(firstReached);
+  }
+}
+
+void frmDataManager::cmdForv_Click() {
+  if (CurPos < TotalPos) {
+    MoveTo(CurPos + 1);
+  } else {
+    Show(lastReached);
+  }
+}
+
+void frmDataManager::cmdPrew100_Click() {
+  if (CurPos - longStep > 1) {
+    MoveTo(CurPos - longStep);
+  } else {
+    MoveTo(1);
+    Show(firstReached);
+  }
+}
+
+void frmDataManager::cmdForv100_Click() {
+  if (CurPos + longStep < TotalPos) {
+    MoveTo(CurPos + longStep);
+  } else {
+    MoveTo(TotalPos);
+    Show(lastReached);
+  }
+}
+
+void frmDataManager::cmdFirst_Click() {
+  MoveTo(1);
+}
+
+void frmDataManager::cmdLastpoz_Click() {
+  MoveTo(TotalPos);
+}
+
+ProfileRec frmDataManager::RecordInBoxes() const {
+  ProfileRec record;
+  record.Name = std::string_view(Text[nameBox].Text());
+  record.Type = std::string_view(Text[typeBox].Text());
+  for (std::size_t place = 0; place < numberBoxes.size(); ++place) {
+    record.*numberBoxes[place].Field =
+        ParseNumber(Text[firstNumberBox + static_cast<Long>(place)].Text(), services_.Locale);
+  }
+  return record;
+}
+
+void frmDataManager::cmdEditCurrent_Click() {
+  if (IsBlank(DataPath)) {
+    Show("Не загружена база данных !");
+    return;
+  }
+  if (!services_.Files.FileExists(DataPath)) {
+    Show(notThere);
+    return;
+  }
+  std::unique_ptr<FileUpdate> file;
+  if (!Open([&] { file = services_.Files.OpenForUpdate(DataPath); })) {
+    return;
+  }
+  Guard(services_.Messages, "cmdEditCurrent_Click", [&] {
+    // A file without records has no current one: there is nothing to write.
+    if (CurPos < 1 || CurPos > Records.UpperBound()) {
+      return;
+    }
+    const auto bytes = EncodeProfileRecord(RecordInBoxes());
+    // As the file has it now: characters outside the code page have become question marks.
+    Records[CurPos] = DecodeProfileRecord({bytes.data(), bytes.size()});
+    file->WriteAt(PlaceOfRecord(CurPos), {bytes.data(), bytes.size()});
+  });
+  ShowCounts();
+}
+
+void frmDataManager::CheckueDB_Click() {
+  const std::string path = AskForFile();
+  if (IsBlank(path)) {
+    Show(notChosen);
+    return;
+  }
+  std::unique_ptr<std::istream> stream;
+  if (!Open([&] { stream = services_.Files.OpenForReading(path); })) {
+    return;
+  }
+  BoundedArray<ProfileRec> repaired;
+  const bool ready = Guard(services_.Messages, "CheckueDB_Click", [&] {
+    repaired = ReadProfileRecords(*stream, services_.Files.FileLength(path));
+    stream.reset();
+    for (Long number = 1; number <= repaired.UpperBound(); ++number) {
+      repaired[number].Name = RepairedName(repaired[number].Name, number);
+    }
+    // Nothing is rewritten before the copy is there.
+    services_.Files.ReplaceFile(path + ".bak", ReadAll(services_.Files, path));
+  });
+  if (!ready) {
+    return;
+  }
+  Records = std::move(repaired);
+  std::unique_ptr<FileUpdate> file;
+  if (!Open([&] { file = services_.Files.OpenForUpdate(path); })) {
+    return;
+  }
+  Guard(services_.Messages, "CheckueDB_Click", [&] { file->WriteAt(0, EncodeAll(Records)); });
+}
+
+void frmDataManager::Exit_Click() {
+  if (Unload) {
+    Unload();
+  }
+}
+
+}  // namespace trelonit
