@@ -43,6 +43,14 @@ frmMain::Openers Program::MakeOpeners() {
   if (windows_.ShowSearch) {
     openers.ShowSearch = [this](const SelectionProposal& proposal) { return OpenSearch(proposal); };
   }
+  if (windows_.ShowOtchet) {
+    openers.BeginOtchet = [this](const ReportSnapshot& snapshot) {
+      snapshot_ = snapshot;
+      report_.clear();
+    };
+    openers.AppendOtchet = [this](const ReportPiece& piece) { report_.push_back(piece); };
+    openers.ShowOtchet = [this] { windows_.ShowOtchet(report_); };
+  }
   openers.EndProgram = windows_.EndProgram;
   return openers;
 }

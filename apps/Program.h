@@ -25,6 +25,8 @@ class Program {
     std::function<void(frmSteel&)> ShowSteel;
     std::function<void(frmParamerty&)> ShowParamerty;
     std::function<void(frmDataManager&)> ShowDataManager;
+    /// The pieces of the report, in order.
+    std::function<void(const std::vector<ReportPiece>&)> ShowOtchet;
     std::function<void()> EndProgram;
   };
 
@@ -44,6 +46,8 @@ class Program {
   Windows windows_;
   std::optional<ResultLists> lastResults_;
   std::optional<SelectionProposal> lastProposal_;
+  std::optional<ReportSnapshot> snapshot_;
+  std::vector<ReportPiece> report_;
   frmKoeffOfUse koeffOfUse_;
   frmAbout about_;
   frmSearch search_;

@@ -1,10 +1,9 @@
 // Measures what the program promises and prints one table: the figure, its limit, whether it is
 // kept. Times of different things stand in one run side by side, because machines differ.
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
-#include <iomanip>
+#include <benchmark/benchmark.h>
+#include <exception>
 #include <iostream>
 #include <map>
 #include <string>
@@ -13,7 +12,9 @@
 #include "analysis/modMaxProgib.h"
 #include "analysis/modTrelo.h"
 #include "bench/Designs.h"
+#include "bench/DesktopCost.h"
 #include "bench/ProcessCost.h"
+#include "bench/Table.h"
 #include "catalogue/modProfileData.h"
 
 namespace {
@@ -77,8 +78,7 @@ void MemberCheck(benchmark::State& state) {
 void UnitRuns(benchmark::State& state, Long scheme) {
   bench::World world;
   TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
-  static_cast<LoadArrays&>(data) =
-      ZeroLoads(*BoundsOfLoads(scheme, bench::largestPanelNum));
+  static_cast<LoadArrays&>(data) = ZeroLoads(*BoundsOfLoads(scheme, bench::largestPanelNum));
   for (auto _ : state) {
     for (Long joint = 0; joint <= bench::largestPanelNum; ++joint) {
       data.UpPForce[joint] = 1;
@@ -98,8 +98,7 @@ void Deflection(benchmark::State& state, Long scheme) {
   const CheckResult check =
       CheckueStress(data, result, numbers, bench::PairedAngles(catalogue), world.Messages);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(
-        CalcProgib(data, result, check, true, numbers.E, world.Messages));
+    benchmark::DoNotOptimize(CalcProgib(data, result, check, true, numbers.E, world.Messages));
   }
 }
 
@@ -155,26 +154,9 @@ void Register() {
   add("CatalogueLoad", CatalogueLoad);
 }
 
-class Table {
- public:
-  void Row(const std::string& what, double figure, double limit, const std::string& unit) {
-    const bool kept = figure <= limit;
-    allKept_ = allKept_ && kept;
-    std::cout << std::left << std::setw(58) << what << std::right << std::fixed
-              << std::setprecision(2) << std::setw(9) << figure << " " << std::left << std::setw(4)
-              << unit << "limit " << std::setprecision(1) << std::setw(6) << limit
-              << (kept ? "kept" : "EXCEEDED") << '\n';
-  }
-  bool AllKept() const { return allKept_; }
-
- private:
-  bool allKept_ = true;
-};
-
-}  // namespace
-
-int main(int argc, char** argv) {
-  // Repetitions of different things take turns, so that a busy moment of the machine hits all alike.
+int Measure(int argc, char** argv) {
+  // Repetitions of different things take turns, so that a busy moment of the machine hits all
+  // alike.
   std::vector<char*> arguments(argv, argv + argc);
   std::string interleave = "--benchmark_enable_random_interleaving=true";
   arguments.push_back(interleave.data());
@@ -184,7 +166,7 @@ int main(int argc, char** argv) {
   SmallestTimes times;
   benchmark::RunSpecifiedBenchmarks(&times);
 
-  Table table;
+  bench::Table table;
   for (Long scheme = 1; scheme <= 4; ++scheme) {
     table.Row("analysis n = 30, scheme " + std::to_string(scheme) + " (" +
                   FormatPlain(times[Name("Solver", scheme)] / 1000, 2, {}) +
@@ -198,7 +180,7 @@ int main(int argc, char** argv) {
   table.Row("member check n = 30", times["MemberCheck"] / 1e3, 1.5, "us");
   table.Row("loading the catalogue", times["CatalogueLoad"] / 1e6, 3, "ms");
 
-  bench::ProcessCost best{1e9, 0};
+  bench::ProcessCost best{.Milliseconds = 1e9};
   for (int run = 0; run < 20; ++run) {
     const bench::ProcessCost cost =
         bench::RunProcess({TRELONIT_CLI, "calc", EXAMPLES_FOLDER "/scheme1-24m.tsav"});
@@ -207,5 +189,19 @@ int main(int argc, char** argv) {
   }
   table.Row("trelonit-cli calc, whole process", best.Milliseconds, 15, "ms");
   table.Row("trelonit-cli calc, peak memory", best.Megabytes, 20, "MB");
+#ifdef TRELONIT_WHOLE_PROGRAM
+  bench::AddDesktopRows(table);
+#endif
   return table.AllKept() ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Measure(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return 1;
+  }
 }

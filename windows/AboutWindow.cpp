@@ -45,7 +45,9 @@ AboutWindow::AboutWindow(frmAbout& form, QWidget* parent)
     return push;
   };
   button("cmdSysInfo", QStringLiteral("&Сведения о системе..."), &frmAbout::cmdSysInfo_Click);
-  button("cmdOK", QStringLiteral("OK"), &frmAbout::cmdOK_Click)->setDefault(true);
+  auto* ok = button("cmdOK", QStringLiteral("OK"), &frmAbout::cmdOK_Click);
+  ok->setDefault(true);
+  ok->setFocus();
 }
 
 }  // namespace trelonit

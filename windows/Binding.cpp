@@ -11,7 +11,14 @@ namespace {
 
 /// A grey box is one whose input does not count at present: it takes the colour of the window.
 void ShowBackground(Color color, QWidget* widget) {
-  widget->setBackgroundRole(color == colorDisabledGrey ? QPalette::Window : QPalette::Base);
+  const bool grey = color == colorDisabledGrey;
+  widget->setBackgroundRole(grey ? QPalette::Window : QPalette::Base);
+  // A line edit fills itself with the base colour, whatever its role.
+  QPalette palette;
+  if (grey) {
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  }
+  widget->setPalette(palette);
 }
 
 void RefreshEntries(const ComboBox& state, QComboBox* box) {
@@ -58,7 +65,8 @@ void RefreshTable(const Grid& state, QTableWidget* table) {
         continue;
       }
       item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-      if (column > 0) {
+      // The last column holds the numbers.
+      if (column + 1 == static_cast<int>(texts.size())) {
         item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
       }
       table->setItem(row - 1, column, item);

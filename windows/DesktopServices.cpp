@@ -4,11 +4,13 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
 #include <QUrl>
+#include <algorithm>
 
 #include "platform/RuntimeError.h"
 #include "windows/Binding.h"
@@ -64,6 +66,13 @@ MessageAnswer DesktopMessages::Show(const Message& message) {
   box.setIcon(IconOf(message.Style));
   const bool question = message.Style == MessageStyle::QuestionYesNo;
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  // The lines of the texts are broken where they are meant to be.
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    constexpr int widest = 900;
+    const QRect lines =
+        label->fontMetrics().boundingRect(QRect(0, 0, widest, widest), 0, box.text());
+    label->setMinimumWidth(std::min(lines.width() + 2, widest));
+  }
   // Closing a question without an answer is the safe one.
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
   const int answer = box.exec();

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 
 #include "windows/Binding.h"
@@ -101,7 +102,7 @@ QListWidget* MakeList(frmKoeffOfUse& form) {
 KoeffOfUseWindow::KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent), form_(form) {
   setWindowFlag(Qt::WindowMaximizeButtonHint);
-  resize(1120, 680);
+  resize(QSize(1120, 680).boundedTo(screen()->availableSize() * 9 / 10));
   auto* column = new QVBoxLayout(this);
   auto* parts = new QSplitter;
   parts->setChildrenCollapsible(false);
@@ -129,6 +130,7 @@ KoeffOfUseWindow::KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent)
   AddGroup<QVBoxLayout>(right, QStringLiteral("Ферма"), 1)->addWidget(truss);
   AddGroup<QVBoxLayout>(right, ToQt(form_.framForces.Caption()), 1)->addWidget(MakeList(form_));
 
+  parts->setSizes({1, 1});
   auto* close = new QPushButton(ToQt(form_.cmdClose.Caption()));
   close->setObjectName(QStringLiteral("cmdClose"));
   close->setDefault(true);

@@ -29,6 +29,17 @@ QColor ColorOf(const PreviewMark& mark, const QPalette& palette) {
   return mark.BorderColor == colorRed ? WarningColor(palette) : palette.color(QPalette::Text);
 }
 
+/// Lines at 45 degrees, equally dense at every scaling of the desktop.
+void DrawHatch(QPainter& painter, const QRectF& place) {
+  constexpr double spacing = 7;
+  painter.save();
+  painter.setClipRect(place);
+  for (double x = place.left() - place.height(); x < place.right(); x += spacing) {
+    painter.drawLine(QPointF(x, place.bottom()), QPointF(x + place.height(), place.top()));
+  }
+  painter.restore();
+}
+
 }  // namespace
 
 LoadPreviewView::LoadPreviewView(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
@@ -94,7 +105,7 @@ void LoadPreviewView::DrawPanelLoads(QPainter& painter, const ChordMarks& marks,
     if (bar.Visible) {
       const QRectF place(ToX(bar.X1), y - barGap - barHeight, ToX(bar.X2) - ToX(bar.X1), barHeight);
       painter.setPen(QPen(color, 1));
-      painter.setBrush(QBrush(color, Qt::BDiagPattern));
+      DrawHatch(painter, place);
       painter.drawRect(place);
     }
     if (marks.lblQ[panel].Visible) {

@@ -120,6 +120,15 @@ void LoadTab::AddChords(QBoxLayout* row) {
     button->setObjectName(QLatin1String(name));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     SetHint(button, hint);
+    // The pressed one must be told from the other in a dark theme too.
+    QObject::connect(button, &QToolButton::toggled, button, [button](bool pressed) {
+      QPalette palette;
+      if (pressed) {
+        palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
+        palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+      }
+      button->setPalette(palette);
+    });
     Bind(state, button);
     column->addWidget(button);
   };
@@ -166,10 +175,10 @@ void LoadTab::AddMaterial(QBoxLayout* column) {
     Bind(state, edit);
     rows->addRow(LabelFor(edit, caption), edit);
   };
-  number(form_.txtRy, "txtRy", QStringLiteral("Расчетное сопротивление R&y, МПа"));
+  number(form_.txtRy, "txtRy", QStringLiteral("&Расчетное сопротивление Ry, МПа"));
   number(form_.txtUsloviyaRabot, "txtUsloviyaRabot",
          QStringLiteral("Коэффициент условий ра&боты γc"));
-  number(form_.txtNadegnost, "txtNadegnost", QStringLiteral("Коэ&ффициент надежности γn"));
+  number(form_.txtNadegnost, "txtNadegnost", QStringLiteral("Коэффициент наде&жности γn"));
   box->addStretch();
 }
 
@@ -186,7 +195,7 @@ void LoadTab::AddCommands(QBoxLayout* column) {
     return button;
   };
   command("cmdCalculate", QStringLiteral("В&ычислить"), "mnuCalc");
-  command("cmdCalcAndSelect", QStringLiteral("&Подобрать ..."), "mnuSearch");
+  command("cmdCalcAndSelect", QStringLiteral("Подобрат&ь ..."), "mnuSearch");
   command("cmdShowResults", QStringLiteral("О&тчет"), "mnuOtchet")
       ->setToolTip(QStringLiteral("Сгенерировать отчет"));
   rows->addStretch();

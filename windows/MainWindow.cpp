@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 #include "windows/Binding.h"
 #include "windows/LoadTab.h"
@@ -68,10 +69,33 @@ void MainWindow::AddTabs() {
   auto* tabs = new QTabWidget;
   tabs->setObjectName(QStringLiteral("tabMain"));
   tabs->addTab(new SchemeTab(form_), QStringLiteral("Параметры фермы"));
-  tabs->addTab(new SectionTab(form_), QStringLiteral("Сечение элементов"));
-  tabs->addTab(new LoadTab(form_), QStringLiteral("Вычислить"));
+  sectionPage_ = AddPage(tabs, QStringLiteral("Сечение элементов"));
+  loadPage_ = AddPage(tabs, QStringLiteral("Вычислить"));
+  QObject::connect(tabs, &QTabWidget::currentChanged, this, [this] { CompleteTabs(); });
   Bind(form_.tabMain, tabs);
   setCentralWidget(tabs);
+}
+
+QWidget* MainWindow::AddPage(QTabWidget* tabs, const QString& caption) {
+  auto* page = new QWidget;
+  auto* layout = new QVBoxLayout(page);
+  layout->setContentsMargins(0, 0, 0, 0);
+  tabs->addTab(page, caption);
+  return page;
+}
+
+void MainWindow::CompleteTabs() {
+  if (sectionPage_->layout()->isEmpty()) {
+    sectionPage_->layout()->addWidget(new SectionTab(form_));
+    loadPage_->layout()->addWidget(new LoadTab(form_));
+  }
+}
+
+void MainWindow::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (sectionPage_->layout()->isEmpty()) {
+    QTimer::singleShot(0, this, [this] { CompleteTabs(); });
+  }
 }
 
 void MainWindow::AddMenus() {

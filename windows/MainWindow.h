@@ -7,6 +7,7 @@
 
 class QLabel;
 class QMenu;
+class QTabWidget;
 
 namespace trelonit {
 
@@ -17,11 +18,18 @@ class MainWindow : public QMainWindow {
   /// Settings keep the place of the window between runs.
   MainWindow(frmMain& form, SettingsService& settings);
 
+  /// Builds the tabs that are not to be seen yet. It happens by itself after the first paint or on
+  /// the way to one of them, so that the window stands sooner.
+  void CompleteTabs();
+
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
   void AddTabs();
+  /// The empty page of a tab whose content comes later.
+  QWidget* AddPage(QTabWidget* tabs, const QString& caption);
   void AddMenus();
   void AddMenu(QMenu* menu, const std::vector<frmMain::MenuItem>& items);
   void AddStatusBar();
@@ -31,6 +39,8 @@ class MainWindow : public QMainWindow {
 
   frmMain& form_;
   SettingsService& settings_;
+  QWidget* sectionPage_ = nullptr;
+  QWidget* loadPage_ = nullptr;
   QTimer caption_;
   QTimer status_;
   QLabel* time_ = nullptr;

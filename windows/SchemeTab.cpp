@@ -120,7 +120,7 @@ void SchemeTab::AddBracing(QBoxLayout* column, OptionGroup& options, const QStri
 
 void SchemeTab::AddDeflection(QBoxLayout* column) {
   auto* rows = AddGroup<QGridLayout>(column, QStringLiteral("Прогиб"));
-  auto* wanted = new QCheckBox(QStringLiteral("&По прогибу   max"));
+  auto* wanted = new QCheckBox(QStringLiteral("По про&гибу   max"));
   wanted->setObjectName(QStringLiteral("chkProgib"));
   Bind(form_.chkProgib, wanted);
   rows->addWidget(wanted, 0, 0);

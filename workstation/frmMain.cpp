@@ -206,7 +206,8 @@ std::vector<frmMain::MenuItem> frmMain::Menus() {
                  item(
                      "mnuSearch", "Подобрать ...",
                      openers_.ShowSearch ? [this] { mnuSearch_Click(); } : std::function<void()>()),
-                 item("mnuOtchet", "Отчет расчета ...", openers_.ShowOtchet)}},
+                 item("mnuOtchet", "Отчет расчета ...",
+                      when(openers_.ShowOtchet, [this] { mnuOtchet_Click(); }))}},
       {.Name = "DataBase",
        .Caption = "База данных",
        .Items = {item("mnuProfile", "Профильный прокат...",
@@ -242,6 +243,12 @@ void frmMain::mnuCalc_Click() {
 void frmMain::mnuSearch_Click() {
   if (GoToCommands()) {
     cmdCalcAndSelect_Click();
+  }
+}
+
+void frmMain::mnuOtchet_Click() {
+  if (GoToCommands()) {
+    cmdShowResults_Click();
   }
 }
 

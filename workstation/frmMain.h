@@ -12,6 +12,7 @@
 #include "workstation/ElementGroups.h"
 #include "workstation/LoadPreview.h"
 #include "workstation/ProjectFile.h"
+#include "workstation/ReportLines.h"
 #include "workstation/ResultLists.h"
 #include "workstation/RunningCaption.h"
 #include "workstation/Selection.h"
@@ -32,6 +33,10 @@ class frmMain {
     std::function<void()> ShowAbout;
     /// Shows a proposal of automatic selection; true when the user takes it.
     std::function<bool(const SelectionProposal&)> ShowSearch;
+    /// The report: a new one begins with what drawings are made from, its pieces follow, then its
+    /// editor is shown.
+    std::function<void(const ReportSnapshot&)> BeginOtchet;
+    ReportSink AppendOtchet;
     std::function<void()> ShowOtchet;
     std::function<void()> EndProgram;
   };
@@ -61,6 +66,7 @@ class frmMain {
   bool HasSteelWindow() const { return static_cast<bool>(openers_.ShowSteel); }
   void mnuCalc_Click();
   void mnuSearch_Click();
+  void mnuOtchet_Click();
   void mnuProfile_Click();
   void optio_Click();
   void cmdSteelGet_Click();
@@ -110,6 +116,7 @@ class frmMain {
   // --- commands (frmMainCalculate.cpp)
   void cmdCalculate_Click();
   void cmdCalcAndSelect_Click();
+  void cmdShowResults_Click();
   /// The numbers of the checks as they stand in the boxes.
   CheckNumbers ReadCheckNumbers() const;
 
@@ -214,6 +221,8 @@ class frmMain {
   void AnalyseWithOwnWeight(const CheckNumbers& numbers);
   /// The lists, the deflection and the results window; what both end with.
   void ShowResults(const CheckNumbers& numbers);
+  /// All pieces of the report in order, into its editor.
+  void FillOtchet(const CheckNumbers& numbers);
   void TakeProposal(const SelectionProposal& proposal);
   void ShowProgib(const ProgibResult& progib);
 

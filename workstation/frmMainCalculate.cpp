@@ -41,6 +41,43 @@ void frmMain::cmdCalcAndSelect_Click() {
   });
 }
 
+void frmMain::cmdShowResults_Click() {
+  Guard(services_.Messages, "cmdShowResults_Click", [&] {
+    const CheckNumbers numbers = ReadCheckNumbers();
+    AnalyseWithOwnWeight(numbers);
+    if (openers_.BeginOtchet) {
+      openers_.BeginOtchet({.TreloData = Model.TreloData,
+                            .TreloResult = Model.TreloResult,
+                            .CheckData = Model.CheckData,
+                            .ElementSection = Model.ElementSection});
+    }
+    if (openers_.AppendOtchet) {
+      FillOtchet(numbers);
+    }
+    if (openers_.ShowOtchet) {
+      openers_.ShowOtchet();
+    }
+  });
+}
+
+void frmMain::FillOtchet(const CheckNumbers& numbers) {
+  const NumberLocale& locale = services_.Locale;
+  WriteReport(Model,
+              {.SteelName = lblStillName.Caption(),
+               .Numbers = numbers,
+               .ProgibOn = chkProgib.Checked(),
+               .ProgibUpper = optBP.Value(),
+               .LenLim = cmbLenlim.Text()},
+              locale, openers_.AppendOtchet);
+  if (chkProgib.Checked()) {
+    const ProgibResult progib =
+        CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(), locale, services_.Messages);
+    WriteReportProgib(progib, locale, openers_.AppendOtchet);
+    txtProgib.SetText(FormatShown(progib.Value, progibDecimals, locale));
+  }
+  WriteReportAdditional(Model, locale, openers_.AppendOtchet);
+}
+
 void frmMain::AnalyseWithOwnWeight(const CheckNumbers& numbers) {
   AnalyseAndCheck(Model, numbers, services_.Messages);
   if (chkOwnWeight.Checked() && ApplyOwnWeight(Model, numbers, services_.Messages)) {

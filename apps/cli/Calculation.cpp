@@ -4,7 +4,7 @@
 
 namespace trelonit::cli {
 
-bool Calculate(ConsoleSession& session, const std::string& project, void (frmMain::*command)()) {
+bool Restore(ConsoleSession& session, const std::string& project) {
   constexpr Integer calculateTab = 2;
   if (!session.Start()) {
     return false;
@@ -15,10 +15,14 @@ bool Calculate(ConsoleSession& session, const std::string& project, void (frmMai
     return false;
   }
   form.tabMain.SetTab(calculateTab);
-  if (form.tabMain.Tab() != calculateTab || session.MetRuntimeError()) {
+  return form.tabMain.Tab() == calculateTab && !session.MetRuntimeError();
+}
+
+bool Calculate(ConsoleSession& session, const std::string& project, void (frmMain::*command)()) {
+  if (!Restore(session, project)) {
     return false;
   }
-  (form.*command)();
+  (session.Main().*command)();
   return session.TheProgram().LastResults().has_value() && !session.MetRuntimeError();
 }
 

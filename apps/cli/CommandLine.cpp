@@ -113,6 +113,18 @@ Status RunCommandLine(int argc, const char* const* argv) {
   select->add_flag("--json", selectOptions.Json, "вывод в формате JSON");
   select->callback([&] { run = [&] { return RunSelect(selectOptions); }; });
 
+  ReportOptions reportOptions;
+  CLI::App* report = AddCommand(app, "report", "отчёт расчёта");
+  report->add_option("FILE", reportOptions.Project, "файл проекта (.tsav)")
+      ->required()
+      ->type_name("");
+  report
+      ->add_option("-o,--output", reportOptions.Output,
+                   "файл отчёта: .txt, .html; «-» — стандартный вывод")
+      ->required()
+      ->type_name("FILE");
+  report->callback([&] { run = [&] { return RunReport(reportOptions); }; });
+
   CLI::App* catalogue = AddCommand(app, "catalogue", "каталог проката");
   catalogue->require_subcommand(1);
   AddCommand(*catalogue, "list", "стандарты каталога")->callback([&] { run = RunCatalogueList; });

@@ -31,6 +31,13 @@ struct SelectOptions {
 /// project where an output is named.
 Status RunSelect(const SelectOptions& options);
 
+struct ReportOptions {
+  std::string Project;
+  std::string Output;  ///< a file by its extension, "-" for standard output
+};
+/// The calculation report.
+Status RunReport(const ReportOptions& options);
+
 /// The standards of the catalogue in memory.
 Status RunCatalogueList();
 

@@ -1,0 +1,94 @@
+#include "bench/DesktopCost.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+#include <stdexcept>
+
+#include "bench/ProcessCost.h"
+#include "platform/NumberText.h"
+
+namespace trelonit::bench {
+
+namespace {
+
+constexpr int startRuns = 30;
+constexpr int calculateRuns = 3;
+
+struct Figure {
+  double Milliseconds = 0;  ///< when it was told, since the start of the program
+  double Value = 0;
+};
+
+/// The line that begins with this word.
+Figure Told(const std::vector<Report>& reports, const std::string& what) {
+  for (const Report& report : reports) {
+    std::istringstream line(report.Line);
+    std::string word;
+    Figure figure{.Milliseconds = report.Milliseconds};
+    if (line >> word >> figure.Value && word == what) {
+      return figure;
+    }
+  }
+  throw std::runtime_error("nothing was told of \"" + what + "\"");
+}
+
+/// No settings of the user, and the same language everywhere.
+Environment Desktop(const std::string& platform, const std::string& display) {
+  const std::string folder =
+      (std::filesystem::temp_directory_path() / "trelonit-bench-desktop").string();
+  std::filesystem::create_directories(folder);
+  // Warnings of the toolkit about the platform do not belong into the table.
+  return {{"QT_QPA_PLATFORM", platform},
+          {"DISPLAY", display},
+          {"XDG_CONFIG_HOME", folder},
+          {"XDG_RUNTIME_DIR", folder},
+          {"LC_ALL", "C.UTF-8"},
+          {"QT_QPA_PLATFORMTHEME", ""},
+          {"QT_LOGGING_RULES", "*.warning=false"}};
+}
+
+}  // namespace
+
+void AddDesktopRows(Table& table) {
+  const BackgroundProcess display({"Xvfb", "-displayfd",
+                                   std::to_string(BackgroundProcess::reportDescriptor), "-screen",
+                                   "0", "1280x800x24", "-noreset", "-nolisten", "tcp"});
+  const Environment onDisplay = Desktop("xcb", ":" + display.FirstLine());
+  double empty = 1e9;
+  double program = 1e9;
+  double memory = 0;
+  // Unpacks the catalogue and warms the caches.
+  RunReportingProcess({TRELONIT_WHOLE_PROGRAM}, onDisplay);
+  // Both take turns, so that a busy moment of the machine hits both alike.
+  for (int run = 0; run < startRuns; ++run) {
+    empty = std::min(
+        empty,
+        Told(RunReportingProcess({TRELONIT_EMPTY_WINDOW}, onDisplay), "painted").Milliseconds);
+    const Figure painted =
+        Told(RunReportingProcess({TRELONIT_WHOLE_PROGRAM}, onDisplay), "painted");
+    program = std::min(program, painted.Milliseconds);
+    memory = std::max(memory, painted.Value);
+  }
+  table.Row("start to first paint (" + FormatPlain(program, 0, {}) + " ms) / an empty window's",
+            program / empty, 2.5, "x");
+
+  const Environment offScreen = Desktop("offscreen", "");
+  double calculate = 1e9;
+  double memoryAfter = 0;
+  for (int run = 0; run < calculateRuns; ++run) {
+    calculate = std::min(
+        calculate,
+        Told(RunReportingProcess({TRELONIT_WHOLE_PROGRAM, "calculate"}, offScreen), "calculated")
+            .Value);
+    memoryAfter = std::max(
+        memoryAfter,
+        Told(RunReportingProcess({TRELONIT_WHOLE_PROGRAM, "calculate"}, onDisplay), "memory")
+            .Value);
+  }
+  table.Row("Calculate n = 30 to the shown results", calculate, 50, "ms");
+  table.Row("desktop program, memory after start", memory, 120, "MB");
+  table.Row("desktop program, memory after Calculate", memoryAfter, 120, "MB");
+}
+
+}  // namespace trelonit::bench
