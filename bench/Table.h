@@ -12,7 +12,7 @@ class Table {
   void Row(const std::string& what, double figure, double limit, const std::string& unit) {
     const bool kept = figure <= limit;
     allKept_ = allKept_ && kept;
-    std::cout << std::left << std::setw(58) << what << std::right << std::fixed
+    std::cout << std::left << std::setw(62) << what << std::right << std::fixed
               << std::setprecision(2) << std::setw(9) << figure << " " << std::left << std::setw(4)
               << unit << "limit " << std::setprecision(1) << std::setw(6) << limit
               << (kept ? "kept" : "EXCEEDED") << std::endl;

@@ -16,6 +16,7 @@
 #include "bench/ProcessCost.h"
 #include "bench/Table.h"
 #include "catalogue/modProfileData.h"
+#include "workstation/Selection.h"
 
 namespace {
 
@@ -112,6 +113,42 @@ void CatalogueLoad(benchmark::State& state) {
   }
 }
 
+/// The longest search there is: forces that no size carries, from the first size of the largest
+/// standard, for all five groups.
+void Selection(benchmark::State& state) {
+  bench::World world;
+  DesignModel model;
+  model.ProfileTypes = LoadProfileTypes(world.Bundle());
+  Long largest = 1;
+  for (Long standard = 1; standard <= model.ProfileTypes.UpperBound(); ++standard) {
+    if (model.ProfileTypes[standard].Rec.UpperBound() >
+        model.ProfileTypes[largest].Rec.UpperBound()) {
+      largest = standard;
+    }
+  }
+  constexpr Long roundTube = 11;
+  for (SectionRec& section : model.ElementSection) {
+    section = {.TypeIdx = largest,
+               .SizeIdx = 1,
+               .Profile = model.ProfileTypes[largest].Rec[1],
+               .Layout = roundTube};
+  }
+  model.TreloData = bench::LoadedTruss(1, bench::largestPanelNum);
+  for (double& force : model.TreloData.UpPForce) {
+    force = 1e5;
+  }
+  const CheckNumbers numbers = bench::OrdinarySteel();
+  model.TreloResult = CalcTrelo(model.TreloData, world.Messages);
+  model.CheckData = CheckueStress(model.TreloData, model.TreloResult, numbers, model.ElementSection,
+                                  world.Messages);
+  for (auto _ : state) {
+    const SelectionProposal proposal = SelectSections(model, numbers, world.Messages);
+    if (proposal.Impossible.size() != groupCount) {
+      state.SkipWithError("a size carries the forces");
+    }
+  }
+}
+
 /// Keeps the smallest time of each name, in nanoseconds: what the machine's other work adds is not
 /// the program's.
 class SmallestTimes : public benchmark::BenchmarkReporter {
@@ -152,6 +189,7 @@ void Register() {
   }
   add("MemberCheck", MemberCheck);
   add("CatalogueLoad", CatalogueLoad);
+  add("Selection", Selection);
 }
 
 int Measure(int argc, char** argv) {
@@ -179,6 +217,8 @@ int Measure(int argc, char** argv) {
   }
   table.Row("member check n = 30", times["MemberCheck"] / 1e3, 1.5, "us");
   table.Row("loading the catalogue", times["CatalogueLoad"] / 1e6, 3, "ms");
+  table.Row("selection, five groups to the end of the largest standard", times["Selection"] / 1e6,
+            20, "ms");
 
   bench::ProcessCost best{.Milliseconds = 1e9};
   for (int run = 0; run < 20; ++run) {
