@@ -136,9 +136,10 @@ void frmDataManager::cmdLoadDB_Click() {
   if (!Open([&] { stream = services_.Files.OpenForReading(path); })) {
     return;
   }
-  DataPath = path;
   Guard(services_.Messages, "cmdLoadDB_Click", [&] {
+    // All of it or nothing: a record of one file must never be written into another.
     Records = ReadProfileRecords(*stream, services_.Files.FileLength(path));
+    DataPath = path;
     TotalPos = Records.UpperBound();
     CurPos = 1;
     ShowRecord();

@@ -101,6 +101,8 @@ frmSteel::frmSteel(Services services, Targets targets) : services_(services), ta
 void frmSteel::Form_Load() {
   Activate(txtRysheet, txtRyfason);
   FillGrid();
+  optOtvetstven.ClearAll();
+  Gn = 1;
   Steels.clear();
   cmbSteelName.Clear();
   cmbSheetThick.Clear();
@@ -143,8 +145,14 @@ void frmSteel::FillRanges() {
 void frmSteel::ShowRange() {
   const SteelRec& steel = Steels.at(static_cast<std::size_t>(cmbSteelName.ListIndex()));
   const ThickRange& range = steel.Ranges.at(static_cast<std::size_t>(cmbSheetThick.ListIndex()));
-  txtRysheet.SetText(range.RySheet.Trimmed());
-  txtRyfason.SetText(range.RyFason.Trimmed());
+  // The last field of a line keeps its carriage return where it has room for one.
+  const auto shown = [](const FixedText<3>& value) {
+    std::string text = value.Trimmed();
+    std::erase(text, '\r');
+    return text;
+  };
+  txtRysheet.SetText(shown(range.RySheet));
+  txtRyfason.SetText(shown(range.RyFason));
 }
 
 void frmSteel::cmbSteelName_Click() {

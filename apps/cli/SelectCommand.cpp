@@ -42,11 +42,14 @@ std::string RowsAsText(const std::vector<SelectionRow>& selection) {
 Status RunSelect(const SelectOptions& options) {
   ConsoleSession session(options.Force ? MessageAnswer::Yes : MessageAnswer::No,
                          {.ShowSearch = [](frmSearch& form) { form.cmdApply_Click(); }});
-  if (!Calculate(session, options.Project, &frmMain::cmdCalcAndSelect_Click)) {
+  const auto fail = [&] {
     if (options.Json) {
       Print(FailureJson(session.Messages()));
     }
     return Status::Failed;
+  };
+  if (!Calculate(session, options.Project, &frmMain::cmdCalcAndSelect_Click)) {
+    return fail();
   }
   frmMain& form = session.Main();
   const ResultLists& lists = *session.TheProgram().LastResults();
@@ -55,7 +58,7 @@ Status RunSelect(const SelectOptions& options) {
   if (!options.Output.empty()) {
     session.SetSaveName(options.Output);
     if (!form.SaveParam_Click()) {
-      return Status::Failed;
+      return fail();
     }
   }
   return Print(options.Json ? SelectJson(form.Model, lists, session.Messages(), selection)

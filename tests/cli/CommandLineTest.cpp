@@ -20,6 +20,8 @@ const std::vector<Arguments>& Commands() {
       {},
       {"new"},
       {"calc"},
+      {"select"},
+      {"report"},
       {"catalogue"},
       {"catalogue", "list"},
       {"catalogue", "show"},
@@ -60,9 +62,10 @@ std::set<std::string> LatinWords(const std::string& text) {
 /// Names that stand in the help as they are typed or as the code has them.
 const std::set<std::string>& LatinNames() {
   static const std::set<std::string> names{
-      "trelonit", "cli",  "new",      "calc",   "catalogue", "list",  "show", "verify", "h",
-      "help",     "o",    "version",  "output", "f",         "force", "json", "bar",    "tsav",
-      "FILE",     "JSON", "STANDARD", "SIZE",   "BarForce",  "A",     "Jy",   "Jz"};
+      "trelonit", "cli", "new",  "calc", "select",  "catalogue", "list", "show",
+      "verify",   "h",   "help", "o",    "version", "output",    "f",    "force",
+      "json",     "bar", "tsav", "FILE", "JSON",    "STANDARD",  "SIZE", "BarForce",
+      "report",   "txt", "rtf",  "pdf",  "html",    "A",         "Jy",   "Jz"};
   return names;
 }
 
@@ -110,6 +113,8 @@ TEST_F(CommandLine, IsRefusedWithoutAnArgumentThatTheCommandNeeds) {
   ExpectRefused({"new", "--force"}, "не указан аргумент «--output»");
   ExpectRefused({"calc"}, "не указан аргумент «FILE»");
   ExpectRefused({"calc", "--json"}, "не указан аргумент «FILE»");
+  ExpectRefused({"select"}, "не указан аргумент «FILE»");
+  ExpectRefused({"select", "-o", "a.tsav", "--json"}, "не указан аргумент «FILE»");
   ExpectRefused({"catalogue", "show"}, "не указан аргумент «STANDARD»");
   ExpectNothingWritten();
 }
@@ -119,6 +124,8 @@ TEST_F(CommandLine, IsRefusedWithAnOptionThatLacksItsValueOrComesTwice) {
   ExpectRefused({"new", "-o"}, complaint);
   ExpectRefused({"new", "--output"}, complaint);
   ExpectRefused({"new", "-o", "a.tsav", "-o", "b.tsav"}, complaint);
+  ExpectRefused({"select", "a.tsav", "-o"}, complaint);
+  ExpectRefused({"select", "a.tsav", "-o", "b.tsav", "-o", "c.tsav"}, complaint);
   ExpectNothingWritten();
 }
 
@@ -126,6 +133,8 @@ TEST_F(CommandLine, IsRefusedWithAnArgumentTooMany) {
   const std::string complaint = "лишний или неизвестный аргумент «лишний»";
   ExpectRefused({"new", "-o", "a.tsav", "лишний"}, complaint);
   ExpectRefused({"calc", "a.tsav", "лишний"}, complaint);
+  ExpectRefused({"select", "a.tsav", "лишний"}, complaint);
+  ExpectRefused({"catalogue", "verify", "a.dat", "лишний"}, complaint);
   ExpectRefused({"catalogue", "list", "лишний"}, complaint);
   ExpectRefused({"catalogue", "show", "1", "L25x16x3", "лишний"}, complaint);
   ExpectNothingWritten();
@@ -142,6 +151,7 @@ TEST_F(CommandLine, IsRefusedWithAnUnknownOption) {
     const std::string complaint = "лишний или неизвестный аргумент «" + std::string(option) + "»";
     ExpectRefused({"new", "-o", "a.tsav", option}, complaint);
     ExpectRefused({"calc", "a.tsav", option}, complaint);
+    ExpectRefused({"select", "a.tsav", option}, complaint);
     ExpectRefused({"catalogue", "list", option}, complaint);
     ExpectRefused({"catalogue", "show", "1", option}, complaint);
     ExpectRefused({"catalogue", "verify", option}, complaint);
@@ -227,10 +237,12 @@ TEST_F(CommandLine, NamesEveryCommandAndOptionInItsHelp) {
           << Typed(command) << ": " << name;
     }
   };
-  expectNamed({}, {"new", "calc", "catalogue"});
+  expectNamed({}, {"new", "calc", "select", "report", "catalogue"});
   expectNamed({"new"}, {"-o,--output", "-f,--force"});
   expectNamed({"calc"}, {"FILE", "--json", "--bar-force"});
+  expectNamed({"select"}, {"FILE", "-o,--output", "-f,--force", "--json"});
   expectNamed({"catalogue"}, {"list", "show", "verify"});
+  expectNamed({"catalogue", "verify"}, {"[FILE]"});
   expectNamed({"catalogue", "show"}, {"STANDARD", "SIZE", "[SIZE]"});
 }
 
@@ -280,6 +292,8 @@ TEST_F(FullOutput, KeepsAResultFromArrivingAndIsTold) {
   Put("a.tsav", ExampleBytes(1));
   ExpectTold({{"calc", "a.tsav"},
               {"calc", "a.tsav", "--json"},
+              {"select", "a.tsav"},
+              {"select", "a.tsav", "--json"},
               {"catalogue", "list"},
               {"catalogue", "show", "1"},
               {"catalogue", "verify"}});

@@ -88,6 +88,10 @@ class Desk {
   std::vector<SelectionProposal> Proposals;
   /// Whether the user takes a proposal.
   bool TakesProposals = false;
+  /// What the drawings are to be made from, a report each.
+  std::vector<ReportSnapshot> Snapshots;
+  /// The pieces of the last report.
+  std::vector<ReportPiece> Report;
   /// Whether the form was to be seen while the last window was open.
   bool VisibleMeanwhile = false;
 
@@ -110,6 +114,12 @@ class Desk {
                   Proposals.push_back(proposal);
                   return TakesProposals;
                 },
+            .BeginOtchet =
+                [this](const ReportSnapshot& snapshot) {
+                  Snapshots.push_back(snapshot);
+                  Report.clear();
+                },
+            .AppendOtchet = [this](const ReportPiece& piece) { Report.push_back(piece); },
             .ShowOtchet = note("Otchet"),
             .EndProgram = note("End")};
   }
