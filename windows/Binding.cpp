@@ -130,6 +130,8 @@ void Bind(ComboBox& state, QComboBox* box) {
     RefreshBox(state, box);
   });
   if (box->isEditable()) {
+    // A typed 3 is meant as 3 and not as the entry 30 that begins with it.
+    box->setCompleter(nullptr);
     QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&state, box] {
       const std::string text = FromQt(box->currentText());
       if (text == state.Text()) {

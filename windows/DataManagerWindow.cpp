@@ -1,14 +1,35 @@
 #include "windows/DataManagerWindow.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 
 #include "windows/Binding.h"
 #include "windows/Layouts.h"
 
 namespace trelonit {
+
+namespace {
+
+/// Leaves Ctrl+Home and Ctrl+End to the window: in one line they only repeat Home and End.
+class RecordBox : public QLineEdit {
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ShortcutOverride) {
+      const auto* press = static_cast<QKeyEvent*>(event);
+      const bool ends = press->key() == Qt::Key_Home || press->key() == Qt::Key_End;
+      if (ends && (press->modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier) {
+        return false;
+      }
+    }
+    return QLineEdit::event(event);
+  }
+};
+
+}  // namespace
 
 DataManagerWindow::DataManagerWindow(frmDataManager& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent), form_(form) {
@@ -43,7 +64,7 @@ void DataManagerWindow::AddRecord(QBoxLayout* column) {
   constexpr Long texts = 2;
   constexpr Long rowsOfNumbers = (frmDataManager::boxCount - texts) / pairs;
   for (Long number = 1; number <= frmDataManager::boxCount; ++number) {
-    auto* edit = new QLineEdit;
+    auto* edit = new RecordBox;
     edit->setObjectName(QStringLiteral("Text%1").arg(number));
     Bind(form_.Text[number], edit);
     auto* label = LabelFor(edit, ToQt(form_.lblText[number].Caption()));
@@ -69,7 +90,12 @@ void DataManagerWindow::AddCommands(QBoxLayout* column) {
     auto* push = new QPushButton(caption);
     push->setObjectName(QLatin1String(name));
     push->setAutoDefault(false);
-    push->setShortcut(key);
+    if (!key.isEmpty()) {
+      // Not the button's own shortcut: that one takes the mnemonic away and, as the button stays
+      // down for a moment, loses the steps of a key that is held.
+      auto* shortcut = new QShortcut(key, this);
+      QObject::connect(shortcut, &QShortcut::activated, this, [this, click] { (form_.*click)(); });
+    }
     push->setAccessibleName(hint.isEmpty() ? QString(caption).remove(QLatin1Char('&')) : hint);
     push->setToolTip(key.isEmpty()
                          ? hint

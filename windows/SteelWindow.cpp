@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
@@ -18,8 +19,8 @@ namespace trelonit {
 
 namespace {
 
-/// A box whose background says whether it is the chosen one; a press or the keyboard's arrival
-/// chooses it.
+/// A box whose background says whether it is the chosen one; the left button or the space bar
+/// chooses it. Passing through it by keys must not.
 class ChoiceBox : public QLineEdit {
  public:
   explicit ChoiceBox(std::function<void()> choose) : choose_(std::move(choose)) {
@@ -30,7 +31,9 @@ class ChoiceBox : public QLineEdit {
   bool event(QEvent* event) override {
     const bool key =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space;
-    if (event->type() == QEvent::MouseButtonPress || key) {
+    const bool press = event->type() == QEvent::MouseButtonPress &&
+                       static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (press || key) {
       choose_();
     }
     return QLineEdit::event(event);

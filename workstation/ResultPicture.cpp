@@ -1,5 +1,7 @@
 #include "workstation/ResultPicture.h"
 
+#include "platform/Guard.h"
+#include "platform/RuntimeError.h"
 #include "workstation/modHelper.h"
 
 namespace trelonit {
@@ -77,7 +79,10 @@ class BarDrawer {
                 const BoundedArray<double>& forces) {
     for (Long bar = forces.LowerBound(); bar <= forces.UpperBound(); ++bar) {
       const auto left = static_cast<std::size_t>(bar - 1);
-      Add(group, bar, joints.at(left), joints.at(left + 1), forces[bar]);
+      if (left + 1 >= joints.size()) {
+        RaiseSubscriptOutOfRange();
+      }
+      Add(group, bar, joints[left], joints[left + 1], forces[bar]);
     }
   }
 
@@ -133,7 +138,12 @@ std::vector<PictureBar> BuildBars(const TreloData& data, const TreloResult& resu
   const bool solved = data.TreloType >= 1 && data.TreloType <= 4 &&
                       result.UpPoyasForce.IsAllocated() &&
                       result.UpPoyasForce.UpperBound() == data.PanelNum;
-  return solved ? BarDrawer(data, result).Draw() : std::vector<PictureBar>();
+  std::vector<PictureBar> bars;
+  if (solved) {
+    // Forces of another scheme with as many panels do not fit the joints.
+    PassOver([&] { bars = BarDrawer(data, result).Draw(); });
+  }
+  return bars;
 }
 
 std::vector<GroupUse> BuildUse(Long treloType, const CheckResult& check) {

@@ -89,8 +89,8 @@ TEST(ReportOfSections, GoesByTheLayoutAndNotByTheMarkOfPairs) {
 TEST(ReportOfSections, FillsTheFieldsOfNamesWithBlanks) {
   NumberedDesign design;
   ProfileRec& profile = design.Model.ElementSection[sectionUpPoyas].Profile;
-  profile.Type = std::string(60, 'T');
-  profile.Name = std::string(20, 'N');
+  profile.Type = std::string_view(std::string(60, 'T'));
+  profile.Name = std::string_view(std::string(20, 'N'));
   ReportText lines = design.Lines();
   EXPECT_TRUE(HasLine(lines, "Тип металлопроката " + std::string(50, 'T')));
   EXPECT_TRUE(HasLine(lines, "Типоразмер металлопроката " + std::string(15, 'N')));
@@ -278,6 +278,13 @@ TEST(ReportOfDeflection, TellsALimitThatIsPassed) {
                           PlainPiece("Не выполнено условие жесткости !!! \r\n"),
                           PlainPiece("Максимальный прогиб фермы : 1\u00A0234,50000 м \r\n"),
                           PlainPiece("Допустимый прогиб фермы : 0,01667 м \r\n")}));
+}
+
+TEST(ReportOfDeflection, TellsALimitThatIsJustReachedAsHolding) {
+  EXPECT_EQ(ProgibPieces({.Value = 0.0625, .Limit = 0.0625, .Satisfied = true}, PointLocale()),
+            (ReportPieces{HeadingPiece("\r\nРезультаты расчета прогиба : \r\n\r\n"),
+                          PlainPiece("Максимальный прогиб : 0.06250 м \r\n"),
+                          PlainPiece("Допустимый прогиб фермы : 0.06250 м \r\n")}));
 }
 
 }  // namespace

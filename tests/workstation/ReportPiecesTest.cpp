@@ -78,12 +78,13 @@ TEST(ReportLetters, AreLatinWhereTheyAlwaysWere) {
 TEST(ReportLetters, AreOfOneAlphabetInEveryOtherWord) {
   NumberedDesign design;
   design.Inputs.ProgibOn = true;
+  const std::regex latinLetter("[A-Za-z]");
   std::set<std::string> mixed;
   for (const ReportText& lines : {design.Lines(), design.Additional()}) {
     for (const std::string& line : lines) {
       std::istringstream words(line);
       for (std::string word; words >> word;) {
-        const bool latin = std::regex_search(word, std::regex("[A-Za-z]"));
+        const bool latin = std::regex_search(word, latinLetter);
         const bool cyrillic =
             word.find('\xD0') != std::string::npos || word.find('\xD1') != std::string::npos;
         if (latin && cyrillic) {
