@@ -1,0 +1,104 @@
+#include "editor/RtfLooks.h"
+
+#include <algorithm>
+
+#include "editor/RtfCodePages.h"
+
+namespace trelonit {
+
+bool ApplyLook(RtfCharState& characters, RtfAction action, std::optional<std::int32_t> parameter) {
+  const std::int32_t number = parameter.value_or(0);
+  // A word that is switched off has the parameter 0.
+  const bool on = parameter.value_or(1) != 0;
+  switch (action) {
+    case RtfAction::Plain:
+      characters = {};
+      return true;
+    case RtfAction::Bold:
+      characters.Bold = on;
+      return true;
+    case RtfAction::Italic:
+      characters.Italic = on;
+      return true;
+    case RtfAction::Underline:
+      characters.Underline = on;
+      return true;
+    case RtfAction::UnderlineNone:
+      characters.Underline = false;
+      return true;
+    case RtfAction::StrikeThru:
+      characters.StrikeThru = on;
+      return true;
+    case RtfAction::Hidden:
+      characters.Hidden = on;
+      return true;
+    case RtfAction::Font:
+      characters.Font = number;
+      return true;
+    case RtfAction::FontSize:
+      characters.Size = number > 0 ? std::min(number, rtfLargestSize) : rtfPlainSize;
+      return true;
+    case RtfAction::TextColour:
+      characters.Colour = number;
+      return true;
+    default:
+      return false;
+  }
+}
+
+void RtfTables::TakeColourPart(RtfAction action, std::int32_t value) {
+  const auto setPart = [this, value](unsigned shift) {
+    const auto part = static_cast<Color>(std::clamp(value, 0, 255));
+    const Color others = colourInReading_.value_or(colorBlack) & ~(Color{255} << shift);
+    colourInReading_ = others | (part << shift);
+  };
+  switch (action) {
+    case RtfAction::Red:
+      return setPart(0);
+    case RtfAction::Green:
+      return setPart(8);
+    case RtfAction::Blue:
+      return setPart(16);
+    default:
+      return;
+  }
+}
+
+void RtfTables::CompleteColour() {
+  colours_.push_back(colourInReading_.value_or(colorBlack));
+  colourInReading_.reset();
+}
+
+CharFormat RtfTables::FormatOf(const RtfCharState& characters) const {
+  CharFormat format;
+  if (const RtfFont* font = FontOf(characters)) {
+    format.FontName = font->Name;
+  }
+  format.FontSize = characters.Size / 2.0;
+  format.Bold = characters.Bold;
+  format.Italic = characters.Italic;
+  format.Underline = characters.Underline;
+  format.StrikeThru = characters.StrikeThru;
+  const auto colour = static_cast<std::size_t>(std::max(characters.Colour, 0));
+  format.TextColor = colour < colours_.size() ? colours_[colour] : colorBlack;
+  return format;
+}
+
+char16_t RtfTables::Decode(unsigned char byte, const RtfCharState& characters) const {
+  if (byte < 0x80) {
+    return byte;  // the same in every page
+  }
+  const RtfFont* font = FontOf(characters);
+  return FromCodePage(font == nullptr ? CodePage : font->CodePage.value_or(CodePage), byte);
+}
+
+char16_t RtfTables::DecodeInFontTable(unsigned char byte) const {
+  return FromCodePage(Fonts.CodePageInReading().value_or(CodePage), byte);
+}
+
+const RtfFont* RtfTables::FontOf(const RtfCharState& characters) const {
+  const RtfFont* font = Fonts.Find(characters.Font.value_or(DefaultFont));
+  return font == nullptr ? Fonts.Find(DefaultFont) : font;
+}
+
+}  // namespace trelonit

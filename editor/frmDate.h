@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+
+#include "editor/clsUndo.h"
+#include "platform/Controls.h"
+#include "platform/Services.h"
+
+namespace trelonit {
+
+/// Puts the present date or time into the document, in one of eight forms.
+class frmDate {
+ public:
+  static constexpr Long noSelection = -1;
+
+  frmDate(clsUndo& undo, ClockService& clock);
+
+  /// Offers the forms with the date and time of this moment.
+  void Form_Load();
+  /// Inserts the selected form, with the date and time of now, and a line end; any other selection
+  /// inserts nothing. Closes the form.
+  void cmdOK_Click();
+  void cmdCancel_Click();
+
+  Label Form;
+  ListBox List1;
+  /// The selected line of List1.
+  Long ListIndex = noSelection;
+  Label cmdOK;
+  Label cmdCancel;
+  /// Unloads the window.
+  std::function<void()> Unload;
+
+ private:
+  void Close();
+
+  clsUndo& undo_;
+  ClockService& clock_;
+};
+
+}  // namespace trelonit

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "editor/MemoryRichTextBox.h"
+#include "editor/RichClipboard.h"
+#include "editor/TypedKeys.h"
+#include "editor/clsUndo.h"
+#include "platform/console/ConsoleServices.h"
+
+namespace trelonit::test {
+
+/// Keeps rich text beside the plain text of another clipboard.
+class MemoryRichClipboard : public RichClipboard {
+ public:
+  explicit MemoryRichClipboard(ClipboardService& plain) : plain_(plain) {}
+  std::string RichText() override { return rich_; }
+  void SetRichText(const std::string& rtf, const std::string& plain) override {
+    rich_ = rtf;
+    plain_.SetText(plain);
+  }
+
+ private:
+  ClipboardService& plain_;
+  std::string rich_;
+};
+
+/// A box in memory that counts how deep its updates are locked.
+class WatchedBox : public MemoryRichTextBox {
+ public:
+  void LockUpdates() override {
+    ++Locks;
+    Deepest = std::max(Deepest, Locks);
+  }
+  void UnlockUpdates() override { --Locks; }
+  int Locks = 0;
+  int Deepest = 0;
+};
+
+/// A box with its undo class, and the hands of a user on it.
+struct UndoDesk {
+  UndoDesk() {
+    undo.SetRichBox(&box);
+    undo.StateChanged = [this] { ++stateChanges; };
+    box.Change = [this] { undo.RichBox_Change(); };
+  }
+
+  /// Presses a key. What the undo class leaves to the box, the box does: it puts in the text.
+  /// Returns the key code as the box saw it.
+  Integer Press(Integer key, Integer shift, const std::string& text) {
+    undo.RichBox_KeyDown(key, shift);
+    if (key != 0 && !text.empty()) {
+      box.SetSelText(text);
+    }
+    return key;
+  }
+  Integer Press(Integer key, Integer shift = 0) {
+    if (key == keyTab) {
+      return Press(key, shift, shift == 0 ? "\t" : "");
+    }
+    return Press(key, shift, shift < 2 && KeyTypesText(key) ? TypedText(key, shift) : "");
+  }
+  /// Types small Latin letters, digits and blanks.
+  void Type(const std::string& text) {
+    for (const char character : text) {
+      Press(static_cast<Integer>(character >= 'a' ? character - 'a' + 'A' : character));
+    }
+  }
+  void Hold(const std::string& text) {
+    box.SetText(text);
+    undo.Reset();
+    stateChanges = 0;
+  }
+  TextSpan Selection() const { return {box.SelStart(), box.SelLength()}; }
+  const clsUndoElement& Newest() const { return undo.UndoElements().back(); }
+
+  WatchedBox box;
+  MemoryClipboard clipboard;
+  MemoryRichClipboard rich{clipboard};
+  clsUndo undo{clipboard, rich};
+  int stateChanges = 0;
+};
+
+class Undo : public ::testing::Test, protected UndoDesk {};
+
+}  // namespace trelonit::test
