@@ -20,7 +20,6 @@ namespace {
 constexpr Long schemeCount = 10;
 constexpr int schemesInRow = 5;
 constexpr QSize schemeSize{132, 66};
-constexpr int inputColumn = 380;
 
 /// Schemes 6 to 10 have no hint of their own.
 QString SchemeHint(Long scheme) {
