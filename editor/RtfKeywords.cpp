@@ -15,13 +15,21 @@ constexpr std::int32_t AlignmentValue(ParagraphAlignment value) {
   return static_cast<std::int32_t>(value);
 }
 
+constexpr std::int32_t ScriptValue(RtfScript value) {
+  return static_cast<std::int32_t>(value);
+}
+
 // In the order of the bytes, for the search. Each cell and row of a table and each break of a page
 // has its word here too: a report keeps its words apart even where its layout is not kept.
 constexpr auto keywords = std::to_array<RtfKeyword>({
     // clang-format off
+    {"ab", OwnBold},
+    {"af", OwnFont},
+    {"afs", OwnFontSize},
     {"aftncn", SkipGroup},
     {"aftnsep", SkipGroup},
     {"aftnsepc", SkipGroup},
+    {"ai", OwnItalic},
     {"annotation", SkipGroup},
     {"ansi", CodePage, 1252},
     {"ansicpg", CodePage, 1252},
@@ -51,6 +59,7 @@ constexpr auto keywords = std::to_array<RtfKeyword>({
     {"creatim", SkipGroup},
     {"datafield", SkipGroup},
     {"datastore", SkipGroup},
+    {"dbch", Script, ScriptValue(RtfScript::EastAsian)},
     {"defchp", SkipGroup},
     {"deff", DefaultFont},
     {"defpap", SkipGroup},
@@ -86,6 +95,7 @@ constexpr auto keywords = std::to_array<RtfKeyword>({
     {"headerf", SkipGroup},
     {"headerl", SkipGroup},
     {"headerr", SkipGroup},
+    {"hich", Script, ScriptValue(RtfScript::Main)},
     {"i", Italic},
     {"info", SkipGroup},
     {"keywords", SkipGroup},
@@ -95,8 +105,10 @@ constexpr auto keywords = std::to_array<RtfKeyword>({
     {"listoverridetable", SkipGroup},
     {"listpicture", SkipGroup},
     {"listtable", SkipGroup},
+    {"loch", Script, ScriptValue(RtfScript::Main)},
     {"lquote", Character, 0x2018},
     {"lsdlockedexcept", SkipGroup},
+    {"ltrch", Script, ScriptValue(RtfScript::Main)},
     {"ltrmark", Character, 0x200E},
     {"mac", CodePage, 10000},
     {"manager", SkipGroup},
@@ -141,6 +153,7 @@ constexpr auto keywords = std::to_array<RtfKeyword>({
     {"row", LineEnd},
     {"rquote", Character, 0x2019},
     {"rsidtbl", SkipGroup},
+    {"rtlch", Script, ScriptValue(RtfScript::Complex)},
     {"rtlmark", Character, 0x200F},
     {"rxe", SkipGroup},
     {"sect", LineEnd},

@@ -5,6 +5,9 @@
 
 namespace trelonit {
 
+/// The scripts whose characters may look different within one run.
+enum class RtfScript { Main, EastAsian, Complex };
+
 /// What a control word does.
 enum class RtfAction {
   Nothing,        ///< a word that does not matter here; its group is read
@@ -29,6 +32,11 @@ enum class RtfAction {
   Hidden,
   Font,
   FontSize,
+  Script,   ///< what follows is of the script with this value: a RtfScript
+  OwnBold,  ///< these four: the look of the present script alone
+  OwnItalic,
+  OwnFont,
+  OwnFontSize,
   TextColour,
   Alignment,  ///< value: a ParagraphAlignment
   TabStop,

@@ -6,19 +6,60 @@
 
 namespace trelonit {
 
-bool ApplyLook(RtfCharState& characters, RtfAction action, std::optional<std::int32_t> parameter) {
+namespace {
+
+std::int32_t SizeOf(std::int32_t number) {
+  return number > 0 ? std::min(number, rtfLargestSize) : rtfPlainSize;
+}
+
+/// The words for one script's own look; among the main script's characters they say nothing of
+/// these.
+bool ApplyOwnLook(RtfCharState& characters, RtfAction action,
+                  std::optional<std::int32_t> parameter) {
+  if (characters.Script == RtfScript::Main) {
+    return false;
+  }
+  RtfScriptLook& own = characters.OwnLook();
+  switch (action) {
+    case RtfAction::OwnBold:
+      own.Bold = parameter.value_or(1) != 0;
+      return true;
+    case RtfAction::OwnItalic:
+      own.Italic = parameter.value_or(1) != 0;
+      return true;
+    case RtfAction::OwnFont:
+      own.Font = parameter.value_or(0);
+      return true;
+    case RtfAction::OwnFontSize:
+      own.Size = SizeOf(parameter.value_or(0));
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+bool ApplyLook(RtfCharState& characters, const RtfKeyword& keyword,
+               std::optional<std::int32_t> parameter) {
   const std::int32_t number = parameter.value_or(0);
   // A word that is switched off has the parameter 0.
   const bool on = parameter.value_or(1) != 0;
-  switch (action) {
+  switch (keyword.Action) {
     case RtfAction::Plain:
       characters = {};
       return true;
+    case RtfAction::Script:
+      characters.Script = static_cast<RtfScript>(keyword.Value);
+      return true;
+    // A word for all scripts that stands behind one for the present script alone replaces it.
     case RtfAction::Bold:
       characters.Bold = on;
+      characters.OwnLook().Bold.reset();
       return true;
     case RtfAction::Italic:
       characters.Italic = on;
+      characters.OwnLook().Italic.reset();
       return true;
     case RtfAction::Underline:
       characters.Underline = on;
@@ -34,15 +75,17 @@ bool ApplyLook(RtfCharState& characters, RtfAction action, std::optional<std::in
       return true;
     case RtfAction::Font:
       characters.Font = number;
+      characters.OwnLook().Font.reset();
       return true;
     case RtfAction::FontSize:
-      characters.Size = number > 0 ? std::min(number, rtfLargestSize) : rtfPlainSize;
+      characters.Size = SizeOf(number);
+      characters.OwnLook().Size.reset();
       return true;
     case RtfAction::TextColour:
       characters.Colour = number;
       return true;
     default:
-      return false;
+      return ApplyOwnLook(characters, keyword.Action, parameter);
   }
 }
 
@@ -74,9 +117,10 @@ CharFormat RtfTables::FormatOf(const RtfCharState& characters) const {
   if (const RtfFont* font = FontOf(characters)) {
     format.FontName = font->Name;
   }
-  format.FontSize = characters.Size / 2.0;
-  format.Bold = characters.Bold;
-  format.Italic = characters.Italic;
+  const RtfScriptLook& own = characters.OwnLook();
+  format.FontSize = own.Size.value_or(characters.Size) / 2.0;
+  format.Bold = own.Bold.value_or(characters.Bold);
+  format.Italic = own.Italic.value_or(characters.Italic);
   format.Underline = characters.Underline;
   format.StrikeThru = characters.StrikeThru;
   const auto colour = static_cast<std::size_t>(std::max(characters.Colour, 0));
@@ -97,7 +141,8 @@ char16_t RtfTables::DecodeInFontTable(unsigned char byte) const {
 }
 
 const RtfFont* RtfTables::FontOf(const RtfCharState& characters) const {
-  const RtfFont* font = Fonts.Find(characters.Font.value_or(DefaultFont));
+  const RtfScriptLook& own = characters.OwnLook();
+  const RtfFont* font = Fonts.Find(own.Font ? *own.Font : characters.Font.value_or(DefaultFont));
   return font == nullptr ? Fonts.Find(DefaultFont) : font;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -11,6 +13,14 @@
 
 namespace trelonit {
 
+/// Where the characters of a script look different from the others.
+struct RtfScriptLook {
+  std::optional<std::int32_t> Font;
+  std::optional<std::int32_t> Size;  ///< half points
+  std::optional<bool> Bold;
+  std::optional<bool> Italic;
+};
+
 /// The looks of characters as the words set them: by numbers of the document's tables.
 struct RtfCharState {
   std::optional<std::int32_t> Font;  ///< nothing: the document's default font
@@ -21,10 +31,16 @@ struct RtfCharState {
   bool Underline = false;
   bool StrikeThru = false;
   bool Hidden = false;
+  RtfScript Script = RtfScript::Main;
+  std::array<RtfScriptLook, 3> OfScript;  ///< by script; the main one's has nothing
+
+  RtfScriptLook& OwnLook() { return OfScript[static_cast<std::size_t>(Script)]; }
+  const RtfScriptLook& OwnLook() const { return OfScript[static_cast<std::size_t>(Script)]; }
 };
 
 /// Does what the word says to the looks; false for a word that says nothing of them.
-bool ApplyLook(RtfCharState& characters, RtfAction action, std::optional<std::int32_t> parameter);
+bool ApplyLook(RtfCharState& characters, const RtfKeyword& keyword,
+               std::optional<std::int32_t> parameter);
 
 /// The tables that the looks and the bytes of the text refer to.
 class RtfTables {

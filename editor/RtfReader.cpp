@@ -277,7 +277,7 @@ void Reader::TakeTextWord(const RtfKeyword& keyword, std::optional<std::int32_t>
       }
       return;
     default:
-      newFormat_ |= ApplyLook(State().Characters, keyword.Action, parameter);
+      newFormat_ |= ApplyLook(State().Characters, keyword, parameter);
   }
 }
 

@@ -88,6 +88,15 @@ void AppendNumbered(std::string& rtf, std::string_view word, std::int64_t number
   rtf += std::to_string(number);
 }
 
+/// Whether the text may hold characters of an East Asian or a complex script, halves of surrogate
+/// pairs among them. Word processors keep their font apart from that of all other characters.
+bool MayHoldOtherScripts(std::u16string_view text) {
+  return std::any_of(text.begin(), text.end(), [](char16_t unit) {
+    const bool european = unit < 0x0590 || (unit >= 0x1E00 && unit < 0x2E80);
+    return !european;
+  });
+}
+
 std::string_view AlignmentWord(ParagraphAlignment alignment) {
   switch (alignment) {
     case ParagraphAlignment::Centre:
@@ -107,7 +116,8 @@ class Writer {
 
  private:
   void WriteParagraph(const RichParagraph& paragraph);
-  void WriteFormat(const CharFormat& format);
+  void WriteFormat(const CharFormat& format, bool otherScripts);
+  void WriteOtherScripts(const CharFormat& format);
   std::string Tables() const;
 
   std::string body_;
@@ -119,7 +129,13 @@ std::string Writer::Write(const RichDocument& document) {
   for (const RichParagraph& paragraph : document.Paragraphs) {
     WriteParagraph(paragraph);
   }
-  return "{\\rtf1\\ansi\\ansicpg1251\\uc1\\deff0" + Tables() + body_ + "}\r\n";
+  // Without a paper a reader takes American letter paper, without a language its own, which some
+  // take from here and some from the style of all text. LibreOffice takes a text that names no
+  // generator for an old one of Word and puts narrow blanks between several blanks.
+  return "{\\rtf1\\ansi\\ansicpg1251\\uc1\\deff0\\deflang1049" + Tables() +
+         "{\\stylesheet{\\lang1049 Normal;}}\r\n{\\*\\generator "
+         "Trelonit;}\\paperw11906\\paperh16838\r\n" +
+         body_ + "}\r\n";
 }
 
 void Writer::WriteParagraph(const RichParagraph& paragraph) {
@@ -133,7 +149,7 @@ void Writer::WriteParagraph(const RichParagraph& paragraph) {
     if (run.Text.empty()) {
       continue;
     }
-    WriteFormat(run.Format);
+    WriteFormat(run.Format, MayHoldOtherScripts(run.Text));
     for (const char16_t unit : run.Text) {
       AppendUnit(body_, unit);
     }
@@ -142,8 +158,23 @@ void Writer::WriteParagraph(const RichParagraph& paragraph) {
   body_ += "\\par\r\n";
 }
 
-void Writer::WriteFormat(const CharFormat& format) {
-  AppendNumbered(body_, "\\plain\\f", static_cast<std::int64_t>(fonts_.NumberOf(format.FontName)));
+/// The looks of the scripts that the words for all the others do not reach.
+void Writer::WriteOtherScripts(const CharFormat& format) {
+  const auto font = static_cast<std::int64_t>(fonts_.NumberOf(format.FontName));
+  AppendNumbered(body_, "\\rtlch\\af", font);
+  AppendNumbered(body_, "\\afs", HalfPoints(format.FontSize));
+  body_ += format.Bold ? "\\ab" : "";
+  body_ += format.Italic ? "\\ai" : "";
+  AppendNumbered(body_, "\\ltrch\\dbch\\af", font);
+  body_ += "\\loch";
+}
+
+void Writer::WriteFormat(const CharFormat& format, bool otherScripts) {
+  body_ += "\\plain";
+  if (otherScripts) {
+    WriteOtherScripts(format);
+  }
+  AppendNumbered(body_, "\\f", static_cast<std::int64_t>(fonts_.NumberOf(format.FontName)));
   AppendNumbered(body_, "\\fs", HalfPoints(format.FontSize));
   body_ += format.Bold ? "\\b" : "";
   body_ += format.Italic ? "\\i" : "";

@@ -138,6 +138,34 @@ TEST(RtfFormats, HiddenTextIsLeftOut) {
   EXPECT_EQ(BodyText("a{\\v b}c\\deleted d\\deleted0 e"), u"ace");
 }
 
+TEST(RtfFormats, AScriptsOwnLookHoldsAmongItsCharactersAlone) {
+  const RichDocument document = ReadBody(
+      "{\\fonttbl{\\f0 Main;}{\\f1 Own;}}\\f0\\fs20\\dbch\\af1\\afs30\\ab\\ai x\\loch y\\rtlch "
+      "z\\dbch w");
+  const auto& runs = document.Paragraphs.at(0).Runs;
+  ASSERT_EQ(runs.size(), 3U);
+  const CharFormat own{.FontName = "Own", .FontSize = 15, .Bold = true, .Italic = true};
+  EXPECT_EQ(runs[0], (TextRun{u"x", own}));
+  EXPECT_EQ(runs[1], (TextRun{u"yz", {.FontName = "Main", .FontSize = 10}}));
+  EXPECT_EQ(runs[2], (TextRun{u"w", own}));
+}
+
+TEST(RtfFormats, AScriptsOwnLookMayTakeBackThatOfAll) {
+  EXPECT_FALSE(BodyFormat("\\b\\rtlch\\ab0 x").Bold);
+  EXPECT_FALSE(BodyFormat("\\i\\rtlch\\ai0 x").Italic);
+}
+
+TEST(RtfFormats, TheLookOfAllReplacesAScriptsOwnBeforeIt) {
+  const std::string own = "{\\fonttbl{\\f0 Main;}{\\f1 Own;}}\\dbch\\af1\\afs30\\ab\\ai";
+  EXPECT_EQ(BodyFormat(own + "\\f0\\fs20\\b0\\i0 x"),
+            (CharFormat{.FontName = "Main", .FontSize = 10}));
+  EXPECT_EQ(BodyFormat(own + "\\plain\\dbch x"), (CharFormat{.FontName = "Main", .FontSize = 12}));
+}
+
+TEST(RtfFormats, AmongTheMainScriptOwnLooksSayNothing) {
+  EXPECT_EQ(BodyFormat("\\ltrch\\ab\\ai\\afs40\\af3 x\\hich\\ab\\loch\\ab y"), PlainFormat());
+}
+
 TEST(RtfParagraphs, EachMarkEndsOne) {
   EXPECT_EQ(BodyText("a\\par b\\par\\par c"), u"a\nb\n\nc");
 }

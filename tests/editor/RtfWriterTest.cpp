@@ -24,9 +24,11 @@ TEST(RtfWriter, WritesAWholeDocument) {
   document.Paragraphs.at(0).Runs.push_back({u"\t{1}", red});
   document.Paragraphs.push_back({{}, ParagraphAlignment::Centre, {720, 1440}});
   EXPECT_EQ(WriteRtf(document),
-            "{\\rtf1\\ansi\\ansicpg1251\\uc1\\deff0"
+            "{\\rtf1\\ansi\\ansicpg1251\\uc1\\deff0\\deflang1049"
             "{\\fonttbl{\\f0\\fnil\\fcharset204 Lucida Console;}{\\f1\\fnil\\fcharset204 Arial;}}"
             "\r\n{\\colortbl ;\\red255\\green0\\blue0;}\r\n"
+            "{\\stylesheet{\\lang1049 Normal;}}\r\n{\\*\\generator "
+            "Trelonit;}\\paperw11906\\paperh16838\r\n"
             "\\pard\\plain\\f0\\fs18 \\'d4\\'e5\\'f0\\'ec\\'e0"
             "\\plain\\f1\\fs21\\b\\i\\ul\\strike\\cf1 \\tab \\{1\\}\\par\r\n"
             "\\pard\\qc\\tx720\\tx1440\\par\r\n}\r\n");
@@ -105,6 +107,20 @@ TEST(RtfWriter, ColoursOfTheDesktopAreTheTextsOwn) {
   format.TextColor = colorWindowText;
   const RichDocument document = ReadRtf(WriteRtf(OneRun(u"x", format)));
   EXPECT_EQ(document.Paragraphs.at(0).Runs.at(0).Format.TextColor, colorBlack);
+}
+
+TEST(RtfWriter, OtherScriptsAreToldTheirLookToo) {
+  CharFormat format;
+  format.Bold = format.Italic = true;
+  for (const std::u16string text : {u"\u4E2D", u"x\u05D0", u"\U0001F600"}) {
+    EXPECT_NE(
+        WriteRtf(OneRun(text, format))
+            .find("\\plain\\rtlch\\af0\\afs18\\ab\\ai\\ltrch\\dbch\\af0\\loch\\f0\\fs18\\b\\i "),
+        std::string::npos);
+  }
+  for (const std::u16string text : {u"Ферма Ω", u"≥ │ — №", u"\u1E00"}) {
+    EXPECT_EQ(WriteRtf(OneRun(text, format)).find("\\dbch"), std::string::npos);
+  }
 }
 
 TEST(RtfWriter, AFontAndAColourStandOnceInTheirTables) {
