@@ -132,8 +132,8 @@ void clsUndo::Copy() {
 }
 
 void clsUndo::PutOnClipboard() {
-  if (richEditing_ && richClipboard_ != nullptr) {
-    richClipboard_->SetRichText(Box().SelRTF(), Box().SelText());
+  if (richEditing_) {
+    clipboard_.SetRichText(Box().SelRTF(), Box().SelText());
   } else {
     clipboard_.SetText(Box().SelText());
   }
@@ -297,8 +297,7 @@ void clsUndo::CutSelection() {
 
 void clsUndo::PasteClipboard() {
   BeginEdit();
-  const std::string rich =
-      richEditing_ && richClipboard_ != nullptr ? richClipboard_->RichText() : std::string();
+  const std::string rich = richEditing_ ? clipboard_.RichText() : std::string();
   if (rich.empty() && !clipboard_.HasText()) {
     return;
   }

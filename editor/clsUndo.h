@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "editor/RichClipboard.h"
 #include "editor/RichTextBox.h"
 #include "editor/clsUndoElement.h"
 #include "platform/Services.h"
@@ -22,11 +21,7 @@ class clsUndo {
   static constexpr Integer controlKey = 2;
   static constexpr Integer altKey = 4;
 
-  /// With plain text only on the clipboard.
   explicit clsUndo(ClipboardService& clipboard) : clipboard_(clipboard) {}
-  /// With rich text too; both are the same clipboard.
-  clsUndo(ClipboardService& clipboard, RichClipboard& rich)
-      : clipboard_(clipboard), richClipboard_(&rich) {}
 
   bool canUndo() const { return enabled_ && !undoElements_.empty(); }
   bool canRedo() const { return enabled_ && !redoElements_.empty(); }
@@ -96,7 +91,6 @@ class clsUndo {
              const std::function<void(const clsUndoElement&)>& step);
 
   ClipboardService& clipboard_;
-  RichClipboard* richClipboard_ = nullptr;
   bool enabled_ = true;
   std::vector<clsUndoElement> undoElements_;
   std::vector<clsUndoElement> redoElements_;

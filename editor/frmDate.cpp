@@ -12,13 +12,13 @@ frmDate::frmDate(clsUndo& undo, ClockService& clock) : undo_(undo), clock_(clock
 }
 
 void frmDate::Form_Load() {
-  ListIndex = noSelection;
   List1.SetList(DateFormList(clock_.Now()));
 }
 
 void frmDate::cmdOK_Click() {
-  if (ListIndex >= 0 && ListIndex < dateFormCount) {
-    undo_.InsertText(DateForm(ListIndex, clock_.Now()) + std::string(lineEnd));
+  const Long form = List1.ListIndex();
+  if (form >= 0 && form < dateFormCount) {
+    undo_.InsertText(DateForm(form, clock_.Now()) + std::string(lineEnd));
   }
   Close();
 }

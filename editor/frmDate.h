@@ -11,8 +11,6 @@ namespace trelonit {
 /// Puts the present date or time into the document, in one of eight forms.
 class frmDate {
  public:
-  static constexpr Long noSelection = -1;
-
   frmDate(clsUndo& undo, ClockService& clock);
 
   /// Offers the forms with the date and time of this moment.
@@ -24,8 +22,6 @@ class frmDate {
 
   Label Form;
   ListBox List1;
-  /// The selected line of List1.
-  Long ListIndex = noSelection;
   Label cmdOK;
   Label cmdCancel;
   /// Unloads the window.

@@ -44,6 +44,7 @@ frmFind::frmFind(RichTextBox& rtf, clsUndo& undo, MessageService& messages,
 }
 
 void frmFind::Form_Load() {
+  loaded_ = true;
   searchPos_ = 0;
   hitPos_ = RichTextBox::notFound;
   LoadHistory(cboFind, findSection);
@@ -52,6 +53,7 @@ void frmFind::Form_Load() {
 }
 
 void frmFind::Form_Unload() {
+  loaded_ = false;
   SaveHistory(cboFind, findSection);
   SaveHistory(cboReplace, replaceSection);
 }

@@ -22,6 +22,8 @@ class frmFind {
           std::string programTitle);
 
   void Form_Load();
+  /// Whether the form has been loaded and not yet unloaded: its window stands open.
+  bool Loaded() const { return loaded_; }
   /// Remembers the texts of both boxes. The window calls it whichever way it closes.
   void Form_Unload();
   void cmdFindNext_Click();
@@ -71,6 +73,7 @@ class frmFind {
   Long hitPos_ = RichTextBox::notFound;
   bool replacing_ = false;
   bool cancelRun_ = false;
+  bool loaded_ = false;
 };
 
 }  // namespace trelonit

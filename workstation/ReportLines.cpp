@@ -205,7 +205,9 @@ class Report {
     out_.Line(title);
     // A coefficient of 0 was not asked for and has no line.
     const auto above0 = [this](const std::string& text, double value) {
-      if (value > 0) {
+      if (value > 1) {
+        out_.Warning(text + out_.Number(value));
+      } else if (value > 0) {
         out_.Value(text, value);
       }
     };
@@ -272,7 +274,7 @@ void WriteReportProgib(const ProgibResult& progib, const NumberLocale& locale,
   ReportWriter out(locale, sink);
   out.SpacedHeading("Результаты расчета прогиба : ");
   if (!progib.Satisfied) {
-    out.Line("Не выполнено условие жесткости !!! ");
+    out.Warning("Не выполнено условие жесткости !!! ");
   }
   out.Five(progib.Satisfied ? "Максимальный прогиб : " : "Максимальный прогиб фермы : ",
            progib.Value, " м ");

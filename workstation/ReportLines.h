@@ -15,6 +15,8 @@ struct ReportPiece {
   std::string Text;
   /// A heading of the report, with a line end before it.
   bool Heading = false;
+  /// Tells that a limit is exceeded.
+  bool Warning = false;
 
   friend bool operator==(const ReportPiece&, const ReportPiece&) = default;
 };

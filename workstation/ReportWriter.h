@@ -16,6 +16,9 @@ class ReportWriter {
   ReportWriter(const NumberLocale& locale, const ReportSink& sink) : locale_(locale), sink_(sink) {}
 
   void Line(const std::string& text) { sink_({.Text = text + std::string(lineEnd)}); }
+  void Warning(const std::string& text) {
+    sink_({.Text = text + std::string(lineEnd), .Warning = true});
+  }
   void Heading(const std::string& text) {
     sink_({.Text = std::string(lineEnd) + text + std::string(lineEnd), .Heading = true});
   }

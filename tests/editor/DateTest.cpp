@@ -61,6 +61,7 @@ class Date : public ::testing::Test, protected UndoDesk {
     form.Unload = [this] { ++unloads; };
     form.Form_Load();
   }
+  using Texts = std::vector<std::string>;
   FrozenClock clock;
   frmDate form{undo, clock};
   int unloads = 0;
@@ -73,7 +74,7 @@ TEST_F(Date, OffersTheFormsOfTheMomentItOpens) {
 TEST_F(Date, InsertsTheDateOfTheMomentItIsChosen) {
   Hold("ab");
   box.SetSelStart(1);
-  form.ListIndex = 5;
+  form.List1.Select(5);
   clock.Reading.Second = 59;
   form.cmdOK_Click();
   EXPECT_EQ(box.Text(), "a03:04:59\r\nb");
@@ -87,33 +88,33 @@ TEST_F(Date, InsertsTheDateOfTheMomentItIsChosen) {
 TEST_F(Date, InsertsEachForm) {
   for (Long index = 0; index < dateFormCount; ++index) {
     Hold("");
-    form.ListIndex = index;
+    form.List1.Select(index);
     form.cmdOK_Click();
     EXPECT_EQ(box.Text(), DateForm(index, clock.Reading) + "\r\n");
   }
 }
 
 TEST_F(Date, InsertsNothingForAnyOtherIndex) {
-  for (const Long index : {-1, 8, 100, -2147483647}) {
-    form.ListIndex = index;
-    form.cmdOK_Click();
-  }
+  form.cmdOK_Click();
+  form.List1.SetList(Texts(dateFormCount + 1, "form"));
+  form.List1.Select(dateFormCount);
+  form.cmdOK_Click();
   EXPECT_EQ(box.Text(), "");
   EXPECT_EQ(undo.UndoCount(), 0);
-  EXPECT_EQ(unloads, 4);
+  EXPECT_EQ(unloads, 2);
 }
 
 TEST_F(Date, InsertsNothingOnCancel) {
-  form.ListIndex = 0;
+  form.List1.Select(0);
   form.cmdCancel_Click();
   EXPECT_EQ(box.Text(), "");
   EXPECT_EQ(unloads, 1);
 }
 
 TEST_F(Date, HasNothingSelectedAtFirst) {
-  form.ListIndex = 3;
+  form.List1.Select(3);
   form.Form_Load();
-  EXPECT_EQ(form.ListIndex, frmDate::noSelection);
+  EXPECT_EQ(form.List1.ListIndex(), ListBox::noSelection);
 }
 
 }  // namespace

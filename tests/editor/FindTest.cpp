@@ -215,6 +215,61 @@ TEST_F(Find, KeepsEachTextOfTheHistoryOnce) {
   EXPECT_EQ(form.cboReplace.List(), Texts{"b"});
 }
 
+TEST_F(Find, ShowsItsMessagesWithoutAnIcon) {
+  Look("a", "x");
+  form.cmdFindNext_Click();
+  Look("a", "a", "b");
+  form.cmdReplaceAll_Click();
+  EXPECT_EQ(messages.Shown, (std::vector<Message>{{.Title = "", .Text = "Text not found."},
+                                                  {.Title = "", .Text = "1 item replaced"}}));
+}
+
+TEST_F(Find, FindsASelectionOfSeveralLines) {
+  Hold("раз\r\nдва, раз\r\nдва");
+  box.Select(0, 8);
+  form.cmdSelection_Click(0);
+  form.cboReplace.SetText("вверхниз");
+  form.cmdReplaceAll_Click();
+  EXPECT_EQ(box.Text(), "вверхниз, вверхниз");
+  EXPECT_EQ(Said(), Texts{"2 items replaced"});
+}
+
+TEST_F(Find, ReplacesAHitWhoseLineEndWasTypedShort) {
+  Look("раз\r\nдва", "раз\nдва", "три");
+  form.cmdReplace_Click();
+  EXPECT_EQ(box.Text(), "три");
+}
+
+TEST_F(Find, StartsAgainWhereTheTextHasBecomeShorterThanItsPlace) {
+  Look("aaaa b", "b");
+  form.cmdFindNext_Click();
+  EXPECT_EQ(form.SearchPos(), 6);
+  Hold("b");
+  form.cmdFindNext_Click();
+  EXPECT_EQ(Said(), Texts{"Text not found."});
+  form.cmdFindNext_Click();
+  EXPECT_EQ(form.HitPos(), 0);
+}
+
+TEST_F(Find, RemembersNoEmptyText) {
+  Look("abc", "b", "");
+  form.cmdReplace_Click();
+  EXPECT_EQ(box.Text(), "ac");
+  EXPECT_EQ(form.cboFind.List(), Texts{"b"});
+  EXPECT_EQ(form.cboReplace.List(), Texts{});
+}
+
+TEST_F(Find, TakesEachHitAsOneStepOfUndo) {
+  Look("a a a", "a", "bb");
+  form.cmdReplaceAll_Click();
+  EXPECT_EQ(box.Text(), "bb bb bb");
+  undo.Undo();
+  EXPECT_EQ(box.Text(), "bb bb a");
+  undo.Undo();
+  undo.Undo();
+  EXPECT_EQ(box.Text(), "a a a");
+}
+
 TEST_F(Find, HandsTheHistoryToTheNextForm) {
   Look("abc", "a", "x");
   form.cmdReplaceAll_Click();

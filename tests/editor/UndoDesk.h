@@ -6,27 +6,11 @@
 #include <vector>
 
 #include "editor/MemoryRichTextBox.h"
-#include "editor/RichClipboard.h"
 #include "editor/TypedKeys.h"
 #include "editor/clsUndo.h"
 #include "platform/console/ConsoleServices.h"
 
 namespace trelonit::test {
-
-/// Keeps rich text beside the plain text of another clipboard.
-class MemoryRichClipboard : public RichClipboard {
- public:
-  explicit MemoryRichClipboard(ClipboardService& plain) : plain_(plain) {}
-  std::string RichText() override { return rich_; }
-  void SetRichText(const std::string& rtf, const std::string& plain) override {
-    rich_ = rtf;
-    plain_.SetText(plain);
-  }
-
- private:
-  ClipboardService& plain_;
-  std::string rich_;
-};
 
 /// A box in memory that counts how deep its updates are locked.
 class WatchedBox : public MemoryRichTextBox {
@@ -79,8 +63,7 @@ struct UndoDesk {
 
   WatchedBox box;
   MemoryClipboard clipboard;
-  MemoryRichClipboard rich{clipboard};
-  clsUndo undo{clipboard, rich};
+  clsUndo undo{clipboard};
   int stateChanges = 0;
 };
 

@@ -82,7 +82,7 @@ TEST_F(Undo, CutsTheSelectionToTheClipboardAsPlainText) {
   box.Select(0, 5);
   EXPECT_EQ(Press('X', 2), 0);
   EXPECT_EQ(clipboard.Text(), "один ");
-  EXPECT_EQ(rich.RichText(), "");
+  EXPECT_EQ(clipboard.RichText(), "");
   EXPECT_EQ(box.Text(), "два");
   EXPECT_EQ(Newest().NewLength, 5);
   EXPECT_TRUE(Newest().Removal);
@@ -95,7 +95,7 @@ TEST_F(Undo, CutsTheSelectionToTheClipboardAsRichText) {
   const std::string taken = box.SelRTF();
   Press('X', 2);
   EXPECT_EQ(clipboard.Text(), "один ");
-  EXPECT_EQ(rich.RichText(), taken);
+  EXPECT_EQ(clipboard.RichText(), taken);
   EXPECT_EQ(Newest().OldText, taken);
 }
 
@@ -146,7 +146,7 @@ TEST_F(Undo, PastesRichTextWithItsLooks) {
   Press('V', 2);
   EXPECT_EQ(box.Text(), "aba");
   EXPECT_EQ(Newest().OldLength, 1);
-  EXPECT_EQ(Newest().NewText, rich.RichText());
+  EXPECT_EQ(Newest().NewText, clipboard.RichText());
   undo.Undo();
   EXPECT_EQ(box.Text(), "ab");
   undo.Redo();

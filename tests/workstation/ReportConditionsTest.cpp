@@ -275,7 +275,7 @@ TEST(ReportOfDeflection, TellsALimitThatHolds) {
 TEST(ReportOfDeflection, TellsALimitThatIsPassed) {
   EXPECT_EQ(ProgibPieces({.Value = 1234.5, .Limit = 0.0166666, .Satisfied = false}, CommaLocale()),
             (ReportPieces{HeadingPiece("\r\nРезультаты расчета прогиба : \r\n\r\n"),
-                          PlainPiece("Не выполнено условие жесткости !!! \r\n"),
+                          WarningPiece("Не выполнено условие жесткости !!! \r\n"),
                           PlainPiece("Максимальный прогиб фермы : 1\u00A0234,50000 м \r\n"),
                           PlainPiece("Допустимый прогиб фермы : 0,01667 м \r\n")}));
 }

@@ -19,6 +19,10 @@ inline ReportPiece HeadingPiece(const std::string& text) {
   return {.Text = text, .Heading = true};
 }
 
+inline ReportPiece WarningPiece(const std::string& text) {
+  return {.Text = text, .Warning = true};
+}
+
 /// The pieces one after the other.
 inline std::string Joined(const ReportPieces& pieces) {
   std::string text;
