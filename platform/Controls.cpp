@@ -43,6 +43,23 @@ void ComboBox::SetText(const std::string& text) {
   Updated();
 }
 
+void ListBox::SetList(std::vector<std::string> list) {
+  if (list_ == list) {
+    Assign(listIndex_, noSelection);
+    return;
+  }
+  listIndex_ = noSelection;
+  list_ = std::move(list);
+  Updated();
+}
+
+void ListBox::Select(Long index) {
+  if (index < noSelection || index >= static_cast<Long>(list_.size())) {
+    RaiseSubscriptOutOfRange();
+  }
+  Assign(listIndex_, index);
+}
+
 Integer OptionGroup::Selected() const {
   for (Long number = options_.LowerBound(); number <= options_.UpperBound(); ++number) {
     if (options_[number].Value()) {

@@ -78,6 +78,20 @@ class Label : public ControlState {
   Color foreColor_ = colorWindowText;
 };
 
+/// A line of a menu, with the tool button that stands for it where there is one.
+class MenuEntry : public ControlState {
+ public:
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string caption) { Assign(caption_, std::move(caption)); }
+  /// The mark in front of it. Choosing the entry does not set it; that is the handler's rule.
+  bool Checked() const { return checked_; }
+  void SetChecked(bool checked) { Assign(checked_, checked); }
+
+ private:
+  std::string caption_;
+  bool checked_ = false;
+};
+
 /// A text box. Another text raises Change.
 class TextBox : public ControlState {
  public:
@@ -129,14 +143,22 @@ class ComboBox : public ControlState {
   Color backColor_ = colorWindowBackground;
 };
 
-/// A list of lines.
+/// A list of lines, of which one may be selected.
 class ListBox : public ControlState {
  public:
+  static constexpr Long noSelection = -1;
+
   const std::vector<std::string>& List() const { return list_; }
-  void SetList(std::vector<std::string> list) { Assign(list_, std::move(list)); }
+  /// Selects nothing.
+  void SetList(std::vector<std::string> list);
+
+  Long ListIndex() const { return listIndex_; }
+  /// Raises 9 for an index outside the list; noSelection selects nothing.
+  void Select(Long index);
 
  private:
   std::vector<std::string> list_;
+  Long listIndex_ = noSelection;
 };
 
 /// A grid of texts with a head row.

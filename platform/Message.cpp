@@ -15,6 +15,11 @@ Message ErrorMessage(std::string_view title, int number, std::string_view descri
           .Style = MessageStyle::Critical};
 }
 
+bool IsQuestion(const Message& message) {
+  return message.Style == MessageStyle::QuestionYesNo ||
+         message.Style == MessageStyle::QuestionYesNoCancel;
+}
+
 bool TellsRuntimeError(const Message& message) {
   return message.Text.starts_with(errorPrefix);
 }

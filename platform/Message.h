@@ -9,13 +9,14 @@ namespace trelonit {
 /// program's output.
 enum class MessageStyle : int {
   Plain = 0,
+  QuestionYesNoCancel = 3,
   Critical = 16,
   QuestionYesNo = 32 + 4,
   Exclamation = 48,
   Information = 64,
 };
 
-enum class MessageAnswer { Ok, Yes, No };
+enum class MessageAnswer { Ok, Cancel, Yes, No };
 
 /// A message box. An empty title stands for the application's own.
 struct Message {
@@ -35,6 +36,9 @@ class MessageService {
 
 /// The common form of a failure: " Err # ", number, " Discription : ", description, stop icon.
 Message ErrorMessage(std::string_view title, int number, std::string_view description);
+
+/// Whether the box asks something, so that its answer counts.
+bool IsQuestion(const Message& message);
 
 /// Whether the box tells a run-time error, as ErrorMessage makes it.
 bool TellsRuntimeError(const Message& message);

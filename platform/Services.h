@@ -12,6 +12,7 @@
 #include "platform/Message.h"
 #include "platform/NumberText.h"
 #include "platform/Resources.h"
+#include "platform/RuntimeError.h"
 
 namespace trelonit {
 
@@ -37,6 +38,10 @@ class ClipboardService {
   virtual bool HasText() = 0;
   virtual std::string Text() = 0;
   virtual void SetText(const std::string& text) = 0;
+  /// Formatted text in rich text format; empty where the clipboard holds none.
+  virtual std::string RichText() = 0;
+  /// Puts one text there in both forms.
+  virtual void SetRichText(const std::string& rtf, const std::string& plain) = 0;
 };
 
 /// Per-user settings, kept between runs.
@@ -74,14 +79,26 @@ class RegistryService {
 /// 438 where the object has no such member, the host's own number otherwise.
 class AutomationObject;
 using AutomationHandle = std::shared_ptr<AutomationObject>;
+/// A list of values of any kind; see AutomationItem.
+struct AutomationItem;
+using AutomationList = std::vector<AutomationItem>;
 using AutomationValue = std::variant<std::monostate, bool, Long, double, std::string,
-                                     std::vector<double>, AutomationHandle>;
+                                     std::vector<double>, AutomationHandle, AutomationList>;
+
+/// One value of a list, which may be a list itself.
+struct AutomationItem {
+  AutomationValue Value;
+
+  friend bool operator==(const AutomationItem&, const AutomationItem&) = default;
+};
 
 class AutomationObject {
  public:
   virtual ~AutomationObject() = default;
   virtual AutomationValue Get(const std::string& member) = 0;
   virtual void Set(const std::string& member, const AutomationValue& value) = 0;
+  /// An argument that the host fills stands as an empty value in its place; the result of such a
+  /// member is the list of what the host filled in, in the order of these arguments.
   virtual AutomationValue Call(const std::string& member,
                                const std::vector<AutomationValue>& arguments) = 0;
   /// The items of a collection, in order.
@@ -94,6 +111,10 @@ class AutomationService {
   /// A new or running object of the program with this identifier. Raises 429 where the machine has
   /// no provider for it.
   virtual AutomationHandle Create(const std::string& programIdentifier) = 0;
+  /// The running object of the program; starts nothing. Raises 429 where none runs.
+  virtual AutomationHandle GetRunning(const std::string& /*programIdentifier*/) {
+    throw RuntimeError(ErrorNumber::CannotCreateObject);
+  }
 };
 
 /// The desktop round the program.

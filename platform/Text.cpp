@@ -13,6 +13,10 @@ std::u32string Characters(std::string_view text) {
   return characters;
 }
 
+bool IsUtf8(std::string_view bytes) {
+  return utf8::is_valid(bytes.begin(), bytes.end());
+}
+
 std::string Utf8(std::u32string_view characters) {
   std::string text;
   text.reserve(characters.size() * 2);

@@ -12,6 +12,9 @@ namespace trelonit {
 /// The characters of a UTF-8 text; malformed bytes become U+FFFD.
 std::u32string Characters(std::string_view text);
 
+/// Whether the bytes are well-formed UTF-8.
+bool IsUtf8(std::string_view bytes);
+
 /// Back to UTF-8.
 std::string Utf8(std::u32string_view characters);
 

@@ -1,6 +1,5 @@
 #include "platform/console/ConsoleServices.h"
 
-
 #include <array>
 #include <cstdlib>
 #include <ctime>
@@ -25,7 +24,11 @@ MessageAnswer ConsoleMessages::Show(const Message& message) {
     stream_ << message.Title << ": ";
   }
   stream_ << message.Text << std::endl;
-  return message.Style == MessageStyle::QuestionYesNo ? toQuestions_ : MessageAnswer::Ok;
+  if (!IsQuestion(message)) {
+    return MessageAnswer::Ok;
+  }
+  // Where a cancel is offered, it is the answer that changes nothing.
+  return message.Style == MessageStyle::QuestionYesNoCancel ? MessageAnswer::Cancel : toQuestions_;
 }
 
 std::string ConsoleDialogs::AskSaveName(const FileDialogRequest&) {
@@ -115,6 +118,8 @@ std::string ToUtf8(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
+}  // namespace
+
 fs::path ExecutableFolder() {
 #ifdef _WIN32
   std::array<wchar_t, 32768> name{};
@@ -125,6 +130,8 @@ fs::path ExecutableFolder() {
   return fs::read_symlink("/proc/self/exe", code).parent_path();
 #endif
 }
+
+namespace {
 
 bool IsWritable(const fs::path& folder) {
 #ifdef _WIN32

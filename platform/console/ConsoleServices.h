@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <ostream>
 #include <string>
@@ -43,10 +44,16 @@ class MemoryClipboard : public ClipboardService {
  public:
   bool HasText() override { return !text_.empty(); }
   std::string Text() override { return text_; }
-  void SetText(const std::string& text) override { text_ = text; }
+  void SetText(const std::string& text) override { SetRichText({}, text); }
+  std::string RichText() override { return rtf_; }
+  void SetRichText(const std::string& rtf, const std::string& plain) override {
+    rtf_ = rtf;
+    text_ = plain;
+  }
 
  private:
   std::string text_;
+  std::string rtf_;
 };
 
 /// Settings that last as long as the process.
@@ -85,6 +92,9 @@ class SystemClock : public ClockService {
  public:
   ClockReading Now() override;
 };
+
+/// The folder that this program was started from; empty where the system does not tell.
+std::filesystem::path ExecutableFolder();
 
 /// The folder for the catalogue files: the executable's own where it is writable or already holds
 /// them, otherwise the program's folder in the user's data folder (made if missing), so that an

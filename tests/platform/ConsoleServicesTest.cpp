@@ -43,6 +43,12 @@ TEST(ConsoleMessages, AnswersQuestionsWithNo) {
   EXPECT_EQ(messages.Show({"t", "q", MessageStyle::QuestionYesNo}), MessageAnswer::No);
 }
 
+TEST(ConsoleMessages, CancelsWhereACancelIsOffered) {
+  std::ostringstream stream;
+  ConsoleMessages messages(stream, MessageAnswer::Yes);
+  EXPECT_EQ(messages.Show({"t", "q", MessageStyle::QuestionYesNoCancel}), MessageAnswer::Cancel);
+}
+
 TEST(ConsoleMessages, AnswersQuestionsAsTold) {
   std::ostringstream stream;
   ConsoleMessages messages(stream, MessageAnswer::Yes);
@@ -97,6 +103,16 @@ TEST(MemoryClipboard, KeepsTheLastText) {
   EXPECT_EQ(clipboard.Text(), "два");
   clipboard.SetText("");
   EXPECT_FALSE(clipboard.HasText());
+}
+
+TEST(MemoryClipboard, KeepsOneTextInBothForms) {
+  MemoryClipboard clipboard;
+  EXPECT_EQ(clipboard.RichText(), "");
+  clipboard.SetRichText("{\\rtf1 a}", "a");
+  EXPECT_EQ(clipboard.RichText(), "{\\rtf1 a}");
+  EXPECT_EQ(clipboard.Text(), "a");
+  clipboard.SetText("b");
+  EXPECT_EQ(clipboard.RichText(), "");
 }
 
 TEST(MemorySettings, GiveTheFallbackWhereNothingIsStored) {

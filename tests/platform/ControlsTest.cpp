@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/Controls.h"
+#include "platform/RuntimeError.h"
 
 namespace trelonit::test {
 
@@ -244,6 +245,51 @@ TEST(ListBox, ShowsItsLines) {
   EXPECT_EQ(bound.Count, 1);
   box.SetList({"a", "b"});
   EXPECT_EQ(bound.Count, 1);
+}
+
+TEST(ListBox, SelectsALineOrNone) {
+  ListBox box;
+  EXPECT_EQ(box.ListIndex(), ListBox::noSelection);
+  box.SetList({"a", "b"});
+  Counter bound;
+  box.Bound = bound.Handler();
+  box.Select(1);
+  EXPECT_EQ(box.ListIndex(), 1);
+  EXPECT_EQ(bound.Count, 1);
+  box.Select(1);
+  EXPECT_EQ(bound.Count, 1);
+  box.Select(ListBox::noSelection);
+  EXPECT_EQ(box.ListIndex(), ListBox::noSelection);
+}
+
+TEST(ListBox, RefusesALineThatIsNotThere) {
+  ListBox box;
+  box.SetList({"a", "b"});
+  EXPECT_THROW(box.Select(2), RuntimeError);
+  EXPECT_THROW(box.Select(-2), RuntimeError);
+}
+
+TEST(ListBox, SelectsNothingInANewList) {
+  ListBox box;
+  box.SetList({"a", "b"});
+  box.Select(0);
+  box.SetList({"a", "b"});
+  EXPECT_EQ(box.ListIndex(), ListBox::noSelection);
+  box.Select(0);
+  box.SetList({"c"});
+  EXPECT_EQ(box.ListIndex(), ListBox::noSelection);
+}
+
+TEST(MenuEntry, TellsItsCaptionAndItsMark) {
+  MenuEntry entry;
+  Counter bound;
+  entry.Bound = bound.Handler();
+  entry.SetCaption("Wordwrap");
+  entry.SetChecked(true);
+  entry.SetChecked(true);
+  EXPECT_EQ(entry.Caption(), "Wordwrap");
+  EXPECT_TRUE(entry.Checked());
+  EXPECT_EQ(bound.Count, 2);
 }
 
 TEST(Grid, ShowsItsRows) {

@@ -10,6 +10,15 @@ namespace trelonit::test {
 
 namespace {
 
+TEST(IsUtf8, TellsWellFormedBytes) {
+  EXPECT_TRUE(IsUtf8(""));
+  EXPECT_TRUE(IsUtf8("ferma"));
+  EXPECT_TRUE(IsUtf8("ферма \U0001F600"));
+  EXPECT_FALSE(IsUtf8("\xF4\xE5\xF0\xEC\xE0"));
+  EXPECT_FALSE(IsUtf8("\xD1"));
+  EXPECT_FALSE(IsUtf8("\xED\xA0\x80"));
+}
+
 TEST(Characters, CountsCharactersAndNotBytes) {
   EXPECT_EQ(Characters("Пояс").size(), 4U);
   EXPECT_EQ(Characters("aй\u20AC\U0001F600"), U"aй\u20AC\U0001F600");

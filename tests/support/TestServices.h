@@ -16,16 +16,17 @@
 
 namespace trelonit::test {
 
-/// Keeps every message; questions take the queued answers, then No.
+/// Keeps every message; questions take the queued answers, then Cancel or No.
 class RecordingMessages : public MessageService {
  public:
   MessageAnswer Show(const Message& message) override {
     Shown.push_back(message);
-    if (message.Style != MessageStyle::QuestionYesNo) {
+    if (!IsQuestion(message)) {
       return MessageAnswer::Ok;
     }
     if (Answers.empty()) {
-      return MessageAnswer::No;
+      return message.Style == MessageStyle::QuestionYesNo ? MessageAnswer::No
+                                                          : MessageAnswer::Cancel;
     }
     const MessageAnswer answer = Answers.front();
     Answers.pop_front();
