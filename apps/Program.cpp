@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "editor/MemoryRichTextBox.h"
+
 namespace trelonit {
 
 Program::Program(Services services, Windows windows)
@@ -47,9 +49,10 @@ frmMain::Openers Program::MakeOpeners() {
     openers.BeginOtchet = [this](const ReportSnapshot& snapshot) {
       snapshot_ = snapshot;
       report_.clear();
+      NewOtchet({}).BeginReport();
     };
-    openers.AppendOtchet = [this](const ReportPiece& piece) { report_.push_back(piece); };
-    openers.ShowOtchet = [this] { windows_.ShowOtchet(report_); };
+    openers.AppendOtchet = [this](const ReportPiece& piece) { AppendOtchet(piece); };
+    openers.ShowOtchet = [this] { ShowOtchet(); };
   }
   openers.EndProgram = windows_.EndProgram;
   return openers;
@@ -60,6 +63,41 @@ bool Program::OpenSearch(const SelectionProposal& proposal) {
   search_.Fill(proposal, main_.imgProfileSec, main_.Model.TreloData.TreloType);
   windows_.ShowSearch(search_);
   return search_.SearchApplied;
+}
+
+frmOtchetMain& Program::NewOtchet(const std::string& commandLine) {
+  otchet_.reset();
+  richText_ =
+      windows_.MakeRichText ? windows_.MakeRichText() : std::make_unique<MemoryRichTextBox>();
+  CommonDialogs& dialogs = windows_.Dialogs != nullptr ? *windows_.Dialogs : noDialogs_;
+  otchet_.emplace(
+      services_, *richText_, dialogs,
+      frmOtchetMain::Openers{
+          .ShowFind = windows_.ShowFind, .ShowDate = windows_.ShowDate, .ExportToDrawing = {}},
+      commandLine);
+  otchet_->Form_Load();
+  return *otchet_;
+}
+
+void Program::AppendOtchet(const ReportPiece& piece) {
+  report_.push_back(piece);
+  const ReportRole role = piece.Heading   ? ReportRole::Heading
+                          : piece.Warning ? ReportRole::Warning
+                                          : ReportRole::Line;
+  otchet_->AppendReport(piece.Text, role);
+}
+
+void Program::ShowOtchet() {
+  otchet_->EndReport();
+  windows_.ShowOtchet(*otchet_);
+}
+
+void Program::OpenDocument(const std::string& commandLine) {
+  // The command line is handed over this once: a report made later must not give way to the file.
+  frmOtchetMain& form = NewOtchet(commandLine);
+  if (windows_.ShowOtchet) {
+    windows_.ShowOtchet(form);
+  }
 }
 
 }  // namespace trelonit

@@ -1,10 +1,15 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "catalogue/frmDataManager.h"
 #include "checks/frmParamerty.h"
 #include "checks/frmSteel.h"
+#include "editor/frmOtchetMain.h"
 #include "platform/Services.h"
 #include "workstation/frmAbout.h"
 #include "workstation/frmKoeffOfUse.h"
@@ -25,8 +30,14 @@ class Program {
     std::function<void(frmSteel&)> ShowSteel;
     std::function<void(frmParamerty&)> ShowParamerty;
     std::function<void(frmDataManager&)> ShowDataManager;
-    /// The pieces of the report, in order.
-    std::function<void(const std::vector<ReportPiece>&)> ShowOtchet;
+    std::function<void(frmOtchetMain&)> ShowOtchet;
+    /// Beside the document window, which goes on.
+    std::function<void(frmFind&)> ShowFind;
+    std::function<void(frmDate&)> ShowDate;
+    /// An empty box for a document; without it documents are kept in memory.
+    std::function<std::unique_ptr<RichTextBox>()> MakeRichText;
+    /// Null where the machine has none. They outlive the program.
+    CommonDialogs* Dialogs = nullptr;
     std::function<void()> EndProgram;
   };
 
@@ -37,10 +48,21 @@ class Program {
   const std::optional<ResultLists>& LastResults() const { return lastResults_; }
   /// What automatic selection proposed last; nothing before it did.
   const std::optional<SelectionProposal>& LastProposal() const { return lastProposal_; }
+  /// The design of the last report, which its drawings show too; nothing before one was begun.
+  const std::optional<ReportSnapshot>& Snapshot() const { return snapshot_; }
+  /// The pieces of the last report, in order.
+  const std::vector<ReportPiece>& Report() const { return report_; }
+
+  /// Shows the document that a command line names in the document window, until the user closes it.
+  void OpenDocument(const std::string& commandLine);
 
  private:
   frmMain::Openers MakeOpeners();
   bool OpenSearch(const SelectionProposal& proposal);
+  /// A document window as it opens, with an empty document.
+  frmOtchetMain& NewOtchet(const std::string& commandLine);
+  void AppendOtchet(const ReportPiece& piece);
+  void ShowOtchet();
 
   Services services_;
   Windows windows_;
@@ -48,6 +70,9 @@ class Program {
   std::optional<SelectionProposal> lastProposal_;
   std::optional<ReportSnapshot> snapshot_;
   std::vector<ReportPiece> report_;
+  NoCommonDialogs noDialogs_;
+  std::unique_ptr<RichTextBox> richText_;
+  std::optional<frmOtchetMain> otchet_;
   frmKoeffOfUse koeffOfUse_;
   frmAbout about_;
   frmSearch search_;

@@ -1,5 +1,5 @@
 // The desktop program as it starts for a user, ended once its window has been painted, or with
-// "calculate" after a number of Calculates on the largest truss. Tells what that took.
+// "calculate" after a number of Calculates and reports on the largest truss. Tells what that took.
 
 #include <QAction>
 #include <QApplication>
@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <algorithm>
@@ -17,13 +18,14 @@
 #include "bench/FirstPaint.h"
 #include "windows/Desktop.h"
 #include "windows/KoeffOfUseWindow.h"
+#include "windows/OtchetWindow.h"
 
 namespace {
 
 using namespace trelonit;
 using Clock = std::chrono::steady_clock;
 
-constexpr int calculates = 15;
+constexpr int repetitions = 15;
 /// A message that waits for an answer would keep the measurement for ever.
 constexpr int patience = 60 * 1000;
 
@@ -61,34 +63,49 @@ void EnterLargestTruss(const QWidget& window) {
   Find<QCheckBox>(window, "chkOwnWeight").click();
 }
 
-/// From the command to the results on the screen, in milliseconds.
-double Calculate(QAction& command) {
+/// Answers the question of a closing document window with No.
+void ThrowChangesAway() {
+  QTimer::singleShot(0, [] {
+    if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      question->button(QMessageBox::No)->click();
+    }
+  });
+}
+
+/// From the command to the window that it opens, painted, in milliseconds.
+template <class Window>
+double TimeToWindow(QAction& command) {
   const Clock::time_point start = Clock::now();
   double milliseconds = 0;
   const bench::FirstPaint firstPaint(
-      [](const QWidget& widget) {
-        return dynamic_cast<const KoeffOfUseWindow*>(&widget) != nullptr;
-      },
+      [](const QWidget& widget) { return dynamic_cast<const Window*>(&widget) != nullptr; },
       [&](QWidget& window) {
         milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+        ThrowChangesAway();
         window.close();
       });
   command.trigger();
   if (milliseconds == 0) {
-    qFatal("no results were shown");
+    qFatal("no window was shown");
   }
   return milliseconds;
 }
 
+template <class Window>
+double BestTime(const QWidget& window, const char* entry) {
+  auto* command = window.findChild<QAction*>(QLatin1String(entry));
+  double best = 1e9;
+  for (int run = 0; run < repetitions; ++run) {
+    best = std::min(best, TimeToWindow<Window>(*command));
+  }
+  return best;
+}
+
 void CalculateAll(const QWidget& window) {
   EnterLargestTruss(window);
-  auto* command = window.findChild<QAction*>(QStringLiteral("mnuCalc"));
-  double best = 1e9;
-  for (int run = 0; run < calculates; ++run) {
-    best = std::min(best, Calculate(*command));
-  }
-  bench::Tell("calculated", best);
+  bench::Tell("calculated", BestTime<KoeffOfUseWindow>(window, "mnuCalc"));
   bench::Tell("memory", bench::ResidentMegabytes());
+  bench::Tell("reported", BestTime<OtchetWindow>(window, "mnuOtchet"));
 }
 
 }  // namespace
@@ -108,6 +125,6 @@ int main(int argc, char** argv) {
         QApplication::quit();
       });
   QTimer::singleShot(patience, [] { qFatal("the measurement hangs"); });
-  session.Start();
+  session.Start({});
   return QApplication::exec();
 }

@@ -184,11 +184,27 @@ void Bind(OptionGroup& group, Long number, QAbstractButton* button) {
 
 void Bind(ListBox& state, QListWidget* list) {
   Follow(state, list, [&state, list] {
-    list->clear();
+    const QSignalBlocker quiet(list);
+    QStringList lines;
     for (const std::string& line : state.List()) {
-      list->addItem(ToQt(line));
+      lines.append(ToQt(line));
     }
+    // A list as it stands keeps its place while only the selection moves.
+    bool same = list->count() == lines.size();
+    for (int row = 0; same && row < list->count(); ++row) {
+      same = list->item(row)->text() == lines[row];
+    }
+    if (!same) {
+      list->clear();
+      list->addItems(lines);
+    }
+    list->setCurrentRow(state.ListIndex());
     ShowCommon(state, list);
+  });
+  // The row with the focus is not yet a selected one.
+  QObject::connect(list, &QListWidget::itemSelectionChanged, list, [&state, list] {
+    const QList<QListWidgetItem*> selected = list->selectedItems();
+    state.Select(selected.isEmpty() ? ListBox::noSelection : list->row(selected.front()));
   });
 }
 
@@ -196,6 +212,16 @@ void Bind(Grid& state, QTableWidget* table) {
   Follow(state, table, [&state, table] {
     RefreshTable(state, table);
     ShowCommon(state, table);
+  });
+}
+
+void Bind(MenuEntry& state, QAction* action) {
+  Follow(state, action, [&state, action] {
+    action->setEnabled(state.Enabled());
+    action->setVisible(state.Visible());
+    if (action->isCheckable()) {
+      action->setChecked(state.Checked());
+    }
   });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -43,6 +44,8 @@ void Bind(OptionGroup& group, Long number, QAbstractButton* button);
 void Bind(ListBox& state, QListWidget* list);
 /// The first row of the state is the head.
 void Bind(Grid& state, QTableWidget* table);
+/// Enabled, visible and the check mark. The text is the window's: it tells the keys too.
+void Bind(MenuEntry& state, QAction* action);
 void Bind(TabControl& state, QTabWidget* tabs);
 void Bind(Timer& state, QTimer* timer);
 

@@ -7,13 +7,18 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProcess>
 #include <QSettings>
 #include <QUrl>
 #include <algorithm>
 
+#include "editor/HtmlWriter.h"
+#include "editor/RtfReader.h"
+#include "editor/RtfWriter.h"
 #include "platform/RuntimeError.h"
 #include "windows/Binding.h"
+#include "windows/RichDocumentHtml.h"
 #include "workstation/ApplicationInfo.h"
 
 namespace trelonit {
@@ -25,6 +30,7 @@ QMessageBox::Icon IconOf(MessageStyle style) {
     case MessageStyle::Critical:
       return QMessageBox::Critical;
     case MessageStyle::QuestionYesNo:
+    case MessageStyle::QuestionYesNoCancel:
       return QMessageBox::Question;
     case MessageStyle::Exclamation:
       return QMessageBox::Warning;
@@ -34,6 +40,23 @@ QMessageBox::Icon IconOf(MessageStyle style) {
       break;
   }
   return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageStyle style) {
+  if (style == MessageStyle::QuestionYesNo) {
+    return QMessageBox::Yes | QMessageBox::No;
+  }
+  if (style == MessageStyle::QuestionYesNoCancel) {
+    return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton SafeButton(MessageStyle style) {
+  if (style == MessageStyle::QuestionYesNo) {
+    return QMessageBox::No;
+  }
+  return style == MessageStyle::QuestionYesNoCancel ? QMessageBox::Cancel : QMessageBox::Ok;
 }
 
 std::string RunDialog(const FileDialogRequest& request, QFileDialog::AcceptMode mode) {
@@ -51,6 +74,10 @@ std::string RunDialog(const FileDialogRequest& request, QFileDialog::AcceptMode 
   return FromQt(dialog.selectedFiles().front());
 }
 
+/// The names under which programs hand rich text on.
+const QStringList richTextForms{QStringLiteral("text/rtf"), QStringLiteral("application/rtf"),
+                                QStringLiteral("text/richtext")};
+
 QString SettingName(const std::string& section, const std::string& key) {
   return ToQt(section) + QLatin1Char('/') + ToQt(key);
 }
@@ -64,8 +91,7 @@ MessageAnswer DesktopMessages::Show(const Message& message) {
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(message.Text));
   box.setIcon(IconOf(message.Style));
-  const bool question = message.Style == MessageStyle::QuestionYesNo;
-  box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  box.setStandardButtons(ButtonsOf(message.Style));
   // The lines of the texts are broken where they are meant to be.
   if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
     constexpr int widest = 900;
@@ -74,12 +100,17 @@ MessageAnswer DesktopMessages::Show(const Message& message) {
     label->setMinimumWidth(std::min(lines.width() + 2, widest));
   }
   // Closing a question without an answer is the safe one.
-  box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
-  const int answer = box.exec();
-  if (!question) {
-    return MessageAnswer::Ok;
+  box.setEscapeButton(SafeButton(message.Style));
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return MessageAnswer::Yes;
+    case QMessageBox::No:
+      return MessageAnswer::No;
+    case QMessageBox::Cancel:
+      return MessageAnswer::Cancel;
+    default:
+      return MessageAnswer::Ok;
   }
-  return answer == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
 }
 
 std::string DesktopDialogs::AskSaveName(const FileDialogRequest& request) {
@@ -100,6 +131,30 @@ std::string DesktopClipboard::Text() {
 
 void DesktopClipboard::SetText(const std::string& text) {
   QApplication::clipboard()->setText(ToQt(text));
+}
+
+std::string DesktopClipboard::RichText() {
+  const QMimeData* content = QApplication::clipboard()->mimeData();
+  if (content == nullptr) {
+    return {};
+  }
+  for (const QString& form : richTextForms) {
+    if (content->hasFormat(form)) {
+      return content->data(form).toStdString();
+    }
+  }
+  // Web pages are copied as HTML alone.
+  return content->hasHtml() ? WriteRtf(FromHtml(FromQt(content->html()))) : std::string();
+}
+
+void DesktopClipboard::SetRichText(const std::string& rtf, const std::string& plain) {
+  auto content = std::make_unique<QMimeData>();
+  content->setText(ToQt(plain));
+  content->setHtml(ToQt(WriteHtml(ReadRtf(rtf), applicationTitle)));
+  for (const QString& form : richTextForms) {
+    content->setData(form, QByteArray::fromStdString(rtf));
+  }
+  QApplication::clipboard()->setMimeData(content.release());
 }
 
 std::string DesktopSettings::Get(const std::string& section, const std::string& key,

@@ -28,6 +28,8 @@ class DesktopClipboard : public ClipboardService {
   bool HasText() override;
   std::string Text() override;
   void SetText(const std::string& text) override;
+  std::string RichText() override;
+  void SetRichText(const std::string& rtf, const std::string& plain) override;
 };
 
 /// Settings of the user, in the desktop's own store.

@@ -77,7 +77,7 @@ CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::strin
 
 }  // namespace
 
-Status RunCommandLine(int argc, const char* const* argv) {
+Status RunCommandLine(int argc, const char* const* argv, const Paper& paper) {
   CLI::App app("Расчёт плоских статически определимых стальных стропильных ферм", "trelonit-cli");
   Translate(app);
   app.set_version_flag("--version", version, "показать версию");
@@ -120,10 +120,18 @@ Status RunCommandLine(int argc, const char* const* argv) {
       ->type_name("");
   report
       ->add_option("-o,--output", reportOptions.Output,
-                   "файл отчёта: .txt, .html; «-» — стандартный вывод")
+                   "файл отчёта: .txt, .rtf, .pdf, .html; «-» — стандартный вывод")
       ->required()
       ->type_name("FILE");
-  report->callback([&] { run = [&] { return RunReport(reportOptions); }; });
+  report->callback([&] { run = [&] { return RunReport(reportOptions, paper); }; });
+
+  DrawOptions drawOptions;
+  CLI::App* draw = AddCommand(app, "draw", "чертёж: схема усилий и геометрическая схема");
+  draw->add_option("FILE", drawOptions.Project, "файл проекта (.tsav)")->required()->type_name("");
+  draw->add_option("-o,--output", drawOptions.Output, "файл чертежа: .dxf, .svg, .pdf, .png")
+      ->required()
+      ->type_name("FILE");
+  draw->callback([&] { run = [&] { return RunDraw(drawOptions, paper); }; });
 
   CLI::App* catalogue = AddCommand(app, "catalogue", "каталог проката");
   catalogue->require_subcommand(1);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "apps/cli/ConsoleSession.h"
+#include "apps/cli/Paper.h"
 
 namespace trelonit::cli {
 
@@ -36,7 +37,14 @@ struct ReportOptions {
   std::string Output;  ///< a file by its extension, "-" for standard output
 };
 /// The calculation report.
-Status RunReport(const ReportOptions& options);
+Status RunReport(const ReportOptions& options, const Paper& paper);
+
+struct DrawOptions {
+  std::string Project;
+  std::string Output;  ///< a file by its extension
+};
+/// Force and geometry scheme of a project as a drawing.
+Status RunDraw(const DrawOptions& options, const Paper& paper);
 
 /// The standards of the catalogue in memory.
 Status RunCatalogueList();

@@ -1,8 +1,13 @@
 #include <algorithm>
+#include <array>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
+#include "editor/HtmlWriter.h"
+#include "editor/RtfReader.h"
 #include "platform/RuntimeError.h"
 
 namespace trelonit::cli {
@@ -10,6 +15,8 @@ namespace trelonit::cli {
 namespace {
 
 using Pieces = std::vector<ReportPiece>;
+
+constexpr const char* reportTitle = "Расчет фермы";
 
 std::string AsText(const Pieces& pieces) {
   std::string text;
@@ -26,46 +33,28 @@ std::string AsLines(const Pieces& pieces) {
   return text;
 }
 
-std::string Escaped(std::string_view text) {
-  std::string escaped;
-  for (const char character : text) {
-    switch (character) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '>':
-        escaped += "&gt;";
-        break;
-      case '\r':
-        break;
-      default:
-        escaped.push_back(character);
-    }
-  }
-  return escaped;
-}
-
-/// The lines as they stand, headings as headings.
-std::string AsHtml(const Pieces& pieces) {
-  std::string html =
-      "<!DOCTYPE html>\n<html lang=\"ru\">\n<head>\n<meta charset=\"utf-8\">\n"
-      "<title>Расчет фермы</title>\n<style>body { font-family: sans-serif; margin: 2em; } "
-      "h2 { font-size: 1.1em; margin: 1.2em 0 0.3em; } pre { font: inherit; margin: 0; "
-      "white-space: pre-wrap; }</style>\n</head>\n<body>\n";
-  for (const ReportPiece& piece : pieces) {
-    const std::string text = Escaped(piece.Text);
-    html += piece.Heading ? "<h2>" + text + "</h2>\n" : "<pre>" + text + "</pre>\n";
-  }
-  return html + "</body>\n</html>\n";
-}
-
 bool EndsWith(std::string_view name, std::string_view extension) {
   return name.size() > extension.size() &&
          std::equal(extension.rbegin(), extension.rend(), name.rbegin(),
                     [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b - 'A' + 'a' : b); });
+}
+
+enum class ReportForm { Lines, Text, Page, RichText, Pdf };
+
+/// By the output's name; nothing for an unknown extension.
+std::optional<ReportForm> FormOf(const std::string& output) {
+  if (output == "-") {
+    return ReportForm::Lines;
+  }
+  using Named = std::pair<const char*, ReportForm>;
+  constexpr std::array forms{Named{".txt", ReportForm::Text}, Named{".html", ReportForm::Page},
+                             Named{".rtf", ReportForm::RichText}, Named{".pdf", ReportForm::Pdf}};
+  for (const auto& [extension, form] : forms) {
+    if (EndsWith(output, extension)) {
+      return form;
+    }
+  }
+  return std::nullopt;
 }
 
 Status Write(const std::string& file, const std::string& bytes) {
@@ -80,27 +69,41 @@ Status Write(const std::string& file, const std::string& bytes) {
 
 }  // namespace
 
-Status RunReport(const ReportOptions& options) {
-  const bool html = EndsWith(options.Output, ".html");
-  if (options.Output != "-" && !html && !EndsWith(options.Output, ".txt")) {
+Status RunReport(const ReportOptions& options, const Paper& paper) {
+  const std::optional<ReportForm> form = FormOf(options.Output);
+  if (!form) {
     std::cerr << "trelonit-cli: вид отчёта «" << options.Output
-              << "» неизвестен: нужен файл .txt или .html или «-»\n";
+              << "» неизвестен: нужен файл .txt, .rtf, .pdf или .html или «-»\n";
     return Status::WrongUsage;
   }
-  Pieces report;
-  ConsoleSession session(MessageAnswer::No,
-                         {.ShowOtchet = [&report](const Pieces& pieces) { report = pieces; }});
+  if (form == ReportForm::Pdf && !paper.Pdf) {
+    return paper.HandOver();
+  }
+  std::string richText;
+  ConsoleSession session(MessageAnswer::No, {.ShowOtchet = [&richText](frmOtchetMain& shown) {
+                           richText = shown.RTF.TextRTF();
+                         }});
   if (!Restore(session, options.Project)) {
     return Status::Failed;
   }
   session.Main().cmdShowResults_Click();
-  if (report.empty() || session.MetRuntimeError()) {
+  if (richText.empty() || session.MetRuntimeError()) {
     return Status::Failed;
   }
-  if (options.Output == "-") {
-    return Print(AsLines(report));
+  const Pieces& pieces = session.TheProgram().Report();
+  switch (*form) {
+    case ReportForm::Lines:
+      return Print(AsLines(pieces));
+    case ReportForm::Text:
+      return Write(options.Output, AsText(pieces));
+    case ReportForm::Page:
+      return Write(options.Output, WriteHtml(ReadRtf(richText), reportTitle));
+    case ReportForm::RichText:
+      return Write(options.Output, richText);
+    case ReportForm::Pdf:
+      return Write(options.Output, paper.Pdf(ReadRtf(richText), reportTitle));
   }
-  return Write(options.Output, html ? AsHtml(report) : AsText(report));
+  return Status::Failed;
 }
 
 }  // namespace trelonit::cli

@@ -10,7 +10,8 @@ int main(int argc, char** argv) {
   std::signal(SIGXFSZ, SIG_IGN);
 #endif
   try {
-    return static_cast<int>(trelonit::cli::RunCommandLine(argc, argv));
+    return static_cast<int>(
+        trelonit::cli::RunCommandLine(argc, argv, trelonit::cli::MakePaper(argc, argv)));
   } catch (const std::exception& error) {
     std::cerr << "trelonit-cli: " << error.what() << '\n';
     return static_cast<int>(trelonit::cli::Status::Failed);

@@ -1,9 +1,11 @@
 #include "apps/trelonit/DesktopSession.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include "windows/AboutWindow.h"
 #include "windows/DataManagerWindow.h"
+#include "windows/DateWindow.h"
 #include "windows/KoeffOfUseWindow.h"
 #include "windows/ParamertyWindow.h"
 #include "windows/SearchWindow.h"
@@ -23,13 +25,39 @@ Program::Windows DesktopSession::MakeWindows() {
           .ShowSteel = Modal<SteelWindow, frmSteel>(),
           .ShowParamerty = Modal<ParamertyWindow, frmParamerty>(),
           .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(),
+          .ShowOtchet = [this](frmOtchetMain& form) { ShowOtchet(form); },
+          .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
+          .ShowDate = [this](frmDate& form) { DateWindow(form, otchet_.get()).exec(); },
+          .MakeRichText =
+              [this] {
+                auto box = std::make_unique<QtRichTextBox>();
+                richText_ = box.get();
+                return box;
+              },
+          .Dialogs = &documentDialogs_,
           .EndProgram = [] { QApplication::exit(0); }};
 }
 
-void DesktopSession::Start() {
+void DesktopSession::ShowOtchet(frmOtchetMain& form) {
+  otchet_ = std::make_unique<OtchetWindow>(form, *richText_, Parent());
+  otchet_->ShowModal();
+  otchet_.reset();
+}
+
+QWidget* DesktopSession::Parent() const {
+  // A hidden main window would hide its children.
+  return window_ && window_->isVisible() ? window_.get() : nullptr;
+}
+
+void DesktopSession::Start(const std::string& commandLine) {
   program_.Main().Form_Load();
   window_ = std::make_unique<MainWindow>(program_.Main(), settings_);
   window_->show();
+  if (!commandLine.empty()) {
+    // Once the events run: the document window waits for its end.
+    QTimer::singleShot(0, window_.get(),
+                       [this, commandLine] { program_.OpenDocument(commandLine); });
+  }
 }
 
 }  // namespace trelonit

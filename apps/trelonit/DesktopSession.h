@@ -2,8 +2,12 @@
 
 #include "apps/Program.h"
 #include "resources/EmbeddedResources.h"
+#include "windows/ConversionProgress.h"
 #include "windows/DesktopServices.h"
+#include "windows/DocumentDialogs.h"
 #include "windows/MainWindow.h"
+#include "windows/OfficeAutomation.h"
+#include "windows/OtchetWindow.h"
 
 namespace trelonit {
 
@@ -15,18 +19,18 @@ class DesktopSession {
   DesktopSession& operator=(const DesktopSession&) = delete;
   ~DesktopSession() = default;
 
-  /// Loads the form (catalogue, defaults) and shows the main window.
-  void Start();
+  /// Loads the form (catalogue, defaults) and shows the main window; over it the document that the
+  /// command line names, if any.
+  void Start(const std::string& commandLine);
 
  private:
   Program::Windows MakeWindows();
+  void ShowOtchet(frmOtchetMain& form);
+  QWidget* Parent() const;
   /// Shows a filled form in a window of its own until the user closes it.
   template <class Window, class Form>
   std::function<void(Form&)> Modal() {
-    // A hidden main window would hide its children.
-    return [this](Form& form) {
-      Window(form, window_ && window_->isVisible() ? window_.get() : nullptr).exec();
-    };
+    return [this](Form& form) { Window(form, Parent()).exec(); };
   }
 
   DesktopMessages messages_;
@@ -34,12 +38,17 @@ class DesktopSession {
   DesktopClipboard clipboard_;
   DesktopSettings settings_;
   NoRegistry registry_;
-  NoAutomation automation_;
   DesktopShell shell_;
   SystemClock clock_;
   EmbeddedResources resources_;
   DiskFiles files_;
+  OfficeAutomation automation_{clipboard_, files_, {.Watch = ShowConversionProgress}};
+  DocumentDialogs documentDialogs_;
   Program program_;
+  // The box of the present document; the program owns it.
+  QtRichTextBox* richText_ = nullptr;
+  // There while a document is shown.
+  std::unique_ptr<OtchetWindow> otchet_;
   // Made once the form is loaded: the window shows what is there.
   std::unique_ptr<MainWindow> window_;
 };

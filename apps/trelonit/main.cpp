@@ -40,9 +40,10 @@ std::optional<int> AnswerCommandLine(int argc, char** argv) {
   }
   if (argc == 2 && (argument == "--help" || argument == "-h")) {
     std::printf(
-        "Использование: trelonit\n\n"
+        "Использование: trelonit [ДОКУМЕНТ]\n\n"
         "Расчет плоских стальных стропильных ферм: открывает рабочее окно программы.\n"
-        "Проекты открываются из меню «Файл». Расчет без окон: trelonit-cli --help.\n\n"
+        "ДОКУМЕНТ (.txt, .rtf, .doc) открывается в окне отчета. Проекты открываются\n"
+        "из меню «Файл». Расчет без окон: trelonit-cli --help.\n\n"
         "  -h, --help   показать эту справку\n"
         "  --version    показать версию\n");
     return 0;
@@ -60,7 +61,8 @@ int main(int argc, char** argv) {
     Application application(argc, argv);
     const trelonit::Desktop desktop;
     trelonit::DesktopSession session;
-    session.Start();
+    // The toolkit has taken its own arguments away by now.
+    session.Start(QApplication::arguments().value(1).toStdString());
     return QApplication::exec();
   } catch (const std::exception& error) {
     std::fprintf(stderr, "trelonit: %s\n", error.what());

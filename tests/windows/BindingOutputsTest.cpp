@@ -28,6 +28,21 @@ TEST(BoundListBox, ShowsItsLinesInOrder) {
   EXPECT_EQ(FromQt(list.item(0)->text()), "y");
 }
 
+TEST(BoundListBox, SelectsBothWays) {
+  ListBox state;
+  QListWidget list;
+  state.SetList({"a", "b", "c"});
+  Bind(state, &list);
+  EXPECT_TRUE(list.selectedItems().isEmpty());
+  list.setCurrentRow(1);
+  EXPECT_EQ(state.ListIndex(), 1);
+  state.Select(2);
+  EXPECT_EQ(list.currentRow(), 2);
+  EXPECT_TRUE(list.item(2)->isSelected());
+  state.SetList({"d"});
+  EXPECT_TRUE(list.selectedItems().isEmpty());
+}
+
 TEST(BoundGrid, ShowsTheFirstRowAsHead) {
   Grid state;
   QTableWidget table;

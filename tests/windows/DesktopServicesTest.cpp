@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QMimeData>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -8,6 +9,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "editor/RtfReader.h"
 #include "platform/RuntimeError.h"
 #include "tests/windows/Hands.h"
 #include "tests/windows/Modal.h"
@@ -46,6 +48,25 @@ TEST(DesktopMessageBox, ShowsTitleTextAndIcon) {
         });
     EXPECT_EQ(answer, MessageAnswer::Ok);
   }
+}
+
+TEST(DesktopMessageBox, OffersACancelWhereTheQuestionDoes) {
+  const Message saving{"", "Save ?", MessageStyle::QuestionYesNoCancel};
+  struct Case {
+    QMessageBox::StandardButton Button;
+    MessageAnswer Answer;
+  };
+  for (const Case& pressed : {Case{QMessageBox::Yes, MessageAnswer::Yes},
+                              Case{QMessageBox::No, MessageAnswer::No},
+                              Case{QMessageBox::Cancel, MessageAnswer::Cancel}}) {
+    EXPECT_EQ(Answer(saving,
+                     [&](QMessageBox& box) {
+                       QTest::mouseClick(box.button(pressed.Button), Qt::LeftButton);
+                     }),
+              pressed.Answer);
+  }
+  EXPECT_EQ(Answer(saving, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
+            MessageAnswer::Cancel);
 }
 
 TEST(DesktopMessageBox, WithoutATitleHasTheProgramsName) {
@@ -149,6 +170,33 @@ TEST(DesktopFileDialog, GivesNothingWhenItIsCancelled) {
   EXPECT_TRUE(once.Acted());
   const OnceModal<QFileDialog> again([](QFileDialog& dialog) { dialog.reject(); });
   EXPECT_EQ(DesktopDialogs().AskOpenName(request), "");
+}
+
+TEST(DesktopClipboardTexts, AreOfferedInEveryForm) {
+  DesktopClipboard clipboard;
+  EXPECT_EQ(clipboard.RichText(), "");
+  const std::string rtf = "{\\rtf1\\ansi\\ansicpg1251 \\b beam}";
+  clipboard.SetRichText(rtf, "beam");
+  const QMimeData* content = QApplication::clipboard()->mimeData();
+  EXPECT_EQ(FromQt(content->text()), "beam");
+  EXPECT_EQ(content->data("text/rtf").toStdString(), rtf);
+  EXPECT_TRUE(content->html().contains("beam"));
+  EXPECT_EQ(clipboard.RichText(), rtf);
+  clipboard.SetText("plain");
+  EXPECT_EQ(clipboard.RichText(), "");
+}
+
+TEST(DesktopClipboardTexts, OfAPageComeAsRichText) {
+  auto* page = new QMimeData;
+  page->setHtml("<p>one <b>two</b></p>");
+  page->setText("one two");
+  QApplication::clipboard()->setMimeData(page);
+  const RichDocument read = ReadRtf(DesktopClipboard().RichText());
+  ASSERT_EQ(read.Paragraphs.size(), 1U);
+  ASSERT_EQ(read.Paragraphs[0].Runs.size(), 2U);
+  EXPECT_EQ(read.Paragraphs[0].Runs[1].Text, u"two");
+  EXPECT_TRUE(read.Paragraphs[0].Runs[1].Format.Bold);
+  QApplication::clipboard()->clear();
 }
 
 TEST(DesktopClipboardTexts, GoBothWays) {

@@ -1,0 +1,50 @@
+#include <QGuiApplication>
+
+#include "apps/cli/Paper.h"
+#include "windows/DrawingPages.h"
+#include "windows/RichDocumentPdf.h"
+
+namespace trelonit::cli {
+
+namespace {
+
+/// Fonts and pages without a display.
+class Pages {
+ public:
+  Pages(int& argc, char** argv) : application_(argc, argv) {}
+
+ private:
+  /// The toolkit asks for its display as soon as the application is made.
+  struct NoDisplay {
+    NoDisplay() {
+      qputenv("QT_QPA_PLATFORM", "offscreen");
+      // What the toolkit finds missing on a machine without a desktop does not matter here.
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    }
+  };
+
+  NoDisplay noDisplay_;
+  QGuiApplication application_;
+};
+
+}  // namespace
+
+Paper MakePaper(int argc, char** argv) {
+  const auto drawn = [argc, argv](auto write) {
+    return [argc, argv, write](const Drawing& drawing) mutable {
+      const Pages pages(argc, argv);
+      return write(drawing, std::nullopt);
+    };
+  };
+  return {.Pdf =
+              [argc, argv](const RichDocument& document, const std::string& title) mutable {
+                const Pages pages(argc, argv);
+                return WritePdf(document, title);
+              },
+          .DrawingPdf = drawn(WriteDrawingPdf),
+          .DrawingSvg = drawn(WriteDrawingSvg),
+          .DrawingPng = drawn(WriteDrawingPng),
+          .HandOver = {}};
+}
+
+}  // namespace trelonit::cli
