@@ -47,6 +47,9 @@ void frmFind::Form_Load() {
   loaded_ = true;
   searchPos_ = 0;
   hitPos_ = RichTextBox::notFound;
+  cmdReplace.SetEnabled(true);
+  ChWord.SetChecked(false);
+  ChCase.SetChecked(false);
   LoadHistory(cboFind, findSection);
   LoadHistory(cboReplace, replaceSection);
   cmdSelection_Click(0);

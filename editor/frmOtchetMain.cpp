@@ -96,10 +96,12 @@ void frmOtchetMain::Form_Activate() {
     return;
   }
   loadPending_ = false;
-  const std::string name = LongPathName(commandLine_);
-  if (!name.empty()) {
-    LoadDocument(name, FormatOf(name));
-  }
+  Guard(services_.Messages, "Form_Activate", [this] {
+    const std::string name = LongPathName(commandLine_);
+    if (!name.empty()) {
+      LoadDocument(name, FormatOf(name));
+    }
+  });
 }
 
 bool frmOtchetMain::Form_QueryUnload() {

@@ -1,6 +1,7 @@
 #include "windows/DateWindow.h"
 
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -9,10 +10,27 @@
 
 namespace trelonit {
 
+namespace {
+
+/// The first arrow key selects the row that has the focus; the toolkit would go past it.
+class FormList : public QListWidget {
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (arrow && currentItem() != nullptr && selectedItems().isEmpty()) {
+      currentItem()->setSelected(true);
+    } else {
+      QListWidget::keyPressEvent(event);
+    }
+  }
+};
+
+}  // namespace
+
 DateWindow::DateWindow(frmDate& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent) {
   auto* column = new QVBoxLayout(this);
-  auto* list = new QListWidget;
+  auto* list = new FormList;
   list->setObjectName(QStringLiteral("List1"));
   list->setAccessibleName(QStringLiteral("Вид даты и времени"));
   Bind(form.List1, list);

@@ -14,7 +14,9 @@
 
 #include "editor/RtfReader.h"
 #include "platform/Files.h"
+#include "platform/Guard.h"
 #include "windows/Binding.h"
+#include "windows/DesktopServices.h"
 #include "windows/FontWindow.h"
 #include "windows/PictureIcon.h"
 #include "windows/RichDocumentPdf.h"
@@ -130,8 +132,12 @@ void DocumentDialogs::StorePdf(const RichTextBox& document, const std::string& t
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
   dialog.selectFile(QFileInfo(ToQt(title)).completeBaseName());
   if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
-    DiskFiles().ReplaceFile(FromQt(dialog.selectedFiles().front()),
-                            WritePdf(DocumentOf(document), title, Printer().pageLayout()));
+    // Told here: a failure must not leave through the preview's own event loop.
+    DesktopMessages messages;
+    Guard(messages, "StorePdf", [&] {
+      DiskFiles().ReplaceFile(FromQt(dialog.selectedFiles().front()),
+                              WritePdf(DocumentOf(document), title, Printer().pageLayout()));
+    });
   }
 }
 

@@ -2,25 +2,65 @@
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <cstdlib>
 
 #include "windows/Binding.h"
 #include "windows/RichDocumentQt.h"
 
 namespace trelonit {
 
+namespace {
+
+/// The toolkit's font dialog as a part of another one, whose keys Enter and Escape are.
+class FontLists : public QFontDialog {
+ public:
+  explicit FontLists(const QFont& font) : QFontDialog(font) {
+    setWindowFlags(Qt::Widget);
+    setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
+    setSizeGripEnabled(false);
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+};
+
+/// What the lists are to begin with. A missing family gives way to the one that the text is really
+/// shown in; the style has the name that this family calls it by, for under another one the lists
+/// would begin with any of its styles.
+QFont ShownFont(const CharFormat& format) {
+  QFont font = FontFor(format);
+  const QString family = QFontInfo(font).family();
+  font.setFamilies({family});
+  int nearest = QFont::Black;
+  for (const QString& style : QFontDatabase::styles(family)) {
+    const QFont candidate = QFontDatabase::font(family, style, font.pointSize());
+    const int distance = std::abs(candidate.weight() - font.weight());
+    if (candidate.italic() == font.italic() && distance < nearest) {
+      nearest = distance;
+      font.setStyleName(style);
+    }
+  }
+  font.setUnderline(format.Underline);
+  font.setStrikeOut(format.StrikeThru);
+  return font;
+}
+
+}  // namespace
+
 FontWindow::FontWindow(const CharFormat& present, QWidget* parent)
-    : QDialog(parent), color_(present.TextColor) {
+    : QDialog(parent), present_(present), color_(present.TextColor) {
   setWindowTitle(QStringLiteral("Шрифт"));
   auto* column = new QVBoxLayout(this);
-  QFont font = FontFor(present);
-  font.setUnderline(present.Underline);
-  font.setStrikeOut(present.StrikeThru);
-  fonts_ = new QFontDialog(font);
-  fonts_->setWindowFlags(Qt::Widget);
-  fonts_->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
+  fonts_ = new FontLists(ShownFont(present));
+  offered_ = fonts_->currentFont();
+  // Enter in one of its lists.
+  QObject::connect(fonts_, &QDialog::accepted, this, &QDialog::accept);
   column->addWidget(fonts_, 1);
   auto* row = new QHBoxLayout;
   colorButton_ = new QPushButton(QStringLiteral("&Цвет текста..."));
@@ -30,6 +70,7 @@ FontWindow::FontWindow(const CharFormat& present, QWidget* parent)
   row->addWidget(colorButton_);
   row->addStretch();
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  buttons->button(QDialogButtonBox::Ok)->setDefault(true);
   QObject::connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   row->addWidget(buttons);
@@ -55,8 +96,11 @@ void FontWindow::ShowColor() {
 CharFormat FontWindow::Chosen() const {
   const QFont font = fonts_->currentFont();
   CharFormat format;
-  format.FontName = FromQt(font.family());
-  format.FontSize = font.pointSizeF();
+  // A family that this machine does not have shows as another one, a broken size as a whole one:
+  // whoever does not touch them keeps them.
+  format.FontName = font.family() == offered_.family() ? present_.FontName : FromQt(font.family());
+  format.FontSize =
+      font.pointSizeF() == offered_.pointSizeF() ? present_.FontSize : font.pointSizeF();
   format.Bold = font.bold();
   format.Italic = font.italic();
   format.Underline = font.underline();

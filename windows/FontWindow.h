@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QFont>
 
 #include "editor/RichDocument.h"
 
@@ -20,6 +21,9 @@ class FontWindow : public QDialog {
   void AskColor();
   void ShowColor();
 
+  CharFormat present_;
+  /// The present font as the lists show it.
+  QFont offered_;
   QFontDialog* fonts_ = nullptr;
   QPushButton* colorButton_ = nullptr;
   Color color_ = colorBlack;

@@ -281,7 +281,9 @@ void OtchetWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   const bool usual = !isMaximized() && !isFullScreen();
-  const QRect place = usual ? QRect(pos(), size()) : normalGeometry();
+  // The place counts with the frame, as it is restored; the toolkit keeps the usual one without.
+  const QRect place =
+      usual ? QRect(pos(), size()) : normalGeometry().translated(pos() - geometry().topLeft());
   form_.Left = place.x() * twipsPerPixel;
   form_.Top = place.y() * twipsPerPixel;
   form_.Width = place.width() * twipsPerPixel;

@@ -299,5 +299,18 @@ TEST_F(Find, ForgetsTheOldestTextsOfALongHistory) {
   EXPECT_EQ(form.cboFind.List().back(), "text 30");
 }
 
+TEST_F(Find, OpensAfreshEveryTime) {
+  Look("a b", "x");
+  form.ChWord.SetChecked(true);
+  form.ChCase.SetChecked(true);
+  form.cmdFindNext_Click();
+  EXPECT_FALSE(form.cmdReplace.Enabled());
+  form.Form_Unload();
+  form.Form_Load();
+  EXPECT_TRUE(form.cmdReplace.Enabled());
+  EXPECT_FALSE(form.ChWord.Checked());
+  EXPECT_FALSE(form.ChCase.Checked());
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -42,7 +42,7 @@ TEST_F(DateWindowOnScreen, OffersTheFormsOfThisMoment) {
               (Texts{"02/01/26", "2/01/26", "02/01/2026", "2026-01-02", "пятница, 2 января 2026",
                      "03:04:05-(24 hr)", "3:04:05", "02.01.2026 3:04:05"}));
     EXPECT_TRUE(List(window).selectedItems().isEmpty());
-    EXPECT_TRUE(List(window).hasFocus());
+    EXPECT_TRUE(Soon([&window] { return List(window).hasFocus(); }));
     EXPECT_EQ(FromQt(Find<QPushButton>(window, "cmdOK").text()), "OK");
     EXPECT_EQ(FromQt(Find<QPushButton>(window, "cmdCancel").text()), "Cancel");
   });
@@ -64,12 +64,11 @@ TEST_F(DateWindowOnScreen, InsertsTheChosenFormAtTheCaret) {
 
 TEST_F(DateWindowOnScreen, TakesArrowsAndEnter) {
   Open([](QDialog& window) {
-    for (int step = 0; step < 3; ++step) {
+    ASSERT_TRUE(Soon([&window] { return List(window).hasFocus(); }));
+    for (int row = 0; row < 3; ++row) {
       QTest::keyClick(&List(window), Qt::Key_Down);
+      EXPECT_EQ(List(window).selectedItems(), QList{List(window).item(row)});
     }
-    const int row = List(window).currentRow();
-    EXPECT_EQ(List(window).selectedItems().size(), 1);
-    EXPECT_EQ(row, 2);
     QTest::keyClick(&List(window), Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
   });

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QTemporaryDir>
 
@@ -190,13 +189,49 @@ TEST_F(DocumentDialogsOnScreen, TellThatAPdfCannotBeStored) {
       dialog.setDirectory(gone);
       Find<QLineEdit>(dialog, "fileNameEdit").setText(QStringLiteral("a.pdf"));
       QDir().rmdir(gone);
-      dialog.done(QDialog::Accepted);
+      static_cast<QDialog&>(dialog).done(QDialog::Accepted);
     });
     const OnceModal<QMessageBox> telling([&told](QMessageBox& box) { told = FromQt(box.text()); });
     EXPECT_NO_THROW(StorePdf(preview).trigger());
     EXPECT_NE(told.find("Err # "), std::string::npos) << told;
     EXPECT_TRUE(preview.isVisible());
   });
+}
+
+TEST_F(DocumentDialogsOnScreen, KeepThePaperThatWasChosen) {
+  {
+    const OnceModal<QDialog> once([](QDialog& dialog) {
+      Click(Find<QAbstractButton>(dialog, "landscape"));
+      Click(StandardButton(dialog, QDialogButtonBox::Ok));
+      EXPECT_FALSE(dialog.isVisible());
+    });
+    Dialogs.PageSetup();
+    EXPECT_TRUE(once.Acted());
+  }
+  Preview([this](QDialog& preview) {
+    const OnceModal<QFileDialog> once(
+        [this](QFileDialog& dialog) { Take(dialog, Path("поперек.pdf")); });
+    StorePdf(preview).trigger();
+  });
+  // A4, in points, lying.
+  const std::string bytes = BytesOf("поперек.pdf");
+  EXPECT_NE(bytes.find("/MediaBox [0 0 842"), std::string::npos)
+      << bytes.substr(bytes.find("/MediaBox"), 40);
+}
+
+TEST_F(DocumentDialogsOnScreen, PrintToAFile) {
+  MemoryRichTextBox box;
+  box.SetText("beam");
+  const std::string name = Path("лист.pdf");
+  const OnceModal<QDialog> once([&name](QDialog& dialog) {
+    auto& printers = Find<QComboBox>(dialog, "printers");
+    printers.setCurrentIndex(printers.count() - 1);  // the one that prints to a file
+    Find<QLineEdit>(dialog, "filename").setText(ToQt(name));
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  Dialogs.PrintDocument(box, "отчет");
+  EXPECT_TRUE(once.Acted());
+  EXPECT_EQ(BytesOf("лист.pdf").substr(0, 5), "%PDF-");
 }
 
 TEST_F(DocumentDialogsOnScreen, AskForPaperAndPrinter) {

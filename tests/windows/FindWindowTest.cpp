@@ -55,7 +55,7 @@ TEST_F(FindWindowOnScreen, OpensBesideTheTextWithTheSelection) {
   EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().contains(Shown()->pos()));
   EXPECT_EQ(FromQt(Line("cboFind").text()), "two");
   EXPECT_EQ(FromQt(Line("cboFind").selectedText()), "two");
-  EXPECT_TRUE(Line("cboFind").hasFocus());
+  EXPECT_TRUE(Soon([this] { return Line("cboFind").hasFocus(); }));
   EXPECT_EQ(FromQt(Line("cboReplace").text()), "");
   for (const auto& [name, caption] : {std::pair{"cmdFindNext", "Find Next"},
                                       {"cmdReplace", "Replace"},
@@ -257,12 +257,23 @@ TEST_F(FindWindowOnScreen, GoesWithTheDocumentWindow) {
   Look("beam");
   Seek("beam");
   Press("cmdFindNext");
-  Window->close();
+  Answer(MessageAnswer::No);
+  EXPECT_TRUE(Window->close());
   EXPECT_TRUE(Gone());
   EXPECT_EQ(Stored("FindText", 1), "beam");
   // What a later press of a button would use is there no more.
   EXPECT_FALSE(Form->Find.DoEvents);
   EXPECT_FALSE(Form->Find.Unload);
+}
+
+TEST_F(FindWindowOnScreen, StaysWhereTheDocumentWindowStays) {
+  Look("beam");
+  Seek("beam");
+  Answer(MessageAnswer::Cancel);
+  EXPECT_FALSE(Window->close());
+  ASSERT_FALSE(Gone());
+  Press("cmdFindNext");
+  EXPECT_EQ(ShownSelection(), "beam");
 }
 
 TEST_F(FindWindowOnScreen, LetsTheTextBeEditedMeanwhile) {
@@ -278,6 +289,7 @@ TEST_F(FindWindowOnScreen, LetsTheTextBeEditedMeanwhile) {
 
 TEST_F(FindWindowOnScreen, CanBeUsedByKeysAlone) {
   Look("one");
+  ASSERT_TRUE(Soon([this] { return Line("cboFind").hasFocus(); }));
   ExpectEveryInputHasAName(*Shown());
   ExpectTabReachesEveryInputOnce(*Shown());
   EXPECT_EQ(CaptionOf(*Shown(), Combo("cboFind")), "Найти:");

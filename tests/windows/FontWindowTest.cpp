@@ -2,6 +2,7 @@
 
 #include <QColorDialog>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QListView>
 
 #include "tests/windows/DialogHands.h"
@@ -24,7 +25,36 @@ class FontWindowOnScreen : public ::testing::Test {
     return chosen;
   }
   static QFontDialog& Fonts(const QDialog& window) { return Find<QFontDialog>(window, ""); }
-  static void Accept(const QDialog& window) { Click(StandardButton(window, QDialogButtonBox::Ok)); }
+  /// The window's own button, not one that the lists bring along.
+  static QPushButton& Button(const QDialog& window, QDialogButtonBox::StandardButton which) {
+    return *window.findChild<QDialogButtonBox*>(QString(), Qt::FindDirectChildrenOnly)
+                ->button(which);
+  }
+  static void Accept(const QDialog& window) { Click(Button(window, QDialogButtonBox::Ok)); }
+  /// Families, styles, sizes.
+  static QListView& List(const QDialog& window, int number) {
+    return *Fonts(window).findChildren<QListView*>().at(number);
+  }
+  static void PickRow(QListView& list, const std::string& text) {
+    for (int row = 0; row < list.model()->rowCount(); ++row) {
+      const QModelIndex index = list.model()->index(row, 0);
+      if (FromQt(index.data().toString()) == text) {
+        list.scrollTo(index);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(index).center());
+        return;
+      }
+    }
+    throw std::logic_error("not in the list: " + text);
+  }
+  /// Where a size is typed.
+  static QLineEdit& SizeEdit(const QDialog& window) {
+    for (QLineEdit* edit : Fonts(window).findChildren<QLineEdit*>()) {
+      if (!edit->isReadOnly() && edit->text() == QLatin1String("14")) {
+        return *edit;
+      }
+    }
+    throw std::logic_error("no size");
+  }
 
   const CharFormat present{.FontName = "DejaVu Serif",
                            .FontSize = 14,
@@ -53,10 +83,27 @@ TEST_F(FontWindowOnScreen, ReturnsTheSameWhereNothingIsTouched) {
   EXPECT_EQ(Ask(present, Accept), present);
 }
 
+TEST_F(FontWindowOnScreen, KeepsTheStyleOfEveryFamily) {
+  // They call their upright style by different names.
+  for (const char* family : {"DejaVu Sans Mono", "DejaVu Sans", "Liberation Mono"}) {
+    for (const bool bold : {false, true}) {
+      for (const bool italic : {false, true}) {
+        const CharFormat format{.FontName = family, .Bold = bold, .Italic = italic};
+        EXPECT_EQ(Ask(format, Accept), format) << family << bold << italic;
+      }
+    }
+  }
+}
+
 TEST_F(FontWindowOnScreen, KeepsAFontThatTheMachineDoesNotHave) {
   const CharFormat missing{.FontName = "No Such Family", .FontSize = 9};
   EXPECT_EQ(Ask(missing, Accept), missing);
   EXPECT_EQ(Ask({}, Accept), CharFormat());
+}
+
+TEST_F(FontWindowOnScreen, ShowsWhatStandsForAMissingFont) {
+  Ask({.FontName = "Lucida Console"},
+      [](QDialog& window) { EXPECT_TRUE(QFontInfo(Fonts(window).currentFont()).fixedPitch()); });
 }
 
 TEST_F(FontWindowOnScreen, KeepsASizeBetweenWholePoints) {
@@ -67,8 +114,9 @@ TEST_F(FontWindowOnScreen, KeepsASizeBetweenWholePoints) {
 
 TEST_F(FontWindowOnScreen, ReturnsWhatWasChosen) {
   const std::optional<CharFormat> chosen = Ask(present, [](QDialog& window) {
-    QFont font(QStringLiteral("DejaVu Sans Mono"), 20);
-    Fonts(window).setCurrentFont(font);
+    PickRow(List(window, 0), "DejaVu Sans Mono");
+    PickRow(List(window, 1), "Book");
+    PickRow(List(window, 2), "20");
     const OnceModal<QColorDialog> once([](QColorDialog& dialog) {
       EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
       dialog.setCurrentColor(QColor(1, 2, 3));
@@ -78,33 +126,43 @@ TEST_F(FontWindowOnScreen, ReturnsWhatWasChosen) {
     EXPECT_TRUE(once.Acted());
     Accept(window);
   });
-  EXPECT_EQ(chosen,
-            (CharFormat{.FontName = "DejaVu Sans Mono", .FontSize = 20, .TextColor = 0x030201}));
+  ASSERT_TRUE(chosen.has_value());
+  EXPECT_EQ(chosen->FontName, "DejaVu Sans Mono");
+  EXPECT_EQ(chosen->FontSize, 20);
+  EXPECT_FALSE(chosen->Bold || chosen->Italic);
+  EXPECT_TRUE(chosen->Underline && chosen->StrikeThru);
+  EXPECT_EQ(chosen->TextColor, Color{0x030201});
+}
+
+TEST_F(FontWindowOnScreen, TakesAnotherSizeOfAFontThatIsMissing) {
+  const std::optional<CharFormat> chosen = Ask({.FontName = "No Such Family"}, [](QDialog& window) {
+    PickRow(List(window, 2), "20");
+    Accept(window);
+  });
+  EXPECT_EQ(chosen, (CharFormat{.FontName = "No Such Family", .FontSize = 20}));
 }
 
 TEST_F(FontWindowOnScreen, ReturnsNothingOnCancel) {
-  EXPECT_EQ(Ask(present,
-                [](QDialog& window) { Click(StandardButton(window, QDialogButtonBox::Cancel)); }),
+  EXPECT_EQ(Ask(present, [](QDialog& window) { Click(Button(window, QDialogButtonBox::Cancel)); }),
             std::nullopt);
 }
 
-TEST_F(FontWindowOnScreen, TakesEnterAndEscapeInItsLists) {
-  const auto inLists = [this](Qt::Key key, bool accepted) {
-    for (int list = 0; list < 3; ++list) {
+TEST_F(FontWindowOnScreen, TakesEnterAndEscapeEverywhere) {
+  const auto everywhere = [this](Qt::Key key, bool accepted) {
+    for (int place = 0; place < 4; ++place) {
       bool closed = false;
       const std::optional<CharFormat> chosen = Ask(present, [&](QDialog& window) {
-        const QList<QListView*> lists = Fonts(window).findChildren<QListView*>();
-        ASSERT_GE(lists.size(), 3);
-        lists[list]->setFocus();
-        QTest::keyClick(lists[list], key);
-        closed = !window.isVisible();
+        QWidget& widget = place < 3 ? static_cast<QWidget&>(List(window, place)) : SizeEdit(window);
+        widget.setFocus();
+        QTest::keyClick(&widget, key);
+        closed = Soon([&window] { return !window.isVisible(); });
       });
-      EXPECT_TRUE(closed) << list;
-      EXPECT_EQ(chosen.has_value(), accepted) << list;
+      EXPECT_TRUE(closed) << place;
+      EXPECT_EQ(chosen.has_value(), accepted) << place;
     }
   };
-  inLists(Qt::Key_Escape, false);
-  inLists(Qt::Key_Return, true);
+  everywhere(Qt::Key_Escape, false);
+  everywhere(Qt::Key_Return, true);
 }
 
 }  // namespace

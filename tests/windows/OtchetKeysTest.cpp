@@ -181,7 +181,7 @@ TEST_F(OtchetWindowKeys, SelectAllAboveAndBelow) {
 }
 
 TEST_F(OtchetWindowKeys, DoNothingByOtherCombinationsWithControl) {
-  Hold("ab\r\ncd", 1, 2);
+  Hold("ab\r\ncd", 0, 2);
   const std::string others = "DEGHIJKLMNQUWY0123456789";
   for (const char key : others) {
     Key(static_cast<Qt::Key>(key), control);
@@ -192,7 +192,7 @@ TEST_F(OtchetWindowKeys, DoNothingByOtherCombinationsWithControl) {
   }
   EXPECT_EQ(Box->Text(), "ab\r\ncd");
   EXPECT_EQ(Shown(), "ab\ncd");
-  EXPECT_EQ(Selection(), (TextSpan{1, 2}));
+  EXPECT_EQ(Selection(), (TextSpan{0, 2}));
   EXPECT_EQ(Form->Undo.UndoCount(), 0);
   EXPECT_EQ(FromQt(Window->windowTitle()), "Vestra");
   EXPECT_EQ(Said(), Texts());

@@ -64,7 +64,7 @@ TEST_F(OtchetWindowOnScreen, TakesPlaceAndLookFromTheSettings) {
   EXPECT_EQ(Place(), QRect(100, 50, 500, 400));
   EXPECT_TRUE(ToolBar().isVisible());
   EXPECT_FALSE(Window->statusBar()->isVisible());
-  EXPECT_EQ(Edit().lineWrapMode(), QTextEdit::FixedPixelWidth);
+  EXPECT_EQ(Edit().lineWrapMode(), QTextEdit::NoWrap);
   EXPECT_EQ(Edit().palette().color(QPalette::Base), QColor(255, 255, 0));
   EXPECT_TRUE(Entry("mnuViewToolbar").isChecked());
   EXPECT_FALSE(Entry("mnuViewStatusbar").isChecked());
@@ -147,8 +147,8 @@ TEST_F(OtchetWindowOnScreen, TellsItsStateInTheStatusBar) {
 
 TEST_F(OtchetWindowOnScreen, HasTheTitleOfTheForm) {
   Start();
-  Form->Form.SetCaption("отчет [*].rtf");
-  EXPECT_EQ(FromQt(Window->windowTitle()), "отчет [*].rtf");
+  Form->Form.SetCaption("отчет 1.rtf");
+  EXPECT_EQ(FromQt(Window->windowTitle()), "отчет 1.rtf");
   Trigger("mnuFileNew");
   EXPECT_EQ(FromQt(Window->windowTitle()), "Untitled.txt");
 }

@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "apps/Program.h"
+#include "drawing/host/BuiltInHost.h"
+#include "drawing/host/DxfWriter.h"
+#include "resources/EmbeddedResources.h"
+#include "tests/support/TestServices.h"
+
+namespace trelonit::test {
+namespace {
+
+constexpr Integer calculateTab = 2;
+
+/// The whole program over an outside world in memory, with a drawing host or without.
+class WholeProgram : public ::testing::Test {
+ protected:
+  explicit WholeProgram(bool withHost = true)
+      : program(
+            {world.Messages, world.Dialogs, world.Clipboard, world.Settings, world.Registry,
+             withHost ? static_cast<AutomationService&>(automation) : world.Automation, world.Shell,
+             world.Clock, resources, world.Files, world.Locale, world.ProgramFolder},
+            {.ShowOtchet = [this](frmOtchetMain& form) { Show(form); },
+             .ShowDrawings = [this] { ++drawingsShown; }}) {
+    program.Main().Form_Load();
+    program.Main().tabMain.SetTab(calculateTab);
+    world.Messages.Shown.clear();
+  }
+
+  /// What the user does in the document window while it is open.
+  void Show(frmOtchetMain& form) {
+    form.Form_Activate();
+    if (inWindow) {
+      inWindow(form);
+    }
+  }
+  std::string Drawn() const { return WriteDxf(*host.ActiveDocument()); }
+
+  EmbeddedResources resources;
+  World world{resources};
+  BuiltInHost host;
+  BuiltInHostAutomation automation{host};
+  Program program;
+  std::function<void(frmOtchetMain&)> inWindow;
+  int drawingsShown = 0;
+};
+
+class WithoutHost : public WholeProgram {
+ protected:
+  WithoutHost() : WholeProgram(false) {}
+};
+
+TEST_F(WholeProgram, FillsTheDocumentWindowWithTheReport) {
+  std::string text;
+  inWindow = [&](frmOtchetMain& form) { text = form.RTF.Text(); };
+  program.Main().cmdShowResults_Click();
+  std::string pieces;
+  for (const ReportPiece& piece : program.Report()) {
+    pieces += piece.Text;
+  }
+  EXPECT_TRUE(text.starts_with("\r\nРасчет фермы\r\n"));
+  EXPECT_EQ(text, pieces);
+}
+
+TEST_F(WholeProgram, DrawsWhatTheReportTellsWhateverTheInputsHaveBecome) {
+  std::string first;
+  std::string second;
+  inWindow = [&](frmOtchetMain& form) {
+    form.mnuFileAutoCAD_Click();
+    first = Drawn();
+    program.Main().txtLengthF.SetText("33");
+    program.Main().txtHight.SetText("3");
+    form.mnuFileAutoCAD_Click();
+    second = Drawn();
+    EXPECT_EQ(form.SBPanels[frmOtchetMain::messagePanel].Caption(), "AutoCAD connected");
+  };
+  program.Main().cmdShowResults_Click();
+  EXPECT_EQ(host.Documents().size(), 2U);
+  EXPECT_EQ(drawingsShown, 2);
+  EXPECT_EQ(first, second);
+  EXPECT_TRUE(world.Messages.Shown.empty());
+}
+
+TEST_F(WholeProgram, OffersADrawingOnlyAfterAReport) {
+  world.Files.Content["/a.txt"] = "text";
+  bool before = true;
+  inWindow = [&](frmOtchetMain& form) { before = form.mnuFileAutoCAD.Enabled(); };
+  program.OpenDocument("/a.txt");
+  EXPECT_FALSE(before);
+  program.Main().cmdShowResults_Click();
+  EXPECT_TRUE(before);
+}
+
+TEST_F(WholeProgram, OpensTheDocumentOfTheCommandLineThisOnce) {
+  world.Files.Content["/a b.txt"] = "text";
+  std::vector<std::string> names;
+  std::string text;
+  inWindow = [&](frmOtchetMain& form) {
+    names.push_back(form.FileName());
+    text = form.RTF.Text();
+  };
+  program.OpenDocument("\"/a b.txt\"");
+  EXPECT_EQ(text, "text");
+  program.Main().cmdShowResults_Click();
+  EXPECT_TRUE(text.starts_with("\r\nРасчет фермы\r\n"));
+  EXPECT_EQ(names, (std::vector<std::string>{"/a b.txt", ""}));
+}
+
+TEST_F(WithoutHost, TellsThatNothingCanBeDrawn) {
+  inWindow = [&](frmOtchetMain& form) {
+    form.mnuFileAutoCAD_Click();
+    EXPECT_EQ(form.SBPanels[frmOtchetMain::messagePanel].Caption(), "No AutoCAD connect");
+  };
+  program.Main().cmdShowResults_Click();
+  EXPECT_EQ(
+      world.Messages.Shown,
+      (std::vector<Message>{{.Text = "No AutoCAD connect", .Style = MessageStyle::Critical}}));
+  EXPECT_TRUE(host.Documents().empty());
+}
+
+}  // namespace
+}  // namespace trelonit::test
