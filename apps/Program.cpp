@@ -66,17 +66,34 @@ bool Program::OpenSearch(const SelectionProposal& proposal) {
 }
 
 frmOtchetMain& Program::NewOtchet(const std::string& commandLine) {
+  export_.reset();
   otchet_.reset();
   richText_ =
       windows_.MakeRichText ? windows_.MakeRichText() : std::make_unique<MemoryRichTextBox>();
   CommonDialogs& dialogs = windows_.Dialogs != nullptr ? *windows_.Dialogs : noDialogs_;
-  otchet_.emplace(
-      services_, *richText_, dialogs,
-      frmOtchetMain::Openers{
-          .ShowFind = windows_.ShowFind, .ShowDate = windows_.ShowDate, .ExportToDrawing = {}},
-      commandLine);
+  // Before the first report there is nothing to draw.
+  const auto drawable =
+      snapshot_ ? std::function<void()>([this] { DrawReported(); }) : std::function<void()>();
+  otchet_.emplace(services_, *richText_, dialogs,
+                  frmOtchetMain::Openers{.ShowFind = windows_.ShowFind,
+                                         .ShowDate = windows_.ShowDate,
+                                         .ExportToDrawing = drawable},
+                  commandLine);
+  if (snapshot_) {
+    export_.emplace(
+        services_.Automation, services_.Messages, services_.Locale,
+        DrawnDesign{snapshot_->TreloData, snapshot_->TreloResult, snapshot_->ElementSection},
+        otchet_->SBPanels[frmOtchetMain::messagePanel]);
+  }
   otchet_->Form_Load();
   return *otchet_;
+}
+
+void Program::DrawReported() {
+  export_->mnuFileAutoCAD_Click();
+  if (windows_.ShowDrawings) {
+    windows_.ShowDrawings();
+  }
 }
 
 void Program::AppendOtchet(const ReportPiece& piece) {

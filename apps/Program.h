@@ -9,6 +9,7 @@
 #include "catalogue/frmDataManager.h"
 #include "checks/frmParamerty.h"
 #include "checks/frmSteel.h"
+#include "drawing/modACADExport.h"
 #include "editor/frmOtchetMain.h"
 #include "platform/Services.h"
 #include "workstation/frmAbout.h"
@@ -34,6 +35,8 @@ class Program {
     /// Beside the document window, which goes on.
     std::function<void(frmFind&)> ShowFind;
     std::function<void(frmDate&)> ShowDate;
+    /// After a drawing has been made: shows what the built-in drawing host holds.
+    std::function<void()> ShowDrawings;
     /// An empty box for a document; without it documents are kept in memory.
     std::function<std::unique_ptr<RichTextBox>()> MakeRichText;
     /// Null where the machine has none. They outlive the program.
@@ -62,6 +65,7 @@ class Program {
   /// A document window as it opens, with an empty document.
   frmOtchetMain& NewOtchet(const std::string& commandLine);
   void AppendOtchet(const ReportPiece& piece);
+  void DrawReported();
   void ShowOtchet();
 
   Services services_;
@@ -73,6 +77,8 @@ class Program {
   NoCommonDialogs noDialogs_;
   std::unique_ptr<RichTextBox> richText_;
   std::optional<frmOtchetMain> otchet_;
+  // Draws the snapshot; goes with its document window.
+  std::optional<ACADExport> export_;
   frmKoeffOfUse koeffOfUse_;
   frmAbout about_;
   frmSearch search_;

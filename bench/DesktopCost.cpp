@@ -69,6 +69,19 @@ void AddEditorRows(Table& table, const Environment& environment) {
             more / type, linear, "x");
 }
 
+void AddDrawingRows(Table& table, const Environment& environment) {
+  constexpr double frameAtSixty = 1000.0 / 60;
+  double whole = 1e9;
+  double close = 1e9;
+  for (int run = 0; run < calculateRuns; ++run) {
+    const std::vector<Report> told = RunReportingProcess({TRELONIT_DRAWING_WORK}, environment);
+    whole = std::min(whole, Told(told, "panned").Value);
+    close = std::min(close, Told(told, "closepanned").Value);
+  }
+  table.Row("drawing n = 30, a frame while it is moved", whole, frameAtSixty, "ms");
+  table.Row("the same six times larger", close, frameAtSixty, "ms");
+}
+
 }  // namespace
 
 void AddDesktopRows(Table& table) {
@@ -111,6 +124,7 @@ void AddDesktopRows(Table& table) {
   table.Row("Calculate n = 30 to the shown results", calculate, 50, "ms");
   table.Row("report n = 30 to its shown window", report, 150, "ms");
   AddEditorRows(table, offScreen);
+  AddDrawingRows(table, offScreen);
   table.Row("desktop program, memory after start", memory, 120, "MB");
   table.Row("desktop program, memory after Calculate", memoryAfter, 120, "MB");
 }

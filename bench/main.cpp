@@ -16,6 +16,9 @@
 #include "bench/ProcessCost.h"
 #include "bench/Table.h"
 #include "catalogue/modProfileData.h"
+#include "drawing/host/BuiltInHost.h"
+#include "drawing/host/DxfWriter.h"
+#include "drawing/modACADExport.h"
 #include "workstation/Selection.h"
 
 namespace {
@@ -149,6 +152,24 @@ void Selection(benchmark::State& state) {
   }
 }
 
+/// Both schemes in a new drawing of the built-in host, and the drawing as a file.
+void DrawingExport(benchmark::State& state, Long scheme) {
+  bench::World world;
+  const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
+  const SectionArray sections = bench::PairedAngles(catalogue);
+  const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
+  const TreloResult result = CalcTrelo(data, world.Messages);
+  for (auto _ : state) {
+    BuiltInHost host;
+    BuiltInHostAutomation automation(host);
+    Label panel;
+    ACADExport(automation, world.Messages, {}, {data, result, sections}, panel)
+        .mnuFileAutoCAD_Click();
+    std::string file = WriteDxf(*host.ActiveDocument());
+    benchmark::DoNotOptimize(file);
+  }
+}
+
 /// Keeps the smallest time of each name, in nanoseconds: what the machine's other work adds is not
 /// the program's.
 class SmallestTimes : public benchmark::BenchmarkReporter {
@@ -186,6 +207,7 @@ void Register() {
     add(Name("Solver", scheme), Solver, scheme);
     add(Name("UnitRuns", scheme), UnitRuns, scheme);
     add(Name("Deflection", scheme), Deflection, scheme);
+    add(Name("DrawingExport", scheme), DrawingExport, scheme);
   }
   add("MemberCheck", MemberCheck);
   add("CatalogueLoad", CatalogueLoad);
@@ -219,6 +241,11 @@ int Measure(int argc, char** argv) {
   table.Row("loading the catalogue", times["CatalogueLoad"] / 1e6, 3, "ms");
   table.Row("selection, five groups to the end of the largest standard", times["Selection"] / 1e6,
             20, "ms");
+
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    table.Row("drawing n = 30, scheme " + std::to_string(scheme) + ", to its finished DXF",
+              times[Name("DrawingExport", scheme)] / 1e6, 30, "ms");
+  }
 
   bench::ProcessCost best{.Milliseconds = 1e9};
   for (int run = 0; run < 20; ++run) {

@@ -1,14 +1,12 @@
-#include <algorithm>
 #include <array>
 #include <optional>
-#include <string_view>
 #include <utility>
 
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
+#include "apps/cli/OutputFile.h"
 #include "editor/HtmlWriter.h"
 #include "editor/RtfReader.h"
-#include "platform/RuntimeError.h"
 
 namespace trelonit::cli {
 
@@ -33,12 +31,6 @@ std::string AsLines(const Pieces& pieces) {
   return text;
 }
 
-bool EndsWith(std::string_view name, std::string_view extension) {
-  return name.size() > extension.size() &&
-         std::equal(extension.rbegin(), extension.rend(), name.rbegin(),
-                    [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b - 'A' + 'a' : b); });
-}
-
 enum class ReportForm { Lines, Text, Page, RichText, Pdf };
 
 /// By the output's name; nothing for an unknown extension.
@@ -50,21 +42,11 @@ std::optional<ReportForm> FormOf(const std::string& output) {
   constexpr std::array forms{Named{".txt", ReportForm::Text}, Named{".html", ReportForm::Page},
                              Named{".rtf", ReportForm::RichText}, Named{".pdf", ReportForm::Pdf}};
   for (const auto& [extension, form] : forms) {
-    if (EndsWith(output, extension)) {
+    if (HasExtension(output, extension)) {
       return form;
     }
   }
   return std::nullopt;
-}
-
-Status Write(const std::string& file, const std::string& bytes) {
-  try {
-    DiskFiles().ReplaceFile(file, bytes);
-  } catch (const RuntimeError& error) {
-    std::cerr << "trelonit-cli: файл «" << file << "» не записан: " << error.Description() << "\n";
-    return Status::Failed;
-  }
-  return Status::Done;
 }
 
 }  // namespace
@@ -95,13 +77,13 @@ Status RunReport(const ReportOptions& options, const Paper& paper) {
     case ReportForm::Lines:
       return Print(AsLines(pieces));
     case ReportForm::Text:
-      return Write(options.Output, AsText(pieces));
+      return WriteOutput(options.Output, AsText(pieces));
     case ReportForm::Page:
-      return Write(options.Output, WriteHtml(ReadRtf(richText), reportTitle));
+      return WriteOutput(options.Output, WriteHtml(ReadRtf(richText), reportTitle));
     case ReportForm::RichText:
-      return Write(options.Output, richText);
+      return WriteOutput(options.Output, richText);
     case ReportForm::Pdf:
-      return Write(options.Output, paper.Pdf(ReadRtf(richText), reportTitle));
+      return WriteOutput(options.Output, paper.Pdf(ReadRtf(richText), reportTitle));
   }
   return Status::Failed;
 }

@@ -14,8 +14,8 @@
 namespace trelonit {
 
 DesktopSession::DesktopSession()
-    : program_({messages_, dialogs_, clipboard_, settings_, registry_, automation_, shell_, clock_,
-                resources_, files_, DesktopNumberLocale(), FindProgramFolder()},
+    : program_({messages_, dialogs_, clipboard_, settings_, registry_, drawings_.Automation(),
+                shell_, clock_, resources_, files_, DesktopNumberLocale(), FindProgramFolder()},
                MakeWindows()) {}
 
 Program::Windows DesktopSession::MakeWindows() {
@@ -28,6 +28,7 @@ Program::Windows DesktopSession::MakeWindows() {
           .ShowOtchet = [this](frmOtchetMain& form) { ShowOtchet(form); },
           .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
           .ShowDate = [this](frmDate& form) { DateWindow(form, otchet_.get()).exec(); },
+          .ShowDrawings = [this] { drawings_.ShowDrawings(otchet_.get()); },
           .MakeRichText =
               [this] {
                 auto box = std::make_unique<QtRichTextBox>();

@@ -5,6 +5,7 @@
 #include "windows/ConversionProgress.h"
 #include "windows/DesktopServices.h"
 #include "windows/DocumentDialogs.h"
+#include "windows/DrawingDesk.h"
 #include "windows/MainWindow.h"
 #include "windows/OfficeAutomation.h"
 #include "windows/OtchetWindow.h"
@@ -42,7 +43,8 @@ class DesktopSession {
   SystemClock clock_;
   EmbeddedResources resources_;
   DiskFiles files_;
-  OfficeAutomation automation_{clipboard_, files_, {.Watch = ShowConversionProgress}};
+  OfficeAutomation office_{clipboard_, files_, {.Watch = ShowConversionProgress}};
+  DrawingDesk drawings_{&office_};
   DocumentDialogs documentDialogs_;
   Program program_;
   // The box of the present document; the program owns it.

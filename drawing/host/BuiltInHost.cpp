@@ -103,21 +103,33 @@ void BuiltInHost::Close(const std::shared_ptr<Drawing>& drawing) {
 }
 
 AutomationHandle BuiltInHostAutomation::Create(const std::string& programIdentifier) {
-  if (programIdentifier != drawingHostIdentifier) {
-    return Next().Create(programIdentifier);
-  }
-  running_ = true;
-  return host_.Application();
+  return RealHostFirst(programIdentifier, &AutomationService::Create, [this] {
+    running_ = true;
+    return host_.Application();
+  });
 }
 
 AutomationHandle BuiltInHostAutomation::GetRunning(const std::string& programIdentifier) {
+  return RealHostFirst(programIdentifier, &AutomationService::GetRunning, [this] {
+    if (!running_) {
+      throw RuntimeError(ErrorNumber::CannotCreateObject);
+    }
+    return host_.Application();
+  });
+}
+
+AutomationHandle BuiltInHostAutomation::RealHostFirst(
+    const std::string& programIdentifier,
+    AutomationHandle (AutomationService::*reach)(const std::string&),
+    const std::function<AutomationHandle()>& own) {
   if (programIdentifier != drawingHostIdentifier) {
-    return Next().GetRunning(programIdentifier);
+    return (Next().*reach)(programIdentifier);
   }
-  if (!running_) {
-    throw RuntimeError(ErrorNumber::CannotCreateObject);
+  try {
+    return (Next().*reach)(programIdentifier);
+  } catch (const RuntimeError&) {
+    return own();
   }
-  return host_.Application();
 }
 
 AutomationService& BuiltInHostAutomation::Next() const {

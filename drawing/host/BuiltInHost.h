@@ -62,8 +62,9 @@ class BuiltInHost {
 /// The program identifier that the built-in host answers to.
 constexpr const char* drawingHostIdentifier = "AutoCAD.Application";
 
-/// Hands out a built-in host under the drawing program's name; other names go on to the next
-/// service. The host runs from its first Create on, and each further one gives the same.
+/// Hands out a built-in host under the drawing program's name where the next service has no such
+/// program; other names go on to that service. The host runs from its first Create on, and each
+/// further one gives the same.
 class BuiltInHostAutomation : public AutomationService {
  public:
   /// Keeps references: host and next service outlive it. Without a next one other names raise 429.
@@ -74,6 +75,9 @@ class BuiltInHostAutomation : public AutomationService {
   AutomationHandle GetRunning(const std::string& programIdentifier) override;
 
  private:
+  AutomationHandle RealHostFirst(const std::string& programIdentifier,
+                                 AutomationHandle (AutomationService::*reach)(const std::string&),
+                                 const std::function<AutomationHandle()>& own);
   AutomationService& Next() const;
 
   BuiltInHost& host_;

@@ -67,7 +67,8 @@ class CommaLocale : public CalcJsonTest {
   Launch Here(Launch launch) const {
     launch.Environment["LOCPATH"] = LocaleFolder().string();
     launch.Environment["LC_ALL"] = localeName;
-    // The C library never frees the parts of LOCPATH, which a build that looks for leaks would tell.
+    // The C library never frees the parts of LOCPATH, which a build that looks for leaks would
+    // tell.
     launch.Environment["ASAN_OPTIONS"] = "detect_leaks=0";
     return launch;
   }

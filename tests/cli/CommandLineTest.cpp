@@ -22,6 +22,7 @@ const std::vector<Arguments>& Commands() {
       {"calc"},
       {"select"},
       {"report"},
+      {"draw"},
       {"catalogue"},
       {"catalogue", "list"},
       {"catalogue", "show"},
@@ -62,10 +63,10 @@ std::set<std::string> LatinWords(const std::string& text) {
 /// Names that stand in the help as they are typed or as the code has them.
 const std::set<std::string>& LatinNames() {
   static const std::set<std::string> names{
-      "trelonit", "cli", "new",  "calc", "select",  "catalogue", "list", "show",
-      "verify",   "h",   "help", "o",    "version", "output",    "f",    "force",
-      "json",     "bar", "tsav", "FILE", "JSON",    "STANDARD",  "SIZE", "BarForce",
-      "report",   "txt", "rtf",  "pdf",  "html",    "A",         "Jy",   "Jz"};
+      "trelonit", "cli",  "new",  "calc",     "select", "catalogue", "list",   "show", "verify",
+      "h",        "help", "o",    "version",  "output", "f",         "force",  "json", "bar",
+      "tsav",     "FILE", "JSON", "STANDARD", "SIZE",   "BarForce",  "report", "txt",  "rtf",
+      "pdf",      "html", "A",    "Jy",       "Jz",     "draw",      "dxf",    "svg",  "png"};
   return names;
 }
 
@@ -237,10 +238,12 @@ TEST_F(CommandLine, NamesEveryCommandAndOptionInItsHelp) {
           << Typed(command) << ": " << name;
     }
   };
-  expectNamed({}, {"new", "calc", "select", "report", "catalogue"});
+  expectNamed({}, {"new", "calc", "select", "report", "draw", "catalogue"});
   expectNamed({"new"}, {"-o,--output", "-f,--force"});
   expectNamed({"calc"}, {"FILE", "--json", "--bar-force"});
   expectNamed({"select"}, {"FILE", "-o,--output", "-f,--force", "--json"});
+  expectNamed({"report"}, {"FILE", "-o,--output"});
+  expectNamed({"draw"}, {"FILE", "-o,--output"});
   expectNamed({"catalogue"}, {"list", "show", "verify"});
   expectNamed({"catalogue", "verify"}, {"[FILE]"});
   expectNamed({"catalogue", "show"}, {"STANDARD", "SIZE", "[SIZE]"});

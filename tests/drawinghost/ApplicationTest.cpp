@@ -1,3 +1,4 @@
+#include "platform/console/ConsoleServices.h"
 #include "tests/drawinghost/HostDesk.h"
 
 namespace trelonit::test {
@@ -47,9 +48,25 @@ TEST(BuiltInHostAutomation, HandsOtherNamesOn) {
   BuiltInHostAutomation automation(host, &others);
   EXPECT_EQ(automation.Create("Word.Application"), others.Object);
   EXPECT_EQ(automation.GetRunning("Word.Application"), others.Object);
-  EXPECT_EQ(automation.Create("AutoCAD.Application"), host.Application());
   EXPECT_EQ(others.Created, std::vector<std::string>{"Word.Application"});
   EXPECT_EQ(others.Asked, std::vector<std::string>{"Word.Application"});
+}
+
+TEST(BuiltInHostAutomation, GivesWayToTheRealHost) {
+  BuiltInHost host;
+  OtherPrograms real;
+  BuiltInHostAutomation automation(host, &real);
+  EXPECT_EQ(automation.GetRunning("AutoCAD.Application"), real.Object);
+  EXPECT_EQ(automation.Create("AutoCAD.Application"), real.Object);
+}
+
+TEST(BuiltInHostAutomation, StandsInWhereTheNextServiceHasNoDrawingHost) {
+  BuiltInHost host;
+  NoAutomation others;
+  BuiltInHostAutomation automation(host, &others);
+  EXPECT_EQ(RaisedBy([&] { automation.GetRunning("AutoCAD.Application"); }), 429);
+  EXPECT_EQ(automation.Create("AutoCAD.Application"), host.Application());
+  EXPECT_EQ(automation.GetRunning("AutoCAD.Application"), host.Application());
 }
 
 TEST(Application, BecomesVisibleOnlyWhenToldSo) {

@@ -1,0 +1,89 @@
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "apps/cli/Calculation.h"
+#include "apps/cli/Commands.h"
+#include "apps/cli/OutputFile.h"
+#include "drawing/host/BuiltInHost.h"
+#include "drawing/host/DxfWriter.h"
+#include "drawing/modACADExport.h"
+#include "platform/RuntimeError.h"
+
+namespace trelonit::cli {
+
+namespace {
+
+using Writer = std::function<std::string(const Drawing&)>;
+
+struct DrawingForm {
+  const char* Extension;
+  /// Empty where this program cannot make it.
+  Writer Write;
+};
+
+/// By the output's name; nothing for an unknown extension.
+std::optional<DrawingForm> FormOf(const std::string& output, const Paper& paper) {
+  const std::array forms{DrawingForm{".dxf", WriteDxf}, DrawingForm{".svg", paper.DrawingSvg},
+                         DrawingForm{".pdf", paper.DrawingPdf},
+                         DrawingForm{".png", paper.DrawingPng}};
+  for (const DrawingForm& form : forms) {
+    if (HasExtension(output, form.Extension)) {
+      return form;
+    }
+  }
+  return std::nullopt;
+}
+
+/// Both schemes of the design; null where a message told why not all of it could be drawn.
+std::shared_ptr<Drawing> Drawn(const ReportSnapshot& design) {
+  BuiltInHost host;
+  BuiltInHostAutomation automation(host);
+  ConsoleMessages messages(std::cerr);
+  Label panel;
+  ACADExport(automation, messages, SystemNumberLocale(),
+             {design.TreloData, design.TreloResult, design.ElementSection}, panel)
+      .mnuFileAutoCAD_Click();
+  return messages.Shown().empty() ? host.ActiveDocument() : nullptr;
+}
+
+/// The drawing of the report that the session makes.
+std::shared_ptr<Drawing> DrawnProject(const std::string& project) {
+  bool shown = false;
+  ConsoleSession session(MessageAnswer::No,
+                         {.ShowOtchet = [&shown](frmOtchetMain&) { shown = true; }});
+  if (!Restore(session, project)) {
+    return nullptr;
+  }
+  session.Main().cmdShowResults_Click();
+  const std::optional<ReportSnapshot>& design = session.TheProgram().Snapshot();
+  return shown && !session.MetRuntimeError() && design ? Drawn(*design) : nullptr;
+}
+
+}  // namespace
+
+Status RunDraw(const DrawOptions& options, const Paper& paper) {
+  const std::optional<DrawingForm> form = FormOf(options.Output, paper);
+  if (!form) {
+    std::cerr << "trelonit-cli: вид чертежа «" << options.Output
+              << "» неизвестен: нужен файл .dxf, .svg, .pdf или .png\n";
+    return Status::WrongUsage;
+  }
+  if (!form->Write) {
+    return paper.HandOver();
+  }
+  const std::shared_ptr<Drawing> drawing = DrawnProject(options.Project);
+  if (drawing == nullptr) {
+    return Status::Failed;
+  }
+  std::string bytes;
+  try {
+    bytes = form->Write(*drawing);
+  } catch (const RuntimeError& error) {
+    std::cerr << "trelonit-cli: чертёж не сделан: " << error.Description() << "\n";
+    return Status::Failed;
+  }
+  return WriteOutput(options.Output, bytes);
+}
+
+}  // namespace trelonit::cli
