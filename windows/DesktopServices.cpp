@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLocale>
@@ -10,7 +9,6 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QSettings>
-#include <QUrl>
 #include <algorithm>
 
 #include "editor/HtmlWriter.h"
@@ -18,6 +16,8 @@
 #include "editor/RtfWriter.h"
 #include "platform/RuntimeError.h"
 #include "windows/Binding.h"
+#include "windows/HelpWindow.h"
+#include "windows/HtmlHelp.h"
 #include "windows/RichDocumentHtml.h"
 #include "workstation/ApplicationInfo.h"
 
@@ -173,10 +173,12 @@ void DesktopShell::StartProgram(const std::string& path) {
   }
 }
 
-void DesktopShell::OpenHelp(const std::string& path) {
-  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)))) {
-    throw RuntimeError(ErrorNumber::FileNotFound);
-  }
+void DesktopShell::OpenHelp([[maybe_unused]] const std::string& path) {
+#ifdef _WIN32
+  ShowHtmlHelp(path);
+#else
+  help_.Open();
+#endif
 }
 
 NumberLocale DesktopNumberLocale() {

@@ -7,6 +7,8 @@
 
 namespace trelonit {
 
+class HelpViewer;
+
 // The services of a desktop, by Qt.
 
 /// Message boxes, modal to the window that is in front.
@@ -43,8 +45,15 @@ class DesktopSettings : public SettingsService {
 /// Names are the system's, as on the console; programs and help open in windows.
 class DesktopShell : public ConsoleShell {
  public:
+  /// The viewer outlives the shell.
+  explicit DesktopShell(HelpViewer& help) : help_(help) {}
   void StartProgram(const std::string& path) override;
+  /// On Windows the system's viewer opens the file. Elsewhere the program's own window shows the
+  /// pages that the file was compiled from, for a viewer of such files is seldom there.
   void OpenHelp(const std::string& path) override;
+
+ private:
+  HelpViewer& help_;
 };
 
 /// The separators of the desktop's locale.

@@ -18,6 +18,7 @@
 #include "platform/RuntimeError.h"
 #include "windows/Binding.h"
 #include "windows/DrawingLayers.h"
+#include "windows/HelpKey.h"
 #include "windows/PictureIcon.h"
 
 namespace trelonit {
@@ -31,6 +32,7 @@ constexpr int layersWidth = 200;
 DrawingWindow::DrawingWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
   setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
   setContextMenuPolicy(Qt::NoContextMenu);
+  SetHelpPlace(*this, help_place::Drawing);
   AddTabs();
   AddLayers();
   AddMenus();

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "windows/Binding.h"
+#include "windows/HelpKey.h"
 #include "windows/LoadTab.h"
 #include "windows/LockKeys.h"
 #include "windows/SchemeTab.h"
@@ -71,6 +72,9 @@ void MainWindow::AddTabs() {
   tabs->addTab(new SchemeTab(form_), QStringLiteral("Параметры фермы"));
   sectionPage_ = AddPage(tabs, QStringLiteral("Сечение элементов"));
   loadPage_ = AddPage(tabs, QStringLiteral("Вычислить"));
+  SetHelpPlace(*tabs->widget(0), help_place::Scheme);
+  SetHelpPlace(*sectionPage_, help_place::Sections);
+  SetHelpPlace(*loadPage_, help_place::Loads);
   QObject::connect(tabs, &QTabWidget::currentChanged, this, [this] { CompleteTabs(); });
   Bind(form_.tabMain, tabs);
   setCentralWidget(tabs);

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "windows/Binding.h"
+#include "windows/HelpKey.h"
 #include "windows/PictureIcon.h"
 
 namespace trelonit {
@@ -77,6 +78,7 @@ EntryDress DressOf(const std::string& name) {
 OtchetWindow::OtchetWindow(frmOtchetMain& form, QtRichTextBox& box, QWidget* parent)
     : QMainWindow(parent, Qt::Window), form_(form), box_(box) {
   setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
+  SetHelpPlace(*this, help_place::Otchet);
   AddMenus();
   AddToolBar();
   AddDocument();
@@ -247,6 +249,7 @@ void OtchetWindow::ShowFind(frmFind& form) {
   if (find_ == nullptr) {
     find_ = new FindWindow(form, this);
     find_->setAttribute(Qt::WA_DeleteOnClose);
+    SetHelpPlace(*find_, help_place::Find);
     PlaceBeside(*find_);
   }
   find_->show();

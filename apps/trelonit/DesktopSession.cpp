@@ -6,6 +6,7 @@
 #include "windows/AboutWindow.h"
 #include "windows/DataManagerWindow.h"
 #include "windows/DateWindow.h"
+#include "windows/HelpFile.h"
 #include "windows/KoeffOfUseWindow.h"
 #include "windows/ParamertyWindow.h"
 #include "windows/SearchWindow.h"
@@ -19,15 +20,20 @@ DesktopSession::DesktopSession()
                MakeWindows()) {}
 
 Program::Windows DesktopSession::MakeWindows() {
-  return {.ShowKoeffOfUse = Modal<KoeffOfUseWindow, frmKoeffOfUse>(),
-          .ShowAbout = Modal<AboutWindow, frmAbout>(),
-          .ShowSearch = Modal<SearchWindow, frmSearch>(),
-          .ShowSteel = Modal<SteelWindow, frmSteel>(),
-          .ShowParamerty = Modal<ParamertyWindow, frmParamerty>(),
-          .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(),
+  return {.ShowKoeffOfUse = Modal<KoeffOfUseWindow, frmKoeffOfUse>(help_place::Results),
+          .ShowAbout = Modal<AboutWindow, frmAbout>(help_place::About),
+          .ShowSearch = Modal<SearchWindow, frmSearch>(help_place::Search),
+          .ShowSteel = Modal<SteelWindow, frmSteel>(help_place::Steel),
+          .ShowParamerty = Modal<ParamertyWindow, frmParamerty>(help_place::Parameters),
+          .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(help_place::Manager),
           .ShowOtchet = [this](frmOtchetMain& form) { ShowOtchet(form); },
           .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
-          .ShowDate = [this](frmDate& form) { DateWindow(form, otchet_.get()).exec(); },
+          .ShowDate =
+              [this](frmDate& form) {
+                DateWindow window(form, otchet_.get());
+                SetHelpPlace(window, help_place::Date);
+                window.exec();
+              },
           .ShowDrawings = [this] { drawings_.ShowDrawings(otchet_.get()); },
           .MakeRichText =
               [this] {
@@ -54,6 +60,10 @@ void DesktopSession::Start(const std::string& commandLine) {
   program_.Main().Form_Load();
   window_ = std::make_unique<MainWindow>(program_.Main(), settings_);
   window_->show();
+  // After the first paint: it may have a file to copy.
+  QTimer::singleShot(0, window_.get(), [] {
+    PlaceHelpFile(InstalledHelpFile(ExecutableFolder()), FindProgramFolder());
+  });
   if (!commandLine.empty()) {
     // Once the events run: the document window waits for its end.
     QTimer::singleShot(0, window_.get(),

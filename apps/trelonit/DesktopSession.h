@@ -6,6 +6,8 @@
 #include "windows/DesktopServices.h"
 #include "windows/DocumentDialogs.h"
 #include "windows/DrawingDesk.h"
+#include "windows/HelpKey.h"
+#include "windows/HelpWindow.h"
 #include "windows/MainWindow.h"
 #include "windows/OfficeAutomation.h"
 #include "windows/OtchetWindow.h"
@@ -28,10 +30,15 @@ class DesktopSession {
   Program::Windows MakeWindows();
   void ShowOtchet(frmOtchetMain& form);
   QWidget* Parent() const;
-  /// Shows a filled form in a window of its own until the user closes it.
+  /// Shows a filled form in a window of its own until the user closes it; F1 opens the page of
+  /// the place.
   template <class Window, class Form>
-  std::function<void(Form&)> Modal() {
-    return [this](Form& form) { Window(form, Parent()).exec(); };
+  std::function<void(Form&)> Modal(const char* place) {
+    return [this, place](Form& form) {
+      Window window(form, Parent());
+      SetHelpPlace(window, place);
+      window.exec();
+    };
   }
 
   DesktopMessages messages_;
@@ -39,7 +46,9 @@ class DesktopSession {
   DesktopClipboard clipboard_;
   DesktopSettings settings_;
   NoRegistry registry_;
-  DesktopShell shell_;
+  HelpViewer help_;
+  HelpKey helpKey_{[this](const QString& place) { help_.OpenPlace(place); }};
+  DesktopShell shell_{help_};
   SystemClock clock_;
   EmbeddedResources resources_;
   DiskFiles files_;

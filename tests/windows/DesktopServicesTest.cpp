@@ -14,6 +14,7 @@
 #include "tests/windows/Hands.h"
 #include "tests/windows/Modal.h"
 #include "windows/DesktopServices.h"
+#include "windows/HelpWindow.h"
 
 namespace trelonit::test {
 namespace {
@@ -223,7 +224,8 @@ TEST(DesktopSettingsTexts, AreKeptBySectionAndKey) {
 
 TEST(DesktopPrograms, ThatAreNotThereRaiseFileNotFound) {
   try {
-    DesktopShell().StartProgram("/no/such/program");
+    HelpViewer help;
+    DesktopShell(help).StartProgram("/no/such/program");
     FAIL() << "started";
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), 53);

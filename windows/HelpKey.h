@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <array>
+#include <functional>
+
+class QWidget;
+
+namespace trelonit {
+
+// The places of the program that have a page of their own in the guide.
+
+namespace help_place {
+inline constexpr const char* Scheme = "tab0";
+inline constexpr const char* Sections = "tab1";
+inline constexpr const char* Loads = "tab2";
+inline constexpr const char* Results = "results";
+inline constexpr const char* Search = "search";
+inline constexpr const char* Steel = "steel";
+inline constexpr const char* Parameters = "parameters";
+inline constexpr const char* Manager = "manager";
+inline constexpr const char* About = "about";
+inline constexpr const char* Otchet = "otchet";
+inline constexpr const char* Find = "find";
+inline constexpr const char* Date = "date";
+inline constexpr const char* Drawing = "drawing";
+
+inline constexpr std::array All{Scheme,  Sections, Loads,  Results, Search, Steel,  Parameters,
+                                Manager, About,    Otchet, Find,    Date,   Drawing};
+}  // namespace help_place
+
+/// Marks a window or the page of a tab as this place.
+void SetHelpPlace(QWidget& widget, const char* place);
+
+/// The place in which the widget is: its own, that of the tab in front of its window, or that of
+/// what it stands in; empty where none of them has one.
+QString HelpPlaceOf(const QWidget* widget);
+
+/// F1 anywhere in the program. It comes before the menu's own F1, which knows no place.
+class HelpKey : public QObject {
+ public:
+  /// Open gets the place where the key was pressed.
+  explicit HelpKey(std::function<void(const QString& place)> open);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  std::function<void(const QString& place)> open_;
+};
+
+}  // namespace trelonit
