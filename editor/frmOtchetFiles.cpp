@@ -33,6 +33,10 @@ Message WordFailure() {
 }  // namespace
 
 bool frmOtchetMain::MayLeaveDocument() {
+  // A replace-all lets events in; it must not go on in another document.
+  if (Find.Replacing()) {
+    return false;
+  }
   if (!changed_) {
     return true;
   }

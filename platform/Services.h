@@ -73,6 +73,33 @@ class RegistryService {
   virtual ~RegistryService() = default;
   /// Null where the key cannot be opened.
   virtual std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& key) = 0;
+  /// Writes a value, and the key where it is missing; an empty name is the key's default value.
+  /// Raises 70 where the user may not, 438 on a machine without a registry.
+  virtual void SetValue(RegistryRoot /*root*/, const std::string& /*key*/,
+                        const std::string& /*name*/, const RegistryValue& /*value*/) {
+    throw RuntimeError(ErrorNumber::PropertyNotSupported);
+  }
+  /// Deletes a key with its values and all keys below it. Raises as SetValue does.
+  virtual void DeleteKey(RegistryRoot /*root*/, const std::string& /*key*/) {
+    throw RuntimeError(ErrorNumber::PropertyNotSupported);
+  }
+};
+
+/// The desktop's choice of a program for each MIME type, where it keeps one. Programs are named by
+/// their desktop entries, as "name.desktop".
+class MimeDefaultService {
+ public:
+  virtual ~MimeDefaultService() = default;
+  /// The entry that opens files of this type for the user; empty where there is none.
+  virtual std::string DefaultProgram(const std::string& mimeType) = 0;
+  /// Makes the entry the user's choice for this type and keeps what the user had chosen before
+  /// until the choice is undone; chosen once more, it changes nothing. Raises 53 where the desktop
+  /// has no such entry, 70, 75 or 61 where the choice cannot be stored.
+  virtual void SetDefaultProgram(const std::string& mimeType, const std::string& entry) = 0;
+  /// Gives the type back to what the user had chosen before, or to the system where that was
+  /// nothing. A choice of another entry that the user has made meanwhile stays. Raises 70, 75 or 61
+  /// where this cannot be stored.
+  virtual void UndoDefaultProgram(const std::string& mimeType, const std::string& entry) = 0;
 };
 
 /// An object of another program, reached by member name only. Every member raises RuntimeError:
@@ -128,6 +155,19 @@ class ShellService {
   /// Raises a RuntimeError where the machine has no name to give.
   virtual std::string ComputerName() = 0;
   virtual std::string UserName() = 0;
+
+  // The places of a Windows machine. They raise 438 where the machine has no such place.
+
+  /// This program's own path without the ".exe" at its end.
+  virtual std::string ProgramPath() { throw RuntimeError(ErrorNumber::PropertyNotSupported); }
+  /// The folder of the system's own programs, without a separator at its end.
+  virtual std::string SystemFolder() { throw RuntimeError(ErrorNumber::PropertyNotSupported); }
+  /// The user's folder of the "Send to" menu, without a separator at its end.
+  virtual std::string SendToFolder() { throw RuntimeError(ErrorNumber::PropertyNotSupported); }
+  /// Deletes a shortcut. Raises 53 where there is none, 70 where the user may not.
+  virtual void RemoveShortcut(const std::string& /*path*/) {
+    throw RuntimeError(ErrorNumber::PropertyNotSupported);
+  }
 };
 
 /// Local date and time, to the second.

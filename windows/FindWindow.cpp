@@ -65,7 +65,7 @@ FindWindow::FindWindow(frmFind& form, QWidget* parent)
                             [this] { form_.cmdReplace_Click(); }));
   buttons->addWidget(button(form_.cmdReplaceAll, QStringLiteral("cmdReplaceAll"),
                             QStringLiteral("Заменить всё до конца текста"),
-                            [this] { ReplaceAll(); }));
+                            [this] { form_.cmdReplaceAll_Click(); }));
   buttons->addWidget(button(form_.cmdCancel, QStringLiteral("cmdCancel"),
                             QStringLiteral("Остановить замену или закрыть окно (Esc)"),
                             [this] { form_.cmdCancel_Click(); }));
@@ -93,18 +93,6 @@ QComboBox* FindWindow::AddBox(ComboBox& state, const char* name) {
   box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   Bind(state, box);
   return box;
-}
-
-void FindWindow::ReplaceAll() {
-  // Events come in while it runs: another document must not take the place of this one.
-  QWidget* document = parentWidget();
-  if (document != nullptr) {
-    document->setEnabled(false);
-  }
-  form_.cmdReplaceAll_Click();
-  if (document != nullptr) {
-    document->setEnabled(true);
-  }
 }
 
 void FindWindow::TakeTexts() {

@@ -22,7 +22,6 @@ class FindWindow : public FormDialog {
  private:
   QComboBox* AddBox(ComboBox& state, const char* name);
   void TakeTexts();
-  void ReplaceAll();
 
   frmFind& form_;
   QComboBox* find_ = nullptr;

@@ -44,11 +44,12 @@ TEST_F(Find, AddsUpItsOptions) {
   form.Form_Load();
   form.cboFind.SetText("узел");
   form.ChWord.SetChecked(true);
+  form.ChCase.SetChecked(true);
   form.cmdFindNext_Click();
   EXPECT_EQ(form.HitPos(), 12);
-  form.ChCase.SetChecked(false);
   form.Form_Load();
   form.cboFind.SetText("узел");
+  form.ChWord.SetChecked(true);
   form.cmdFindNext_Click();
   EXPECT_EQ(form.HitPos(), 7);
 }
