@@ -129,8 +129,8 @@ def check_links(pages):
     linked = {"index.html"}
     for name, page in pages.items():
         for link, line in page.links:
-            parts = urlsplit(link)
-            if parts.scheme or parts.netloc:
+            address = urlsplit(link)
+            if address.scheme or address.netloc:
                 complain(f"{name}:{line}", f"a link out of the guide: {link}")
                 continue
             target = link if not link.startswith("#") else name + link

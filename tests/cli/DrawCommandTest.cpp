@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/cli/Workbench.h"
+#include "tests/cli/OutputCommand.h"
 
 namespace trelonit::test {
 
@@ -13,29 +13,9 @@ namespace {
 
 constexpr int schemeLine = 2;
 
-class DrawCommandLine : public CliTest {
+class DrawCommandLine : public OutputCommand {
  protected:
-  DrawCommandLine() { Put("a.tsav", ExampleBytes(1)); }
-
-  std::string Written(const std::string& project, const std::string& file) {
-    const Outcome outcome = Run({"draw", project, "-o", file});
-    EXPECT_EQ(outcome.Status, done) << file;
-    EXPECT_EQ(outcome.Out, "") << file;
-    EXPECT_EQ(outcome.Err, "") << file;
-    return Content(file);
-  }
-
-  void ExpectRefused(const Launch& launch, int status, const std::string& error) {
-    const auto names = Names();
-    const Outcome outcome = RunProgram(launch);
-    EXPECT_EQ(outcome.Status, status);
-    EXPECT_EQ(outcome.Out, "");
-    EXPECT_EQ(outcome.Err, error);
-    EXPECT_EQ(Names(), names);
-  }
-
-  /// Room for the catalogue files is taken before any limit comes into force.
-  void UnpackCatalogue() { ASSERT_EQ(Run({"catalogue", "list"}).Status, done); }
+  DrawCommandLine() : OutputCommand("draw") {}
 };
 
 /// The pairs of a file: group code and value.

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "editor/MemoryRichTextBox.h"
-#include "tests/cli/Workbench.h"
+#include "tests/cli/OutputCommand.h"
 #include "tests/workstation/ReportComparison.h"
 
 namespace trelonit::test {
@@ -32,9 +32,9 @@ std::string Replaced(const std::string& text, const std::string& what, const std
   return result + text.substr(begin);
 }
 
-class ReportCommandLine : public CliTest {
+class ReportCommandLine : public OutputCommand {
  protected:
-  ReportCommandLine() { Put("a.tsav", ExampleBytes(1)); }
+  ReportCommandLine() : OutputCommand("report") {}
 
   std::string Printed(const std::string& project) {
     const Outcome outcome = Run({"report", project, "-o", "-"});
@@ -42,26 +42,6 @@ class ReportCommandLine : public CliTest {
     EXPECT_EQ(outcome.Err, "");
     return outcome.Out;
   }
-
-  std::string Written(const std::string& project, const std::string& file) {
-    const Outcome outcome = Run({"report", project, "-o", file});
-    EXPECT_EQ(outcome.Status, done) << file;
-    EXPECT_EQ(outcome.Out, "") << file;
-    EXPECT_EQ(outcome.Err, "") << file;
-    return Content(file);
-  }
-
-  void ExpectRefused(const Launch& launch, int status, const std::string& error) {
-    const auto names = Names();
-    const Outcome outcome = RunProgram(launch);
-    EXPECT_EQ(outcome.Status, status);
-    EXPECT_EQ(outcome.Out, "");
-    EXPECT_EQ(outcome.Err, error);
-    EXPECT_EQ(Names(), names);
-  }
-
-  /// Room for the catalogue files is taken before any limit comes into force.
-  void UnpackCatalogue() { ASSERT_EQ(Run({"catalogue", "list"}).Status, done); }
 };
 
 TEST_F(ReportCommandLine, PrintsTheReportOfEveryExampleToTheLetter) {
