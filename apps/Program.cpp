@@ -2,9 +2,26 @@
 
 #include <utility>
 
+#include "editor/FileHandler.h"
 #include "editor/MemoryRichTextBox.h"
+#include "workstation/ProjectFile.h"
 
 namespace trelonit {
+
+namespace {
+
+/// A form is loaded, then shown until the user closes it; without a window for it there is no way
+/// to it either.
+template <class Form>
+std::function<void()> Opener(const std::function<void(Form&)>& show, Form& form) {
+  return show ? std::function<void()>([&show, &form] {
+    form.Form_Load();
+    show(form);
+  })
+              : std::function<void()>();
+}
+
+}  // namespace
 
 Program::Program(Services services, Windows windows)
     : services_(services),
@@ -18,7 +35,11 @@ Program::Program(Services services, Windows windows)
                         .txtUsloviyaRabot = main_.txtUsloviyaRabot}),
       paramerty_(services, {.txtModulYung = main_.txtModulYung,
                             .txtDensitSteel = main_.txtDensitSteel,
-                            .txtLimitFlex = main_.txtLimitFlex}) {}
+                            .txtLimitFlex = main_.txtLimitFlex}) {
+  if (windows_.Associations != nullptr) {
+    assoc_.emplace(*windows_.Associations, services_.Messages);
+  }
+}
 
 frmMain::Openers Program::MakeOpeners() {
   frmMain::Openers openers;
@@ -29,19 +50,10 @@ frmMain::Openers Program::MakeOpeners() {
       windows_.ShowKoeffOfUse(koeffOfUse_);
     }
   };
-  // A form is loaded, then shown until the user closes it; without a window for it there is no way
-  // to it either.
-  const auto window = [](auto& show, auto& form) {
-    return show ? std::function<void()>([&show, &form] {
-      form.Form_Load();
-      show(form);
-    })
-                : std::function<void()>();
-  };
-  openers.ShowAbout = window(windows_.ShowAbout, about_);
-  openers.ShowSteel = window(windows_.ShowSteel, steel_);
-  openers.ShowParamerty = window(windows_.ShowParamerty, paramerty_);
-  openers.ShowDataManager = window(windows_.ShowDataManager, dataManager_);
+  openers.ShowAbout = Opener(windows_.ShowAbout, about_);
+  openers.ShowSteel = Opener(windows_.ShowSteel, steel_);
+  openers.ShowParamerty = Opener(windows_.ShowParamerty, paramerty_);
+  openers.ShowDataManager = Opener(windows_.ShowDataManager, dataManager_);
   if (windows_.ShowSearch) {
     openers.ShowSearch = [this](const SelectionProposal& proposal) { return OpenSearch(proposal); };
   }
@@ -77,6 +89,8 @@ frmOtchetMain& Program::NewOtchet(const std::string& commandLine) {
   otchet_.emplace(services_, *richText_, dialogs,
                   frmOtchetMain::Openers{.ShowFind = windows_.ShowFind,
                                          .ShowDate = windows_.ShowDate,
+                                         .ShowAssoc = assoc_ ? Opener(windows_.ShowAssoc, *assoc_)
+                                                             : std::function<void()>(),
                                          .ExportToDrawing = drawable},
                   commandLine);
   if (snapshot_) {
@@ -107,6 +121,15 @@ void Program::AppendOtchet(const ReportPiece& piece) {
 void Program::ShowOtchet() {
   otchet_->EndReport();
   windows_.ShowOtchet(*otchet_);
+}
+
+void Program::Open(const std::string& commandLine) {
+  const std::string name = LongPathName(commandLine);
+  if (ExtensionOf(name) == projectExtension) {
+    main_.OpenProject(name);
+  } else {
+    OpenDocument(commandLine);
+  }
 }
 
 void Program::OpenDocument(const std::string& commandLine) {

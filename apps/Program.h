@@ -10,6 +10,7 @@
 #include "checks/frmParamerty.h"
 #include "checks/frmSteel.h"
 #include "drawing/modACADExport.h"
+#include "editor/frmAssoc.h"
 #include "editor/frmOtchetMain.h"
 #include "platform/Services.h"
 #include "workstation/frmAbout.h"
@@ -35,12 +36,14 @@ class Program {
     /// Beside the document window, which goes on.
     std::function<void(frmFind&)> ShowFind;
     std::function<void(frmDate&)> ShowDate;
+    std::function<void(frmAssoc&)> ShowAssoc;
     /// After a drawing has been made: shows what the built-in drawing host holds.
     std::function<void()> ShowDrawings;
     /// An empty box for a document; without it documents are kept in memory.
     std::function<std::unique_ptr<RichTextBox>()> MakeRichText;
     /// Null where the machine has none. They outlive the program.
     CommonDialogs* Dialogs = nullptr;
+    FileAssociations* Associations = nullptr;
     std::function<void()> EndProgram;
   };
 
@@ -56,8 +59,9 @@ class Program {
   /// The pieces of the last report, in order.
   const std::vector<ReportPiece>& Report() const { return report_; }
 
-  /// Shows the document that a command line names in the document window, until the user closes it.
-  void OpenDocument(const std::string& commandLine);
+  /// Opens the file that a command line names, quotes round it or not: a project in the main form,
+  /// anything else in the document window, until the user closes it.
+  void Open(const std::string& commandLine);
 
  private:
   frmMain::Openers MakeOpeners();
@@ -67,6 +71,7 @@ class Program {
   void AppendOtchet(const ReportPiece& piece);
   void DrawReported();
   void ShowOtchet();
+  void OpenDocument(const std::string& commandLine);
 
   Services services_;
   Windows windows_;
@@ -79,6 +84,8 @@ class Program {
   std::optional<frmOtchetMain> otchet_;
   // Draws the snapshot; goes with its document window.
   std::optional<ACADExport> export_;
+  // There where the machine has associations.
+  std::optional<frmAssoc> assoc_;
   frmKoeffOfUse koeffOfUse_;
   frmAbout about_;
   frmSearch search_;

@@ -22,12 +22,12 @@ frmAssoc::frmAssoc(FileAssociations& associations, MessageService& messages)
   const std::string files = associations_.OwnedFiles();
   Form.SetCaption("Связь с файлами");
   lblOwner.SetCaption("Текстовые файлы (" + files + ") открывает");
-  lblOption1.SetCaption("Эта программа");
-  lblOption2.SetCaption("Программа системы");
-  lblSendto.SetCaption("Ярлык в меню «Отправить»");
-  lblSC.SetCaption("Показывать исходный текст страниц браузера");
-  cmdApply.SetCaption("Применить");
-  cmdCancel.SetCaption("Отмена");
+  lblOption1.SetCaption("&Эта программа");
+  lblOption2.SetCaption("Программа &системы");
+  lblSendto.SetCaption("&Ярлык в меню «Отправить»");
+  lblSC.SetCaption("Показывать &исходный текст страниц браузера");
+  cmdApply.SetCaption("&Применить");
+  cmdCancel.SetCaption("&Отмена");
   Offer(ChSendto, lblSendto, lblNoSendto, associations_.WhyNoSendTo());
   Offer(ChSC, lblSC, lblNoSC, associations_.WhyNoSourceViewer());
   Option1.Click = [this] { Option1_Click(); };

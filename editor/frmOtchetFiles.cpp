@@ -306,6 +306,12 @@ void frmOtchetMain::mnuFileAutoCAD_Click() {
   }
 }
 
+void frmOtchetMain::mnuFileAssoc_Click() {
+  if (openers_.ShowAssoc) {
+    openers_.ShowAssoc();
+  }
+}
+
 void frmOtchetMain::mnuFileExit_Click() {
   if (Unload) {
     Unload();

@@ -32,6 +32,7 @@ frmOtchetMain::frmOtchetMain(Services services, RichTextBox& rtf, CommonDialogs&
   caption(mnuFileSaveAs, "Save &As");
   caption(mnuFileAutoCAD, "Вывести в AutoCAD");
   caption(mnuFileProperties, "Properties");
+  caption(mnuFileAssoc, "Связь с файлами");
   caption(mnuFilePageSetup, "Page Setup");
   caption(mnuFilePrint, "Print");
   caption(mnuFilePrintPreview, "Предварительный просмотр");
@@ -55,6 +56,7 @@ frmOtchetMain::frmOtchetMain(Services services, RichTextBox& rtf, CommonDialogs&
   caption(mnuViewStatusbar, "Statusbar");
   caption(mnuFileAbout, "About");
   mnuFileAutoCAD.SetEnabled(static_cast<bool>(openers_.ExportToDrawing));
+  mnuFileAssoc.SetEnabled(static_cast<bool>(openers_.ShowAssoc));
   mnuEdit[editDatestamp].SetEnabled(static_cast<bool>(openers_.ShowDate));
   mnuEdit[editFind].SetEnabled(static_cast<bool>(openers_.ShowFind));
 }
@@ -149,7 +151,8 @@ std::vector<frmOtchetMain::Menu> frmOtchetMain::Menus() {
         Item("mnuFileSave", mnuFileSave, &Self::mnuFileSave_Click),
         Item("mnuFileSaveAs", mnuFileSaveAs, &Self::mnuFileSaveAs_Click), separator,
         Item("mnuFileAutoCAD", mnuFileAutoCAD, &Self::mnuFileAutoCAD_Click), separator,
-        Item("mnuFileProperties", mnuFileProperties, &Self::mnuFileProperties_Click), separator,
+        Item("mnuFileProperties", mnuFileProperties, &Self::mnuFileProperties_Click),
+        Item("mnuFileAssoc", mnuFileAssoc, &Self::mnuFileAssoc_Click), separator,
         Item("mnuFilePageSetup", mnuFilePageSetup, &Self::mnuFilePageSetup_Click),
         Item("mnuFilePrintPreview", mnuFilePrintPreview, &Self::mnuFilePrintPreview_Click),
         Item("mnuFilePrint", mnuFilePrint, &Self::mnuFilePrint_Click), separator,

@@ -28,6 +28,8 @@ class frmOtchetMain {
     std::function<void(frmFind&)> ShowFind;
     /// Shows the form until the user closes it.
     std::function<void(frmDate&)> ShowDate;
+    /// Shows which files open in the pad, until the user closes it.
+    std::function<void()> ShowAssoc;
     /// Draws the truss that the report was made from.
     std::function<void()> ExportToDrawing;
   };
@@ -121,6 +123,7 @@ class frmOtchetMain {
   void mnuFileSaveAs_Click();
   void mnuFileAutoCAD_Click();
   void mnuFileProperties_Click();
+  void mnuFileAssoc_Click();
   void mnuFilePageSetup_Click();
   void mnuFilePrint_Click();
   void mnuFilePrintPreview_Click();
@@ -150,6 +153,7 @@ class frmOtchetMain {
   MenuEntry mnuFileSaveAs;
   MenuEntry mnuFileAutoCAD;
   MenuEntry mnuFileProperties;
+  MenuEntry mnuFileAssoc;
   MenuEntry mnuFilePageSetup;
   MenuEntry mnuFilePrint;
   MenuEntry mnuFilePrintPreview;

@@ -15,7 +15,7 @@ PICTURES = ROOT / "pictures"
 VOID = {"area", "base", "br", "col", "hr", "img", "input", "link", "meta", "wbr"}
 # The places of the program where F1 opens a page.
 PLACES = {"tab0", "tab1", "tab2", "results", "search", "steel", "parameters", "manager", "about",
-          "otchet", "find", "date", "drawing"}
+          "otchet", "find", "date", "assoc", "drawing"}
 # What may stand inside what: a stray end tag is found by the nesting itself.
 PARENTS = {"li": {"ul", "ol"}, "tr": {"table"}, "td": {"tr"}, "th": {"tr"}, "dt": {"dl"},
            "dd": {"dl"}}

@@ -24,10 +24,11 @@ inline constexpr const char* About = "about";
 inline constexpr const char* Otchet = "otchet";
 inline constexpr const char* Find = "find";
 inline constexpr const char* Date = "date";
+inline constexpr const char* Assoc = "assoc";
 inline constexpr const char* Drawing = "drawing";
 
-inline constexpr std::array All{Scheme,  Sections, Loads,  Results, Search, Steel,  Parameters,
-                                Manager, About,    Otchet, Find,    Date,   Drawing};
+inline constexpr std::array All{Scheme,  Sections, Loads,  Results, Search, Steel, Parameters,
+                                Manager, About,    Otchet, Find,    Date,   Assoc, Drawing};
 }  // namespace help_place
 
 /// Marks a window or the page of a tab as this place.

@@ -45,6 +45,7 @@ EntryDress DressOf(const std::string& name) {
         nullptr}},
       {"mnuFileAutoCAD", {"tool-drawing", "Вывести чертежи фермы", {}, nullptr}},
       {"mnuFileProperties", {nullptr, "Сведения о документе", {}, nullptr}},
+      {"mnuFileAssoc", {nullptr, "Какие файлы открывает эта программа", {}, nullptr}},
       {"mnuFilePageSetup", {nullptr, "Размер и поля страницы", {}, nullptr}},
       {"mnuFilePrintPreview",
        {"tool-preview", "Предварительный просмотр, сохранение в PDF", {}, nullptr}},

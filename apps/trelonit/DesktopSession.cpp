@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "windows/AboutWindow.h"
+#include "windows/AssocWindow.h"
 #include "windows/DataManagerWindow.h"
 #include "windows/DateWindow.h"
 #include "windows/HelpFile.h"
@@ -28,12 +29,8 @@ Program::Windows DesktopSession::MakeWindows() {
           .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(help_place::Manager),
           .ShowOtchet = [this](frmOtchetMain& form) { ShowOtchet(form); },
           .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
-          .ShowDate =
-              [this](frmDate& form) {
-                DateWindow window(form, otchet_.get());
-                SetHelpPlace(window, help_place::Date);
-                window.exec();
-              },
+          .ShowDate = ModalOverDocument<DateWindow, frmDate>(help_place::Date),
+          .ShowAssoc = ModalOverDocument<AssocWindow, frmAssoc>(help_place::Assoc),
           .ShowDrawings = [this] { drawings_.ShowDrawings(otchet_.get()); },
           .MakeRichText =
               [this] {
@@ -42,7 +39,16 @@ Program::Windows DesktopSession::MakeWindows() {
                 return box;
               },
           .Dialogs = &documentDialogs_,
+          .Associations = Associations(),
           .EndProgram = [] { QApplication::exit(0); }};
+}
+
+FileAssociations* DesktopSession::Associations() {
+#ifdef _WIN32
+  return nullptr;
+#else
+  return &associations_;
+#endif
 }
 
 void DesktopSession::ShowOtchet(frmOtchetMain& form) {
@@ -66,8 +72,7 @@ void DesktopSession::Start(const std::string& commandLine) {
   });
   if (!commandLine.empty()) {
     // Once the events run: the document window waits for its end.
-    QTimer::singleShot(0, window_.get(),
-                       [this, commandLine] { program_.OpenDocument(commandLine); });
+    QTimer::singleShot(0, window_.get(), [this, commandLine] { program_.Open(commandLine); });
   }
 }
 

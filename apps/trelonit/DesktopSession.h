@@ -11,6 +11,10 @@
 #include "windows/MainWindow.h"
 #include "windows/OfficeAutomation.h"
 #include "windows/OtchetWindow.h"
+#ifndef _WIN32
+#include "editor/MimeAssociations.h"
+#include "windows/MimeDefaults.h"
+#endif
 
 namespace trelonit {
 
@@ -22,23 +26,32 @@ class DesktopSession {
   DesktopSession& operator=(const DesktopSession&) = delete;
   ~DesktopSession() = default;
 
-  /// Loads the form (catalogue, defaults) and shows the main window; over it the document that the
-  /// command line names, if any.
+  /// Loads the form (catalogue, defaults) and shows the main window; then opens the project or the
+  /// document that the command line names, if any.
   void Start(const std::string& commandLine);
 
  private:
   Program::Windows MakeWindows();
+  /// Null where the machine has none.
+  FileAssociations* Associations();
   void ShowOtchet(frmOtchetMain& form);
   QWidget* Parent() const;
   /// Shows a filled form in a window of its own until the user closes it; F1 opens the page of
   /// the place.
   template <class Window, class Form>
   std::function<void(Form&)> Modal(const char* place) {
-    return [this, place](Form& form) {
-      Window window(form, Parent());
-      SetHelpPlace(window, place);
-      window.exec();
-    };
+    return [this, place](Form& form) { Run<Window>(form, place, Parent()); };
+  }
+  /// The same over the document.
+  template <class Window, class Form>
+  std::function<void(Form&)> ModalOverDocument(const char* place) {
+    return [this, place](Form& form) { Run<Window>(form, place, otchet_.get()); };
+  }
+  template <class Window, class Form>
+  static void Run(Form& form, const char* place, QWidget* parent) {
+    Window window(form, parent);
+    SetHelpPlace(window, place);
+    window.exec();
   }
 
   DesktopMessages messages_;
@@ -55,6 +68,10 @@ class DesktopSession {
   OfficeAutomation office_{clipboard_, files_, {.Watch = ShowConversionProgress}};
   DrawingDesk drawings_{&office_};
   DocumentDialogs documentDialogs_;
+#ifndef _WIN32
+  MimeDefaults mimeDefaults_{files_, settings_};
+  MimeAssociations associations_{mimeDefaults_};
+#endif
   Program program_;
   // The box of the present document; the program owns it.
   QtRichTextBox* richText_ = nullptr;

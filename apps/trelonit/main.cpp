@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <exception>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "apps/trelonit/DesktopSession.h"
@@ -40,15 +41,30 @@ std::optional<int> AnswerCommandLine(int argc, char** argv) {
   }
   if (argc == 2 && (argument == "--help" || argument == "-h")) {
     std::printf(
-        "Использование: trelonit [ДОКУМЕНТ]\n\n"
+        "Использование: trelonit [ФАЙЛ]\n\n"
         "Расчет плоских стальных стропильных ферм: открывает рабочее окно программы.\n"
-        "ДОКУМЕНТ (.txt, .rtf, .doc) открывается в окне отчета. Проекты открываются\n"
-        "из меню «Файл». Расчет без окон: trelonit-cli --help.\n\n"
+        "Проект (.tsav) восстанавливается в этом окне, документ (.txt, .rtf, .doc)\n"
+        "открывается в окне отчета. Расчет без окон: trelonit-cli --help.\n\n"
         "  -h, --help   показать эту справку\n"
         "  --version    показать версию\n");
     return 0;
   }
   return std::nullopt;
+}
+
+/// The file to open, empty for none; nothing where the arguments that the toolkit has left are no
+/// such command line.
+std::optional<std::string> HandedFile(const QStringList& arguments) {
+#ifdef _WIN32
+  // The registry's command hands a name over without quotes: blanks in it have made several
+  // arguments of one name.
+  return arguments.mid(1).join(QLatin1Char(' ')).toStdString();
+#else
+  if (arguments.size() > 2 || arguments.value(1).startsWith(QLatin1Char('-'))) {
+    return std::nullopt;
+  }
+  return arguments.value(1).toStdString();
+#endif
 }
 
 }  // namespace
@@ -59,10 +75,14 @@ int main(int argc, char** argv) {
   }
   try {
     Application application(argc, argv);
+    const std::optional<std::string> file = HandedFile(QApplication::arguments());
+    if (!file) {
+      std::fprintf(stderr, "trelonit: можно открыть один файл; справка: trelonit --help\n");
+      return 2;
+    }
     const trelonit::Desktop desktop;
     trelonit::DesktopSession session;
-    // The toolkit has taken its own arguments away by now.
-    session.Start(QApplication::arguments().value(1).toStdString());
+    session.Start(*file);
     return QApplication::exec();
   } catch (const std::exception& error) {
     std::fprintf(stderr, "trelonit: %s\n", error.what());

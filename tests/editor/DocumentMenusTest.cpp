@@ -41,12 +41,13 @@ class DocumentMenus : public OtchetTest {
 };
 
 TEST_F(DocumentMenus, OffersTheFileCommands) {
-  EXPECT_EQ(ItemsOf(0),
-            (Texts{"mnuFileNew: &New", "mnuFileOpen: &Open", "mnuFileSave: &Save",
-                   "mnuFileSaveAs: Save &As", separator, "mnuFileAutoCAD: Вывести в AutoCAD",
-                   separator, "mnuFileProperties: Properties", separator,
-                   "mnuFilePageSetup: Page Setup", "mnuFilePrintPreview: Предварительный просмотр",
-                   "mnuFilePrint: Print", separator, "mnuFileExit: &Exit"}));
+  EXPECT_EQ(
+      ItemsOf(0),
+      (Texts{"mnuFileNew: &New", "mnuFileOpen: &Open", "mnuFileSave: &Save",
+             "mnuFileSaveAs: Save &As", separator, "mnuFileAutoCAD: Вывести в AutoCAD", separator,
+             "mnuFileProperties: Properties", "mnuFileAssoc: Связь с файлами", separator,
+             "mnuFilePageSetup: Page Setup", "mnuFilePrintPreview: Предварительный просмотр",
+             "mnuFilePrint: Print", separator, "mnuFileExit: &Exit"}));
 }
 
 TEST_F(DocumentMenus, OffersTheEditCommandsAtTheirPlaces) {
@@ -131,6 +132,8 @@ TEST_F(DocumentMenus, RunsTheCommandOfEachEntry) {
   EXPECT_EQ(dialogs.Previewed.size(), 1u);
   Choose("mnuFileAutoCAD");
   EXPECT_EQ(exports, 1);
+  Choose("mnuFileAssoc");
+  EXPECT_EQ(assocsShown, 1);
   EXPECT_EQ(Said(), Messages{});
   Choose("mnuFileProperties");
   Choose("mnuFormatStats");
@@ -231,13 +234,16 @@ TEST(DocumentMenusWithoutOpeners, DisableWhatCannotBeOpened) {
   frmOtchetMain form(desk.Bundle(), desk.box, desk.dialogs, {}, "");
   form.Form_Load();
   EXPECT_FALSE(form.mnuFileAutoCAD.Enabled());
+  EXPECT_FALSE(form.mnuFileAssoc.Enabled());
   EXPECT_FALSE(form.mnuEdit[11].Enabled());
   EXPECT_FALSE(form.mnuEdit[12].Enabled());
   form.mnuFileAutoCAD_Click();
+  form.mnuFileAssoc_Click();
   form.mnuEdit_Click(11);
   form.mnuEdit_Click(12);
   EXPECT_EQ(desk.Said(), OtchetDesk::Messages{});
   EXPECT_TRUE(desk.form.mnuFileAutoCAD.Enabled());
+  EXPECT_TRUE(desk.form.mnuFileAssoc.Enabled());
   EXPECT_TRUE(desk.form.mnuEdit[11].Enabled());
   EXPECT_TRUE(desk.form.mnuEdit[12].Enabled());
 }

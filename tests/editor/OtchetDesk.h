@@ -161,6 +161,7 @@ struct OtchetDesk {
   frmOtchetMain::Openers Openers() {
     return {.ShowFind = [this](frmFind&) { ++findsShown; },
             .ShowDate = [this](frmDate&) { ++datesShown; },
+            .ShowAssoc = [this] { ++assocsShown; },
             .ExportToDrawing = [this] { ++exports; }};
   }
 
@@ -233,6 +234,7 @@ struct OtchetDesk {
   ScriptedCommonDialogs dialogs;
   int findsShown = 0;
   int datesShown = 0;
+  int assocsShown = 0;
   int exports = 0;
   frmOtchetMain form;
 };

@@ -4,11 +4,19 @@
 #include <QFile>
 #include <QTextDocument>
 
+#include "tests/windows/AssocScreen.h"
 #include "tests/windows/DrawingSheets.h"
+#include "tests/windows/ManagerScreen.h"
+#include "tests/windows/Modal.h"
 #include "tests/windows/OtchetScreen.h"
+#include "tests/windows/ParamertyScreen.h"
+#include "tests/windows/ResultsScreen.h"
 #include "tests/windows/Screen.h"
 #include "tests/windows/SteelScreen.h"
+#include "windows/AboutWindow.h"
 #include "windows/DrawingWindow.h"
+#include "windows/HelpWindow.h"
+#include "windows/SearchWindow.h"
 
 namespace trelonit::test {
 namespace {
@@ -92,7 +100,7 @@ TEST(HelpTellsTheCaptions, OfTheDocumentMenus) {
       }
     }
   }
-  EXPECT_EQ(entries, 28U);
+  EXPECT_EQ(entries, 29U);
 }
 
 TEST(HelpTellsTheCaptions, OfTheMainWindow) {
@@ -115,6 +123,87 @@ TEST(HelpTellsTheCaptions, OfTheFindWindow) {
   const auto* find = screen.Window->findChild<FindWindow*>();
   ASSERT_NE(find, nullptr);
   ExpectCaptionsTold(*find, 5);
+}
+
+TEST(HelpTellsTheCaptions, OfTheWindowOfTheAssociations) {
+  AssocScreen screen;
+  screen.Machine.Files = ".txt, .log, .tsav";
+  screen.Open();
+  ExpectCaptionsTold(*screen.Window, 7);
+}
+
+TEST(HelpTellsTheCaptions, OfTheResults) {
+  ProgramScreen screen;
+  bool looked = false;
+  screen.Inspect = [&looked](KoeffOfUseWindow& results) {
+    ExpectTold(Plain(results.windowTitle()));
+    ExpectCaptionsTold(results, 5);
+    for (const std::string& head : Look(results).Heads) {
+      ExpectTold(head);
+    }
+    looked = true;
+  };
+  screen.Trigger("mnuCalc");
+  EXPECT_TRUE(looked);
+}
+
+TEST(HelpTellsTheCaptions, OfTheSelection) {
+  SelectionProposal proposal;
+  proposal.Sections = SectionArray(1, sectionCount);
+  BoundedArray<Image> layouts{1, groupCount};
+  frmSearch form;
+  form.Fill(proposal, layouts, 1);
+  const SearchWindow window(form, nullptr);
+  ExpectTold(Plain(window.windowTitle()));
+  ExpectCaptionsTold(window, 3);
+  for (Long option = 1; option <= groupCount; ++option) {
+    ExpectTold(form.lblName[option - 1].Caption());
+  }
+}
+
+TEST(HelpTellsTheCaptions, OfTheParameters) {
+  const ParamertyScreen screen;
+  ExpectTold(Plain(screen.Window->windowTitle()));
+  ExpectCaptionsTold(*screen.Window, 5);
+}
+
+TEST(HelpTellsTheCaptions, OfTheCatalogueManager) {
+  const ManagerScreen screen;
+  ExpectTold(Plain(screen.Window.windowTitle()));
+  ExpectCaptionsTold(screen.Window, 20);
+}
+
+TEST(HelpTellsTheCaptions, OfTheWindowAboutTheProgram) {
+  Screen screen;
+  frmAbout form(screen.Outside.Bundle());
+  form.Form_Load();
+  const AboutWindow window(form, nullptr);
+  ExpectTold(Plain(window.windowTitle()));
+  ExpectCaptionsTold(window, 2);
+}
+
+TEST(HelpTellsTheCaptions, OfTheDates) {
+  OtchetScreen screen;
+  screen.Start();
+  const OnceModal<QDialog> once([](QDialog& window) {
+    ExpectTold(Plain(window.windowTitle()));
+    ExpectCaptionsTold(window, 2);
+    window.reject();
+  });
+  screen.Trigger("mnuEdit11");
+  EXPECT_TRUE(once.Acted());
+}
+
+TEST(HelpTellsTheCaptions, OfTheGuidesOwnWindow) {
+  const HelpWindow window;
+  ExpectCaptionsTold(window, 9);
+  const auto& sides = Find<QTabWidget>(window, "Sides");
+  for (int side = 0; side < sides.count(); ++side) {
+    ExpectTold(FromQt(sides.tabText(side)));
+  }
+  for (const char* field : {"Term", "Words", "FindText"}) {
+    ExpectTold(FromQt(Find<QLineEdit>(window, field).placeholderText()));
+  }
 }
 
 TEST(HelpTellsTheCaptions, OfTheDrawingWindow) {

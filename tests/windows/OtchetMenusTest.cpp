@@ -35,8 +35,8 @@ class OtchetWindowMenus : public ::testing::Test, protected OtchetScreen {
 TEST_F(OtchetWindowMenus, HaveTheirEntriesInOrder) {
   const std::vector<std::pair<std::string, Texts>> expected{
       {"&File",
-       {"&New", "&Open", "&Save", "Save &As", "-", "Вывести в AutoCAD", "-", "Properties", "-",
-        "Page Setup", "Предварительный просмотр", "Print", "-", "&Exit"}},
+       {"&New", "&Open", "&Save", "Save &As", "-", "Вывести в AutoCAD", "-", "Properties",
+        "Связь с файлами", "-", "Page Setup", "Предварительный просмотр", "Print", "-", "&Exit"}},
       {"&Edit",
        {"&Undo", "&Redo", "-", "Cut", "Copy", "Paste", "Delete", "-", "Select All", "Select Above",
         "Select Below", "Datestamp", "Find and Replace"}},
@@ -109,6 +109,11 @@ TEST_F(OtchetWindowMenus, LeaveTheTextAloneWhereAFileCannotBeOpened) {
 TEST_F(OtchetWindowMenus, SendTheTrussToTheDrawings) {
   Trigger("mnuFileAutoCAD");
   EXPECT_EQ(Exports, 1);
+}
+
+TEST_F(OtchetWindowMenus, ShowWhichFilesOpenInThePad) {
+  Trigger("mnuFileAssoc");
+  EXPECT_EQ(AssocsShown, 1);
 }
 
 TEST_F(OtchetWindowMenus, CountTheText) {
@@ -241,7 +246,7 @@ TEST_F(OtchetWindowMenus, GreyOutWhatNothingStandsBehind) {
   frmOtchetMain form(Bundle(), box, Dialogs, {}, "");
   form.Form_Load();
   OtchetWindow window(form, box, nullptr);
-  for (const char* name : {"mnuFileAutoCAD", "mnuEdit11", "mnuEdit12"}) {
+  for (const char* name : {"mnuFileAutoCAD", "mnuFileAssoc", "mnuEdit11", "mnuEdit12"}) {
     EXPECT_FALSE(window.findChild<QAction*>(QLatin1String(name))->isEnabled()) << name;
   }
 }

@@ -38,6 +38,7 @@ class OtchetScreen {
         frmOtchetMain::Openers{
             .ShowFind = [this](frmFind& form) { Window->ShowFind(form); },
             .ShowDate = [this](frmDate& form) { DateWindow(form, Window.get()).exec(); },
+            .ShowAssoc = [this] { ++AssocsShown; },
             .ExportToDrawing = [this] { ++Exports; }},
         commandLine);
     Form->Form_Load();
@@ -112,6 +113,7 @@ class OtchetScreen {
   RecordingSettings Settings;
   ScriptedCommonDialogs Dialogs;
   int Exports = 0;
+  int AssocsShown = 0;
   std::unique_ptr<QtRichTextBox> Box;
   std::unique_ptr<frmOtchetMain> Form;
   std::unique_ptr<OtchetWindow> Window;
