@@ -15,7 +15,7 @@ Desktop::Desktop() {
   // The main form ends the program; while it is hidden, the last window seen may well be another.
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationVersion(QLatin1String(applicationVersion));
-  QApplication::setDesktopFileName(QStringLiteral("trelonit"));
+  QApplication::setDesktopFileName(QStringLiteral("ru.trelonit.Trelonit"));
   if (buttons_.load(QStringLiteral("qtbase_ru"),
                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&buttons_);

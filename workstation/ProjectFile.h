@@ -36,6 +36,9 @@ struct ProjectRecord : LoadArrays {
   bool ReservedFlag = false;
 };
 
+/// Extension of project files, without its point.
+constexpr const char* projectExtension = "tsav";
+
 /// Lines of a project file.
 constexpr int projectLineCount = 53;
 

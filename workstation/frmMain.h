@@ -121,9 +121,11 @@ class frmMain {
   CheckNumbers ReadCheckNumbers() const;
 
   // --- project files (frmMainProject.cpp)
-  /// Both return whether the command was carried out.
+  // Each returns whether the command was carried out.
   bool SaveParam_Click();
   bool Restore_Click();
+  /// Restores a project that was handed over, without a dialog; the messages are the command's.
+  bool OpenProject(const std::string& name);
 
   // --- controls
   Label Form;
@@ -227,6 +229,8 @@ class frmMain {
   void ShowProgib(const ProgibResult& progib);
 
   ProjectRecord CollectProject() const;
+  /// The routine gives the name of the file, or nothing where there is none.
+  bool RestoreFrom(const std::function<std::string()>& nameOfFile);
   void ApplyProject(const ProjectRecord& record);
   /// Sizes and pictures of all groups as the model has them.
   void ShowSectionSummary();

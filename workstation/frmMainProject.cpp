@@ -2,13 +2,13 @@
 #include "platform/Guard.h"
 #include "workstation/FileNames.h"
 #include "workstation/frmMain.h"
+#include "workstation/modUtility.h"
 
 namespace trelonit {
 
 namespace {
 
 constexpr const char* dialogTitle = "Укажите имя нового файла сохранения параметров";
-constexpr const char* projectExtension = "tsav";
 constexpr const char* projectDescription = "trelo save files";
 
 }  // namespace
@@ -60,10 +60,19 @@ ProjectRecord frmMain::CollectProject() const {
 }
 
 bool frmMain::Restore_Click() {
+  return RestoreFrom([this] {
+    return ShowOpenDialog(dialogTitle, projectExtension, projectDescription, services_);
+  });
+}
+
+bool frmMain::OpenProject(const std::string& name) {
+  return RestoreFrom([&] { return IsThisFileExists(name, services_) ? name : std::string(); });
+}
+
+bool frmMain::RestoreFrom(const std::function<std::string()>& nameOfFile) {
   bool restored = false;
   Guard(services_.Messages, "Restore comand", [&] {
-    const std::string name =
-        ShowOpenDialog(dialogTitle, projectExtension, projectDescription, services_);
+    const std::string name = nameOfFile();
     if (name.empty()) {
       services_.Messages.Show({.Text = "Указаный файл не найден ! Восстановление отменено !"});
       return;

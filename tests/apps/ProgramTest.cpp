@@ -36,6 +36,17 @@ class WholeProgram : public ::testing::Test {
       inWindow(form);
     }
   }
+  /// A program whose machine has these associations, or none.
+  std::unique_ptr<Program> With(FileAssociations* associations) {
+    return std::make_unique<Program>(
+        world.Bundle(), Program::Windows{.ShowOtchet = [this](frmOtchetMain& form) { Show(form); },
+                                         .ShowAssoc =
+                                             [this](frmAssoc& form) {
+                                               ownerShown = form.Option1.Value();
+                                               ++assocsShown;
+                                             },
+                                         .Associations = associations});
+  }
   std::string Drawn() const { return WriteDxf(*host.ActiveDocument()); }
 
   EmbeddedResources resources;
@@ -45,6 +56,8 @@ class WholeProgram : public ::testing::Test {
   Program program;
   std::function<void(frmOtchetMain&)> inWindow;
   int drawingsShown = 0;
+  int assocsShown = 0;
+  bool ownerShown = false;
 };
 
 class WithoutHost : public WholeProgram {
@@ -87,10 +100,26 @@ TEST_F(WholeProgram, OffersADrawingOnlyAfterAReport) {
   world.Files.Content["/a.txt"] = "text";
   bool before = true;
   inWindow = [&](frmOtchetMain& form) { before = form.mnuFileAutoCAD.Enabled(); };
-  program.OpenDocument("/a.txt");
+  program.Open("/a.txt");
   EXPECT_FALSE(before);
   program.Main().cmdShowResults_Click();
   EXPECT_TRUE(before);
+}
+
+TEST_F(WholeProgram, RestoresTheProjectOfTheCommandLineInTheMainForm) {
+  world.Dialogs.Names = {"/roofs/a b.tsav"};
+  program.Main().txtLengthF.SetText("33");
+  ASSERT_TRUE(program.Main().SaveParam_Click());
+  world.Files.Content["/roofs/A.TSAV"] = world.Files.Content.at("/roofs/a b.tsav");
+  int windows = 0;
+  inWindow = [&](frmOtchetMain&) { ++windows; };
+  for (const char* commandLine : {"\"/roofs/a b.tsav\"", "/roofs/A.TSAV"}) {
+    program.Main().txtLengthF.SetText("12");
+    program.Open(commandLine);
+    EXPECT_EQ(program.Main().txtLengthF.Text(), "33") << commandLine;
+  }
+  EXPECT_EQ(windows, 0);
+  EXPECT_TRUE(world.Messages.Shown.empty());
 }
 
 TEST_F(WholeProgram, OpensTheDocumentOfTheCommandLineThisOnce) {
@@ -101,11 +130,41 @@ TEST_F(WholeProgram, OpensTheDocumentOfTheCommandLineThisOnce) {
     names.push_back(form.FileName());
     text = form.RTF.Text();
   };
-  program.OpenDocument("\"/a b.txt\"");
+  program.Open("\"/a b.txt\"");
   EXPECT_EQ(text, "text");
   program.Main().cmdShowResults_Click();
   EXPECT_TRUE(text.starts_with("\r\nРасчет фермы\r\n"));
   EXPECT_EQ(names, (std::vector<std::string>{"/a b.txt", ""}));
+}
+
+/// A machine on which the pad owns the text files.
+class OwnedByPad : public FileAssociations {
+ public:
+  AssociationChoice Present() override { return {.Owner = TextOwner::Pad}; }
+  void Apply(const AssociationChoice&) override {}
+  std::string OwnedFiles() const override { return ".txt"; }
+};
+
+TEST_F(WholeProgram, OpensTheAssociationsOnTheStateOfTheMachine) {
+  OwnedByPad associations;
+  inWindow = [&](frmOtchetMain& form) {
+    EXPECT_TRUE(form.mnuFileAssoc.Enabled());
+    form.mnuFileAssoc_Click();
+  };
+  With(&associations)->Open("");
+  EXPECT_EQ(assocsShown, 1);
+  EXPECT_TRUE(ownerShown);
+}
+
+TEST_F(WholeProgram, OffersNoAssociationsWhereTheMachineHasNone) {
+  bool offered = true;
+  inWindow = [&](frmOtchetMain& form) {
+    offered = form.mnuFileAssoc.Enabled();
+    form.mnuFileAssoc_Click();
+  };
+  With(nullptr)->Open("");
+  EXPECT_FALSE(offered);
+  EXPECT_EQ(assocsShown, 0);
 }
 
 TEST_F(WithoutHost, TellsThatNothingCanBeDrawn) {

@@ -90,13 +90,19 @@ window_manager_is_there() {
   xdotool get_desktop
 }
 
-# start_program FILE: a copy of it in a folder of its own, where it unpacks its files. It starts
-# in that folder, so that its dialogs begin there.
+# start_program FILE [ARGUMENT ...]: a copy of it in a folder of its own, where it unpacks its files.
+# It starts in that folder, so that its dialogs begin there.
 start_program() {
   mkdir -p "$desk_folder/program"
   cp "$1" "$desk_folder/program/"
+  start_in_place "./${1##*/}" "${@:2}"
+}
+
+# start_in_place COMMAND [ARGUMENT ...]: the same with the program as it is installed.
+start_in_place() {
+  mkdir -p "$desk_folder/program"
   cd "$desk_folder/program" || fail "no folder for the program"
-  env "${program_environment[@]}" "./${1##*/}" >"$desk_folder/program.log" 2>&1 &
+  env "${program_environment[@]}" "$@" >"$desk_folder/program.log" 2>&1 &
   program=$!
   desk_processes+=("$program")
   eventually 20 "the main window" main_window_or_end

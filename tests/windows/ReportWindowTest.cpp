@@ -207,7 +207,7 @@ TEST_F(ReportWindowOnScreen, StaysAsItIsWhereABadFileIsOpened) {
 TEST_F(ReportWindowOnScreen, IsNotThereWhereADocumentIsOpened) {
   screen.Outside.Files.Content["/home/a.txt"] = "beam";
   std::string text;
-  Show([this] { screen.Root.OpenDocument("/home/a.txt"); },
+  Show([this] { screen.Root.Open("/home/a.txt"); },
        [&] {
          Soon([this] { return box->TextLength() > 0; });
          text = ShownText();

@@ -68,6 +68,21 @@ TEST_F(RestoreCommand, IsCancelledWhereTheFileSystemCannotTellWhatIsThere) {
   EXPECT_EQ(desk.TakeMessages(), (Messages{notChecked, NotFound()}));
 }
 
+TEST_F(RestoreCommand, TakesAProjectThatIsHandedOverWithoutADialog) {
+  desk.Outside.Files.Content[projectPath] = ProjectBytes(Changed({{lineLengthF, "33"}}));
+  EXPECT_TRUE(form.OpenProject(projectPath));
+  EXPECT_EQ(form.txtLengthF.Text(), "33");
+  EXPECT_TRUE(desk.Outside.Dialogs.Requests.empty());
+  EXPECT_EQ(desk.TakeMessages(), Messages());
+}
+
+TEST_F(RestoreCommand, TellsThatAHandedOverFileIsNotThere) {
+  form.txtLengthF.SetText("33");
+  EXPECT_FALSE(form.OpenProject("/projects/missing.tsav"));
+  EXPECT_EQ(form.txtLengthF.Text(), "33");
+  EXPECT_EQ(desk.TakeMessages(), Messages{NotFound()});
+}
+
 TEST_F(RestoreCommand, TakesANameOfFourCharacters) {
   desk.Outside.Files.Content["фер1"] = ProjectBytes(Changed({{lineLengthF, "33"}}));
   EXPECT_TRUE(RestoreNamed("фер1"));
