@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -10,8 +11,7 @@
 #include "platform/RuntimeError.h"
 
 #ifdef _WIN32
-#include <io.h>
-#include <windows.h>
+#include "platform/win32/WindowsHeader.h"
 #else
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -81,37 +81,86 @@ RuntimeError MissingError(const fs::path& path) {
 
 #ifdef _WIN32
 
-void WriteFlushed(const fs::path& path, std::string_view bytes) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  if (!file) {
-    throw RuntimeError(ErrorNumber::PathFileAccess);
+RuntimeError FromLastError() {
+  const DWORD error = GetLastError();
+  // Another program holds the file, which the standard library takes for a busy device.
+  if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION) {
+    return RuntimeError(ErrorNumber::PermissionDenied);
   }
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (!file) {
-    throw RuntimeError(ErrorNumber::DiskFull);
-  }
+  return FromErrorCode(std::error_code(static_cast<int>(error), std::system_category()));
 }
 
-/// A stream of the standard library writes in place when it is opened for both directions.
+bool IsMissing() {
+  const DWORD error = GetLastError();
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
+/// Owns an open file.
+class FileHandle {
+ public:
+  FileHandle(const fs::path& path, DWORD sharing, DWORD disposition)
+      : handle_(CreateFileW(path.c_str(), GENERIC_WRITE, sharing, nullptr, disposition,
+                            FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  ~FileHandle() {
+    if (IsOpen()) {
+      CloseHandle(handle_);
+    }
+  }
+  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+
+  void MoveTo(std::uint64_t place) {
+    LARGE_INTEGER distance{};
+    distance.QuadPart = static_cast<LONGLONG>(place);
+    Require(SetFilePointerEx(handle_, distance, nullptr, FILE_BEGIN));
+  }
+  void WriteAll(std::string_view bytes) {
+    constexpr std::size_t mostAtOnce = 1 << 30;
+    while (!bytes.empty()) {
+      DWORD written = 0;
+      Require(WriteFile(handle_, bytes.data(),
+                        static_cast<DWORD>(std::min(bytes.size(), mostAtOnce)), &written, nullptr));
+      bytes.remove_prefix(written);
+    }
+  }
+  void Flush() { Require(FlushFileBuffers(handle_)); }
+
+ private:
+  static void Require(BOOL done) {
+    if (!done) {
+      throw FromLastError();
+    }
+  }
+
+  HANDLE handle_;
+};
+
+void WriteFlushed(const fs::path& path, std::string_view bytes) {
+  FileHandle file(path, 0, CREATE_NEW);
+  if (!file.IsOpen()) {
+    throw IsMissing() ? RuntimeError(ErrorNumber::PathNotFound) : FromLastError();
+  }
+  file.WriteAll(bytes);
+  file.Flush();
+}
+
 class DiskUpdate : public FileUpdate {
  public:
   explicit DiskUpdate(const fs::path& path)
-      : file_(path, std::ios::binary | std::ios::in | std::ios::out) {
-    if (!file_) {
-      throw RuntimeError(ErrorNumber::PathFileAccess);
+      : file_(path, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING) {
+    if (!file_.IsOpen()) {
+      throw IsMissing() ? MissingError(path) : FromLastError();
     }
   }
   void WriteAt(std::uint64_t place, std::string_view bytes) override {
-    file_.seekp(static_cast<std::streamoff>(place));
-    file_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!file_.flush()) {
-      throw RuntimeError(ErrorNumber::DiskFull);
-    }
+    file_.MoveTo(place);
+    file_.WriteAll(bytes);
+    file_.Flush();
   }
 
  private:
-  std::fstream file_;
+  FileHandle file_;
 };
 
 #else

@@ -6,6 +6,9 @@
 #include <string>
 #include <string_view>
 
+// Where the header of Windows stands before this one, a macro would rename a member.
+#undef ReplaceFile
+
 namespace trelonit {
 
 /// A file that is open for writing in place. Both members raise as the service does.

@@ -234,6 +234,8 @@ bool ReadParts(std::string_view text, char separator, double& value) {
 
 }  // namespace
 
+#ifndef _WIN32  // see win32/Win32Locale.cpp
+
 NumberLocale SystemNumberLocale() {
   NumberLocale result;
   try {
@@ -250,6 +252,8 @@ NumberLocale SystemNumberLocale() {
   }
   return result;
 }
+
+#endif
 
 std::string NumberToText(double value, const NumberLocale& locale) {
   if (Finite(value) == 0) {

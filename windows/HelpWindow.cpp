@@ -43,7 +43,7 @@ HelpWindow::HelpWindow() {
   AddFindBar();
   AddSides();
   statusBar();
-  resize(QSize(1040, 720).boundedTo(screen()->availableSize() * 9 / 10));
+  resize(QSize(1140, 760).boundedTo(screen()->availableSize() * 9 / 10));
   page_->Go(HelpPages::FirstPage());
 }
 

@@ -80,6 +80,8 @@ CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::strin
 Status RunCommandLine(int argc, const char* const* argv, const Paper& paper) {
   CLI::App app("Расчёт плоских статически определимых стальных стропильных ферм", "trelonit-cli");
   Translate(app);
+  // The same on every system: "/folder/file" is a name, not an option.
+  app.allow_windows_style_options(false);
   app.set_version_flag("--version", version, "показать версию");
   app.require_subcommand(1);
 

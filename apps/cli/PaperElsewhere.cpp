@@ -2,13 +2,14 @@
 #include <cstring>
 #include <filesystem>
 
-#ifdef _WIN32
-#include <process.h>
-#else
+#ifndef _WIN32
 #include <unistd.h>
 #endif
 
 #include "apps/cli/Paper.h"
+#ifdef _WIN32
+#include "platform/win32/Win32Console.h"
+#endif
 
 namespace trelonit::cli {
 
@@ -20,18 +21,20 @@ constexpr const char* program = "trelonit-paper.exe";
 constexpr const char* program = "trelonit-paper";
 #endif
 
-Status RunBeside(char** argv) {
+Status RunBeside([[maybe_unused]] char** argv) {
   const std::filesystem::path path = ExecutableFolder() / program;
 #ifdef _WIN32
-  const intptr_t status = _spawnv(_P_WAIT, path.string().c_str(), argv);
-  if (status >= 0) {
-    return static_cast<Status>(status);
+  if (const std::optional<int> status = RunWithOwnCommandLine(path)) {
+    return static_cast<Status>(*status);
   }
 #else
   ::execv(path.c_str(), argv);  // comes back only where it fails
 #endif
-  std::cerr << "trelonit-cli: для этого вида файла нужна программа " << program
-            << " в той же папке: " << std::strerror(errno) << '\n';
+  std::cerr << "trelonit-cli: для этого вида файла нужна программа " << program << " в той же папке"
+#ifndef _WIN32
+            << ": " << std::strerror(errno)
+#endif
+            << '\n';
   return Status::Failed;
 }
 

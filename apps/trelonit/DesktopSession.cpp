@@ -15,10 +15,22 @@
 
 namespace trelonit {
 
-DesktopSession::DesktopSession()
-    : program_({messages_, dialogs_, clipboard_, settings_, registry_, drawings_.Automation(),
-                shell_, clock_, resources_, files_, DesktopNumberLocale(), FindProgramFolder()},
-               MakeWindows()) {}
+DesktopSession::DesktopSession() : program_(Bundle(), MakeWindows()) {}
+
+Services DesktopSession::Bundle() {
+  return {messages_,
+          dialogs_,
+          clipboard_,
+          settings_,
+          registry_,
+          drawings_.Automation(),
+          shell_,
+          clock_,
+          resources_,
+          files_,
+          DesktopNumberLocale(),
+          FindProgramFolder()};
+}
 
 Program::Windows DesktopSession::MakeWindows() {
   return {.ShowKoeffOfUse = Modal<KoeffOfUseWindow, frmKoeffOfUse>(help_place::Results),
@@ -39,16 +51,8 @@ Program::Windows DesktopSession::MakeWindows() {
                 return box;
               },
           .Dialogs = &documentDialogs_,
-          .Associations = Associations(),
+          .Associations = &associations_,
           .EndProgram = [] { QApplication::exit(0); }};
-}
-
-FileAssociations* DesktopSession::Associations() {
-#ifdef _WIN32
-  return nullptr;
-#else
-  return &associations_;
-#endif
 }
 
 void DesktopSession::ShowOtchet(frmOtchetMain& form) {

@@ -11,7 +11,11 @@
 #include "windows/MainWindow.h"
 #include "windows/OfficeAutomation.h"
 #include "windows/OtchetWindow.h"
-#ifndef _WIN32
+#ifdef _WIN32
+#include "editor/ModAss.h"
+#include "platform/win32/ComAutomation.h"
+#include "platform/win32/Win32Registry.h"
+#else
 #include "editor/MimeAssociations.h"
 #include "windows/MimeDefaults.h"
 #endif
@@ -31,9 +35,8 @@ class DesktopSession {
   void Start(const std::string& commandLine);
 
  private:
+  Services Bundle();
   Program::Windows MakeWindows();
-  /// Null where the machine has none.
-  FileAssociations* Associations();
   void ShowOtchet(frmOtchetMain& form);
   QWidget* Parent() const;
   /// Shows a filled form in a window of its own until the user closes it; F1 opens the page of
@@ -58,7 +61,11 @@ class DesktopSession {
   DesktopDialogs dialogs_;
   DesktopClipboard clipboard_;
   DesktopSettings settings_;
+#ifdef _WIN32
+  Win32Registry registry_;
+#else
   NoRegistry registry_;
+#endif
   HelpViewer help_;
   HelpKey helpKey_{[this](const QString& place) { help_.OpenPlace(place); }};
   DesktopShell shell_{help_};
@@ -66,12 +73,17 @@ class DesktopSession {
   EmbeddedResources resources_;
   DiskFiles files_;
   OfficeAutomation office_{clipboard_, files_, {.Watch = ShowConversionProgress}};
+#ifdef _WIN32
+  // The machine's own programs come first.
+  ComAutomation programs_{&office_};
+  DrawingDesk drawings_{&programs_};
+  RegistryAssociations associations_{Bundle()};
+#else
   DrawingDesk drawings_{&office_};
-  DocumentDialogs documentDialogs_;
-#ifndef _WIN32
   MimeDefaults mimeDefaults_{files_, settings_};
   MimeAssociations associations_{mimeDefaults_};
 #endif
+  DocumentDialogs documentDialogs_;
   Program program_;
   // The box of the present document; the program owns it.
   QtRichTextBox* richText_ = nullptr;

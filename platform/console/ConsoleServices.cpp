@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #ifdef _WIN32
-#include <windows.h>
+#include "platform/win32/WindowsHeader.h"
 #else
 #include <pwd.h>
 #include <unistd.h>
@@ -62,25 +62,9 @@ void ConsoleShell::OpenHelp(const std::string&) {
   throw RuntimeError(ErrorNumber::CannotCreateObject);
 }
 
-#ifdef _WIN32
+#ifndef _WIN32
 
-std::string ConsoleShell::ComputerName() {
-  std::array<char, 256> name{};
-  DWORD length = static_cast<DWORD>(name.size());
-  if (!GetComputerNameA(name.data(), &length)) {
-    throw RuntimeError(ErrorNumber::DeviceIoError);
-  }
-  return {name.data(), length};
-}
-
-std::string ConsoleShell::UserName() {
-  const char* user = std::getenv("USERNAME");
-  return user != nullptr ? user : "";
-}
-
-#else
-
-std::string ConsoleShell::ComputerName() {
+std::string SystemShell::ComputerName() {
   std::array<char, 256> name{};
   if (::gethostname(name.data(), name.size() - 1) != 0) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
@@ -88,7 +72,7 @@ std::string ConsoleShell::ComputerName() {
   return name.data();
 }
 
-std::string ConsoleShell::UserName() {
+std::string SystemShell::UserName() {
   const passwd* entry = ::getpwuid(::getuid());
   return entry != nullptr ? entry->pw_name : "";
 }
@@ -122,9 +106,7 @@ std::string ToUtf8(const fs::path& path) {
 
 fs::path ExecutableFolder() {
 #ifdef _WIN32
-  std::array<wchar_t, 32768> name{};
-  GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()));
-  return fs::path(name.data()).parent_path();
+  return ExecutablePath().parent_path();
 #else
   std::error_code code;
   return fs::read_symlink("/proc/self/exe", code).parent_path();
@@ -151,8 +133,8 @@ bool IsWritable(const fs::path& folder) {
 
 fs::path UserDataFolder() {
 #ifdef _WIN32
-  const char* base = std::getenv("LOCALAPPDATA");
-  return fs::path(base != nullptr ? base : ".") / "trelonit";
+  const wchar_t* base = _wgetenv(L"LOCALAPPDATA");
+  return fs::path(base != nullptr ? base : L".") / "trelonit";
 #else
   const char* data = std::getenv("XDG_DATA_HOME");
   if (data != nullptr && data[0] == '/') {
@@ -163,6 +145,12 @@ fs::path UserDataFolder() {
 #endif
 }
 
+/// By the licence that an installation puts beside the programs; see packaging/CMakeLists.txt.
+bool IsInstalled(const fs::path& programs) {
+  std::error_code code;
+  return fs::exists(programs.parent_path() / "share" / "doc" / "trelonit" / "copyright", code);
+}
+
 }  // namespace
 
 std::string FindProgramFolder() {
@@ -170,7 +158,7 @@ std::string FindProgramFolder() {
   std::error_code code;
   const bool holdsCatalogue =
       fs::exists(own / "GOST profile.dat", code) && fs::exists(own / "Index.ind", code);
-  if (!own.empty() && (holdsCatalogue || IsWritable(own))) {
+  if (!own.empty() && (holdsCatalogue || (!IsInstalled(own) && IsWritable(own)))) {
     return ToUtf8(own);
   }
   const fs::path user = UserDataFolder();

@@ -8,6 +8,9 @@
 #include <vector>
 
 #include "platform/Services.h"
+#ifdef _WIN32
+#include "platform/win32/Win32Shell.h"
+#endif
 
 namespace trelonit {
 
@@ -79,13 +82,22 @@ class NoAutomation : public AutomationService {
   AutomationHandle Create(const std::string& programIdentifier) override;
 };
 
-/// A machine without a desktop: nothing can be started; the names are the system's.
-class ConsoleShell : public ShellService {
+#ifdef _WIN32
+using SystemShell = Win32Shell;
+#else
+/// The names of a machine that has no places of Windows.
+class SystemShell : public ShellService {
+ public:
+  std::string ComputerName() override;
+  std::string UserName() override;
+};
+#endif
+
+/// A machine without a desktop: nothing can be started; names and places are the system's.
+class ConsoleShell : public SystemShell {
  public:
   void StartProgram(const std::string& path) override;
   void OpenHelp(const std::string& path) override;
-  std::string ComputerName() override;
-  std::string UserName() override;
 };
 
 class SystemClock : public ClockService {
@@ -96,9 +108,10 @@ class SystemClock : public ClockService {
 /// The folder that this program was started from; empty where the system does not tell.
 std::filesystem::path ExecutableFolder();
 
-/// The folder for the catalogue files: the executable's own where it is writable or already holds
-/// them, otherwise the program's folder in the user's data folder (made if missing), so that an
-/// installed program works without rights.
+/// The folder for the catalogue files: the executable's own where it already holds them or is
+/// writable, otherwise the program's folder in the user's data folder (made if missing), so that an
+/// installed program works without rights. An installed program takes its own folder only where it
+/// holds the files: a superuser could write there, and nobody would take them away again.
 std::string FindProgramFolder();
 
 }  // namespace trelonit

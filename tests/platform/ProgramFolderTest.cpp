@@ -49,6 +49,12 @@ class ProgramFolder : public testing::Test {
   fs::path Home() const { return *folder_ / "home"; }
   fs::path Data() const { return *folder_ / "data"; }
   void Put(const std::string& name) const { std::ofstream(Own() / name) << name; }
+  /// As an installation does.
+  void PutLicence() const {
+    const fs::path documents = *folder_ / "share" / "doc" / "trelonit";
+    fs::create_directories(documents);
+    std::ofstream(documents / "copyright") << "MIT";
+  }
   void MakeOwnReadOnly() const { fs::permissions(Own(), fs::perms(0555)); }
 
   /// An empty value takes the variable away.
@@ -101,6 +107,18 @@ TEST_F(ProgramFolder, IsTheExecutablesOwnWhereItHoldsTheCatalogueAlready) {
   MakeOwnReadOnly();
   EXPECT_EQ(Answer({{"HOME", Home().string()}}), Own());
   EXPECT_TRUE(fs::is_empty(Home()));
+}
+
+TEST_F(ProgramFolder, IsTheUsersOwnForAnInstalledProgramWhateverItMayWrite) {
+  PutLicence();
+  EXPECT_EQ(Answer({{"HOME", Home().string()}}), Home() / ".local/share/trelonit");
+}
+
+TEST_F(ProgramFolder, IsTheInstalledProgramsOwnWhereItHoldsTheCatalogue) {
+  PutLicence();
+  Put("GOST profile.dat");
+  Put("Index.ind");
+  EXPECT_EQ(Answer({{"HOME", Home().string()}}), Own());
 }
 
 TEST_F(ProgramFolder, IsTheUsersOwnWhereTheCatalogueIsNotWhole) {

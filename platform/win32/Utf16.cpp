@@ -1,0 +1,36 @@
+#include "platform/win32/Utf16.h"
+
+#include "platform/Integers.h"
+#include "platform/win32/WindowsHeader.h"
+
+namespace trelonit {
+
+namespace {
+
+/// The system counts in 32 bits; raises 6 beyond that.
+int CountOf(std::size_t size) {
+  return RoundToLong(static_cast<double>(size));
+}
+
+}  // namespace
+
+std::wstring ToWide(std::string_view text) {
+  const int size = CountOf(text.size());
+  std::wstring wide(
+      static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), size, nullptr, 0)),
+      L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), CountOf(wide.size()));
+  return wide;
+}
+
+std::string FromWide(std::wstring_view text) {
+  const int size = CountOf(text.size());
+  std::string narrow(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), size,
+                                                                  nullptr, 0, nullptr, nullptr)),
+                     '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text.data(), size, narrow.data(), CountOf(narrow.size()), nullptr,
+                      nullptr);
+  return narrow;
+}
+
+}  // namespace trelonit

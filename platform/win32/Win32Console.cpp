@@ -1,0 +1,58 @@
+#include "platform/win32/Win32Console.h"
+
+#include <memory>
+
+#include "platform/win32/Utf16.h"
+#include "platform/win32/WindowsHeader.h"
+
+namespace trelonit {
+
+namespace {
+
+struct LocalMemory {
+  void operator()(void* memory) const { LocalFree(memory); }
+};
+
+std::vector<std::string> OwnArguments() {
+  int count = 0;
+  const std::unique_ptr<wchar_t*, LocalMemory> wide(CommandLineToArgvW(GetCommandLineW(), &count));
+  std::vector<std::string> arguments;
+  for (int i = 0; wide != nullptr && i < count; ++i) {
+    arguments.push_back(FromWide(wide.get()[i]));
+  }
+  return arguments;
+}
+
+}  // namespace
+
+Utf8Console::Utf8Console() : codePage_(GetConsoleOutputCP()), arguments_(OwnArguments()) {
+  for (std::string& argument : arguments_) {
+    places_.push_back(argument.data());
+  }
+  places_.push_back(nullptr);
+  SetConsoleOutputCP(CP_UTF8);
+}
+
+Utf8Console::~Utf8Console() {
+  SetConsoleOutputCP(codePage_);
+}
+
+std::optional<int> RunWithOwnCommandLine(const std::filesystem::path& program) {
+  // The call may write into the text that it is given.
+  std::wstring line = GetCommandLineW();
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                      &start, &process)) {
+    return std::nullopt;
+  }
+  WaitForSingleObject(process.hProcess, INFINITE);
+  DWORD status = 1;
+  GetExitCodeProcess(process.hProcess, &status);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return static_cast<int>(status);
+}
+
+}  // namespace trelonit
