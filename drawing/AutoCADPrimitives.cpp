@@ -1,7 +1,7 @@
 #include <variant>
 
-#include "drawing/HostMembers.h"
 #include "drawing/clsAutoCAD.h"
+#include "platform/AutomationMembers.h"
 #include "platform/Guard.h"
 #include "platform/RuntimeError.h"
 

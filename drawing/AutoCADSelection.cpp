@@ -2,8 +2,8 @@
 #include <array>
 #include <optional>
 
-#include "drawing/HostMembers.h"
 #include "drawing/clsAutoCAD.h"
+#include "platform/AutomationMembers.h"
 #include "platform/Controls.h"
 #include "platform/Guard.h"
 #include "platform/RuntimeError.h"

@@ -1,6 +1,6 @@
 #include "drawing/SchemeDrawing.h"
 
-#include "drawing/HostMembers.h"
+#include "platform/AutomationMembers.h"
 
 namespace trelonit {
 

@@ -4,7 +4,7 @@
 #include <random>
 #include <utility>
 
-#include "drawing/HostMembers.h"
+#include "platform/AutomationMembers.h"
 #include "platform/Guard.h"
 
 namespace trelonit {

@@ -5,7 +5,7 @@
 
 #include "drawing/ForceScheme.h"
 #include "drawing/GeometryScheme.h"
-#include "drawing/HostMembers.h"
+#include "platform/AutomationMembers.h"
 #include "platform/Guard.h"
 
 namespace trelonit {

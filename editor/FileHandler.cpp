@@ -8,6 +8,7 @@
 
 #include "editor/ModCmnDlg.h"
 #include "editor/TextUnits.h"
+#include "platform/AutomationMembers.h"
 #include "platform/CodePage1251.h"
 #include "platform/Guard.h"
 #include "platform/RuntimeError.h"
@@ -108,14 +109,6 @@ Long CountWords(const std::string& text) {
   }
 }
 
-AutomationHandle ObjectOf(const AutomationValue& value) {
-  const auto* object = std::get_if<AutomationHandle>(&value);
-  if (object == nullptr || *object == nullptr) {
-    throw RuntimeError(ErrorNumber::ObjectNotSet);
-  }
-  return *object;
-}
-
 /// The word processor for one conversion. It ends whatever happened.
 class Word {
  public:
@@ -129,8 +122,8 @@ class Word {
   Word(const Word&) = delete;
   Word& operator=(const Word&) = delete;
 
-  AutomationHandle Documents() { return ObjectOf(application_->Get("Documents")); }
-  AutomationHandle ActiveDocument() { return ObjectOf(application_->Get("ActiveDocument")); }
+  AutomationHandle Documents() { return ObjectMember(application_, "Documents"); }
+  AutomationHandle ActiveDocument() { return ObjectMember(application_, "ActiveDocument"); }
   /// The last step of a conversion, which fails where this does.
   void Quit() {
     ended_ = true;
@@ -266,8 +259,8 @@ std::string StatisticsText(const RichTextBox& rtf, const std::string& fileName,
 void ReadWordDocument(const Services& services, const std::string& name, RichTextBox& rtf) {
   {
     Word word(services.Automation);
-    word.Documents()->Call("Open", {name});
-    ObjectOf(word.ActiveDocument()->Get("Content"))->Call("Copy", {});
+    CallMember(word.Documents(), "Open", {name});
+    CallMember(ObjectMember(word.ActiveDocument(), "Content"), "Copy");
     word.Quit();
   }
   const std::string rich = services.Clipboard.RichText();
@@ -280,11 +273,11 @@ void ReadWordDocument(const Services& services, const std::string& name, RichTex
 
 void WriteWordDocument(const Services& services, const std::string& name, const RichTextBox& rtf) {
   Word word(services.Automation);
-  word.Documents()->Call("Add", {});
+  CallMember(word.Documents(), "Add");
   services.Clipboard.SetRichText(rtf.TextRTF(), rtf.Text());
   const AutomationHandle document = word.ActiveDocument();
-  ObjectOf(document->Get("Content"))->Call("Paste", {});
-  document->Call("SaveAs", {name});
+  CallMember(ObjectMember(document, "Content"), "Paste");
+  CallMember(document, "SaveAs", {name});
   word.Quit();
 }
 

@@ -6,6 +6,8 @@
 #include <optional>
 #include <variant>
 
+#include "platform/AutomationMembers.h"
+
 namespace trelonit {
 
 namespace {
@@ -103,18 +105,14 @@ std::string SendToShortcut(ShellService& shell) {
 
 void CreateSendToShortcut(AutomationService& automation, ShellService& shell) {
   const std::string program = ExecutableName(shell);
-  const AutomationHandle host = automation.Create("WScript.Shell");
-  const AutomationValue made = host->Call("CreateShortcut", {SendToShortcut(shell)});
-  const auto* shortcut = std::get_if<AutomationHandle>(&made);
-  if (shortcut == nullptr || !*shortcut) {
-    throw RuntimeError(ErrorNumber::ObjectNotSet);
-  }
-  (*shortcut)->Set("TargetPath", program);
-  (*shortcut)->Set("WorkingDirectory", program.substr(0, program.find_last_of("\\/")));
-  (*shortcut)->Set("WindowStyle", normalWindow);
-  (*shortcut)->Set("IconLocation", program + ",0");
-  (*shortcut)->Set("Description", std::string("A better note pad"));
-  (*shortcut)->Call("Save", {});
+  const AutomationHandle shortcut =
+      CallForObject(automation.Create("WScript.Shell"), "CreateShortcut", {SendToShortcut(shell)});
+  SetMember(shortcut, "TargetPath", program);
+  SetMember(shortcut, "WorkingDirectory", program.substr(0, program.find_last_of("\\/")));
+  SetMember(shortcut, "WindowStyle", normalWindow);
+  SetMember(shortcut, "IconLocation", program + ",0");
+  SetMember(shortcut, "Description", std::string("A better note pad"));
+  CallMember(shortcut, "Save");
 }
 
 void RemoveSendToShortcut(FileService& files, ShellService& shell) {

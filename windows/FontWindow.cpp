@@ -32,16 +32,18 @@ class FontLists : public QFontDialog {
 
 /// What the lists are to begin with. A missing family gives way to the one that the text is really
 /// shown in; the style has the name that this family calls it by, for under another one the lists
-/// would begin with any of its styles.
+/// would begin with any of its styles. A family without italics begins with an upright one.
 QFont ShownFont(const CharFormat& format) {
   QFont font = FontFor(format);
   const QString family = QFontInfo(font).family();
   font.setFamilies({family});
-  int nearest = QFont::Black;
+  constexpr int otherSlope = QFont::Black;  // further than any weight
+  int nearest = 2 * otherSlope;
   for (const QString& style : QFontDatabase::styles(family)) {
     const QFont candidate = QFontDatabase::font(family, style, font.pointSize());
-    const int distance = std::abs(candidate.weight() - font.weight());
-    if (candidate.italic() == font.italic() && distance < nearest) {
+    const int distance = std::abs(candidate.weight() - font.weight()) +
+                         (candidate.italic() == font.italic() ? 0 : otherSlope);
+    if (distance < nearest) {
       nearest = distance;
       font.setStyleName(style);
     }
@@ -96,13 +98,16 @@ void FontWindow::ShowColor() {
 CharFormat FontWindow::Chosen() const {
   const QFont font = fonts_->currentFont();
   CharFormat format;
-  // A family that this machine does not have shows as another one, a broken size as a whole one:
-  // whoever does not touch them keeps them.
-  format.FontName = font.family() == offered_.family() ? present_.FontName : FromQt(font.family());
+  // A family that this machine does not have shows as another one, a style that the family does not
+  // have likewise, a broken size as a whole one: whoever does not touch them keeps them.
+  const bool sameFamily = font.family() == offered_.family();
+  const bool sameStyle =
+      sameFamily && font.bold() == offered_.bold() && font.italic() == offered_.italic();
+  format.FontName = sameFamily ? present_.FontName : FromQt(font.family());
   format.FontSize =
       font.pointSizeF() == offered_.pointSizeF() ? present_.FontSize : font.pointSizeF();
-  format.Bold = font.bold();
-  format.Italic = font.italic();
+  format.Bold = sameStyle ? present_.Bold : font.bold();
+  format.Italic = sameStyle ? present_.Italic : font.italic();
   format.Underline = font.underline();
   format.StrikeThru = font.strikeOut();
   format.TextColor = color_;

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "drawing/HostMembers.h"
 #include "drawing/host/Drawing.h"
+#include "platform/AutomationMembers.h"
 #include "platform/Services.h"
 
 namespace trelonit {

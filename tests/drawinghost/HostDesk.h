@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "drawing/HostMembers.h"
 #include "drawing/clsAutoCAD.h"
 #include "drawing/host/BuiltInHost.h"
 #include "drawing/modACADExport.h"
+#include "platform/AutomationMembers.h"
 #include "tests/analysis/Designs.h"
 #include "tests/support/TestServices.h"
 

@@ -1,7 +1,7 @@
 #include <QPointer>
 #include <QTimer>
 
-#include "drawing/HostMembers.h"
+#include "platform/AutomationMembers.h"
 #include "tests/drawinghost/HostDesk.h"
 #include "tests/windows/DialogHands.h"
 #include "windows/DrawingDesk.h"

@@ -1,4 +1,4 @@
-#include "drawing/HostMembers.h"
+#include "platform/AutomationMembers.h"
 
 #include <variant>
 
