@@ -6,6 +6,7 @@
 #include "catalogue/DataFile.h"
 #include "catalogue/RecordCoding.h"
 #include "platform/CodePage1251.h"
+#include "platform/FileBytes.h"
 #include "platform/Guard.h"
 #include "platform/NumberText.h"
 
@@ -61,11 +62,6 @@ std::string EncodeAll(const BoundedArray<ProfileRec>& records) {
     bytes.append(encoded.data(), encoded.size());
   }
   return bytes;
-}
-
-std::string ReadAll(FileService& files, const std::string& path) {
-  const std::unique_ptr<std::istream> stream = files.OpenForReading(path);
-  return {std::istreambuf_iterator<char>(*stream), std::istreambuf_iterator<char>()};
 }
 
 FixedText<15> RepairedName(const FixedText<15>& name, Long number) {
@@ -269,7 +265,7 @@ void frmDataManager::CheckueDB_Click() {
       repaired[number].Name = RepairedName(repaired[number].Name, number);
     }
     // Nothing is rewritten before the copy is there.
-    services_.Files.ReplaceFile(path + ".bak", ReadAll(services_.Files, path));
+    services_.Files.ReplaceFile(path + ".bak", ReadBytes(services_.Files, path));
   });
   if (!ready) {
     return;

@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <istream>
-#include <iterator>
 #include <string_view>
 
 #include "editor/ModCmnDlg.h"
 #include "editor/TextUnits.h"
 #include "platform/AutomationMembers.h"
 #include "platform/CodePage1251.h"
+#include "platform/FileBytes.h"
 #include "platform/Guard.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
@@ -207,20 +206,7 @@ std::string NameToSave(const std::string& name, Long filterIndex) {
 }
 
 std::string ReadPlainText(FileService& files, const std::string& name) {
-  return Decoded(ReadDocumentBytes(files, name));
-}
-
-std::string ReadDocumentBytes(FileService& files, const std::string& name) {
-  const std::uint64_t length = files.FileLength(name);
-  const std::unique_ptr<std::istream> file = files.OpenForReading(name);
-  std::string bytes(static_cast<std::size_t>(length), '\0');
-  file->read(bytes.data(), static_cast<std::streamsize>(length));
-  if (file->bad()) {
-    throw RuntimeError(ErrorNumber::DeviceIoError);
-  }
-  // The file may have become shorter in between.
-  bytes.resize(static_cast<std::size_t>(file->gcount()));
-  return bytes;
+  return Decoded(ReadBytes(files, name));
 }
 
 void WritePlainText(FileService& files, const std::string& name, const std::string& text) {

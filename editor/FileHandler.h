@@ -33,8 +33,6 @@ std::string ReplaceExtension(const std::string& name, DocumentFormat format);
 /// tells the format, another extension gives way to it.
 std::string NameToSave(const std::string& name, Long filterIndex);
 
-/// All bytes of a file. Raises as the files do.
-std::string ReadDocumentBytes(FileService& files, const std::string& name);
 /// The bytes of a file as a text. Marks of UTF-16 in both byte orders are known; without one the
 /// bytes are UTF-8 where they can be, else code page 1251.
 std::string ReadPlainText(FileService& files, const std::string& name);

@@ -2,6 +2,7 @@
 
 #include "editor/RtfHealth.h"
 #include "editor/frmOtchetMain.h"
+#include "platform/FileBytes.h"
 #include "platform/Guard.h"
 #include "platform/RuntimeError.h"
 
@@ -163,7 +164,7 @@ bool frmOtchetMain::ReadDocument(const std::string& name, DocumentFormat format)
 }
 
 bool frmOtchetMain::ReadRichText(const std::string& name) {
-  const std::string bytes = ReadDocumentBytes(services_.Files, name);
+  const std::string bytes = ReadBytes(services_.Files, name);
   if (!bytes.empty() && !BeginsAsRtf(bytes)) {
     services_.Messages.Show({.Text = "Файл не содержит текста в формате RTF.\n" + name,
                              .Style = MessageStyle::Exclamation});

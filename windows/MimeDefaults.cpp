@@ -6,10 +6,10 @@
 #include <QStandardPaths>
 #include <algorithm>
 #include <iterator>
-#include <memory>
 #include <set>
 #include <vector>
 
+#include "platform/FileBytes.h"
 #include "platform/RuntimeError.h"
 #include "windows/Binding.h"
 #include "windows/MimeAppsList.h"
@@ -97,11 +97,7 @@ std::optional<std::string> Without(const std::string& line, const std::string& m
 
 /// Empty where there is no such file.
 std::string ReadText(FileService& files, const std::string& path) {
-  if (!files.FileExists(path)) {
-    return {};
-  }
-  const std::unique_ptr<std::istream> stream = files.OpenForReading(path);
-  return {std::istreambuf_iterator<char>(*stream), {}};
+  return files.FileExists(path) ? ReadBytes(files, path) : std::string();
 }
 
 /// Access that fails in any other way than by right or room is one error to the caller.

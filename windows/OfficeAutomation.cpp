@@ -1,7 +1,6 @@
 #include "windows/OfficeAutomation.h"
 
 #include <QFileInfo>
-#include <iterator>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -9,6 +8,7 @@
 #include "editor/MemoryRichTextBox.h"
 #include "editor/RtfReader.h"
 #include "editor/RtfWriter.h"
+#include "platform/FileBytes.h"
 #include "windows/OfficeProgram.h"
 
 namespace trelonit {
@@ -92,8 +92,7 @@ std::string WordSession::ReadDocument(const std::string& path) {
   if (files_.FileLength(path) > longestDocument) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
   }
-  const auto stream = files_.OpenForReading(path);
-  std::string bytes(std::istreambuf_iterator<char>(*stream), {});
+  std::string bytes = ReadBytes(files_, path);
   // Word opens rich text whatever the name says.
   if (bytes.starts_with(richTextSignature)) {
     return bytes;

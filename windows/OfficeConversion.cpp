@@ -6,9 +6,8 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <QUrl>
-#include <iterator>
 
-#include "platform/Files.h"
+#include "platform/FileBytes.h"
 #include "windows/OfficeProfile.h"
 
 #ifndef Q_OS_WIN
@@ -161,11 +160,7 @@ class WorkFolder {
 std::string ReadResult(const QString& path) {
   DiskFiles files;
   const std::string name = path.toStdString();
-  if (!files.FileExists(name)) {
-    return {};
-  }
-  const auto stream = files.OpenForReading(name);
-  return {std::istreambuf_iterator<char>(*stream), {}};
+  return files.FileExists(name) ? ReadBytes(files, name) : std::string();
 }
 
 /// One run of the converter; empty where it gives no result.

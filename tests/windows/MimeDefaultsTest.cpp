@@ -6,6 +6,7 @@
 
 #include "editor/MimeAssociations.h"
 #include "editor/frmAssoc.h"
+#include "tests/support/FailingDisk.h"
 #include "tests/support/TestServices.h"
 #include "tests/windows/MimeHome.h"
 
@@ -213,6 +214,17 @@ TEST_F(MimeDefaultsInFiles, TellARefusalAndAFullDiskFromOtherFailures) {
     EXPECT_EQ(Text(userList), List("text/plain=other.desktop;\n"));
     Put(userList, before);
   }
+}
+
+TEST_F(MimeDefaultsInFiles, DoNotReplaceAListThatCannotBeReadToItsEnd) {
+  const std::string before = List("text/plain=editor.desktop\n");
+  Put(userList, before);
+  FailingDisk disk;
+  MimeDefaults defaults(disk, Settings);
+  EXPECT_EQ(defaults.DefaultProgram(plain), "");
+  EXPECT_EQ(NumberOf([&] { defaults.SetDefaultProgram(plain, own); }), 75);
+  EXPECT_EQ(NumberOf([&] { defaults.UndoDefaultProgram(plain, own); }), 75);
+  EXPECT_EQ(Text(userList), before);
 }
 
 TEST_F(MimeDefaultsInFiles, CanBeUndoneOnceTheListCanBeStoredAgain) {
