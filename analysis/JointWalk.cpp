@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
+#include "analysis/Scheme.h"
 #include "platform/NumberText.h"
 
 namespace trelonit {
 
 namespace {
-
-constexpr std::int64_t maxKnotNum = 1000;
 
 BoundedArray<double> CopyFrom(Long lower, const Reals& values) {
   const Long count = values.UpperBound() - values.LowerBound() + 1;
@@ -88,10 +87,11 @@ void Moments::AddSpaced(const Reals& loads, Real distance, Real spacing) {
 }
 
 Long RequireKnotNum(std::int64_t knotNum) {
-  if (knotNum > maxKnotNum) {
+  constexpr std::int64_t most = mostJoints;
+  if (knotNum > most) {
     RaiseSubscriptOutOfRange();
   }
-  return static_cast<Long>(std::max(knotNum, -maxKnotNum));
+  return static_cast<Long>(std::max(knotNum, -most));
 }
 
 void PutBar(SquareTable<double>& bars, Long joint, Long otherJoint, Real force) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "platform/BoundedArray.h"
 #include "platform/FixedText.h"
 
@@ -29,9 +27,6 @@ struct LoadBounds {
   Long DwnDistForce = 0;
 };
 
-/// The bounds for schemes 1 to 5; nothing for the schemes whose joints are not settled yet.
-std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum);
-
 /// Four arrays of zeros with these bounds. Raises 9 for a bound below 0: every chord has at least
 /// one joint and one panel.
 LoadArrays ZeroLoads(const LoadBounds& bounds);
@@ -53,15 +48,15 @@ struct TreloData : LoadArrays {
 /// The output of an analysis. A reserved scheme and a failed solver give an empty one: numbers 0,
 /// arrays unallocated. Bar force arrays are one-based, left to right.
 struct TreloResult {
-  Long KnotNum = 0;                    ///< number of joints J
-  double AngleOporn = 0;               ///< slope of the support diagonals
-  double AngleRaskos = 0;              ///< slope of the regular diagonals; 0 in scheme 3
-  double LenPanel = 0;                 ///< length d of a regular panel
-  double LenOpornRaskos = 0;           ///< length of one support diagonal
-  double LenRaskos = 0;                ///< length of one regular diagonal
-  BoundedArray<double> UpKnotLoad;     ///< assembled loads of the upper joints, zero-based
-  BoundedArray<double> DwnKnotLoad;    ///< the same for the lower joints
-  double ReactLeft = 0;                ///< positive upward
+  Long KnotNum = 0;                  ///< number of joints J
+  double AngleOporn = 0;             ///< slope of the support diagonals
+  double AngleRaskos = 0;            ///< slope of the regular diagonals; 0 in scheme 3
+  double LenPanel = 0;               ///< length d of a regular panel
+  double LenOpornRaskos = 0;         ///< length of one support diagonal
+  double LenRaskos = 0;              ///< length of one regular diagonal
+  BoundedArray<double> UpKnotLoad;   ///< assembled loads of the upper joints, zero-based
+  BoundedArray<double> DwnKnotLoad;  ///< the same for the lower joints
+  double ReactLeft = 0;              ///< positive upward
   double ReactRight = 0;
   SquareTable<double> BarForce;        ///< J x J: force in the bar between two joints, else 0
   BoundedArray<double> UpPoyasForce;   ///< upper chord bars

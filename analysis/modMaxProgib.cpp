@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
 #include "platform/Arithmetic.h"
 #include "platform/Guard.h"

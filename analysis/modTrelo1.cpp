@@ -24,8 +24,8 @@ TreloResult SolveScheme(const TreloData& data) {
   // Intended: at the last upper joint but one the two panel lengths stand the other way round than
   // the geometry has them. Reactions and walk use the same load, so the truss stays balanced; with
   // equal panel loads it makes no difference.
-  Pu[n - 1] = data.UpDistForce[n - 2] * Lop / 2 + data.UpPForce[n - 1] +
-              d * data.UpDistForce[n - 1] / 2;
+  Pu[n - 1] =
+      data.UpDistForce[n - 2] * Lop / 2 + data.UpPForce[n - 1] + d * data.UpDistForce[n - 1] / 2;
 
   Moments moments;
   moments.AddColumns(Pu, panels);

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <iostream>
 
+#include "analysis/Scheme.h"
+
 namespace trelonit::bench {
 
 TreloData LoadedTruss(Long scheme, Long panelNum) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "analysis/modMaxProgib.h"
+#include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
 #include "bench/Designs.h"
 #include "bench/DesktopCost.h"

@@ -1,5 +1,6 @@
 #include "workstation/Loads.h"
 
+#include "analysis/Scheme.h"
 #include "platform/Arithmetic.h"
 
 namespace trelonit {

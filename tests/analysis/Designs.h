@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "analysis/modDatatypes.h"
+#include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
 #include "tests/support/TestServices.h"
 

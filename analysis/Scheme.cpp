@@ -1,0 +1,259 @@
+#include "analysis/Scheme.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "platform/RuntimeError.h"
+
+namespace trelonit {
+
+namespace {
+
+bool FallsToTheMiddle(Long panel, Long n) {
+  return panel < n / 2;
+}
+
+bool FirstUpToTheMiddle(Long column, Long n) {
+  return column < n / 2;
+}
+
+bool Never(Long /*column*/, Long /*n*/) {
+  return false;
+}
+
+constexpr std::array<Scheme, 10> schemes{{
+    // Parallel chords, held below, a vertical at every column.
+    {.Number = 1,
+     .Reserved = false,
+     .LastLowerJoint = [](Long n) { return n; },
+     .LowerHalfColumn = [](Long joint) { return 2 * joint; },
+     .FallsToTheRight = FallsToTheMiddle,
+     .LowerJointFirst = FirstUpToTheMiddle},
+    // Held above, no lower joints under the supports.
+    {.Number = 2,
+     .Reserved = false,
+     .HeldBelow = false,
+     .LastLowerJoint = [](Long n) { return n - 2; },
+     .LowerHalfColumn = [](Long joint) { return 2 * (joint + 1); },
+     .FallsToTheRight = FallsToTheMiddle,
+     .LowerJointFirst = FirstUpToTheMiddle},
+    // Triangles without verticals: the lower joints stand between the columns.
+    {.Number = 3,
+     .Reserved = false,
+     .HasVerticals = false,
+     .HeldBelow = false,
+     .OwnEndPanels = false,
+     .FewestPanels = 2,
+     .PanelStep = 1,
+     .LastLowerJoint = [](Long n) { return n - 1; },
+     .LowerHalfColumn = [](Long joint) { return 2 * joint + 1; },
+     .LowerJointFirst = Never},
+    // Triangles with a vertical in each: a lower joint under every odd column.
+    {.Number = 4,
+     .Reserved = false,
+     .HeldBelow = false,
+     .LastLowerJoint = [](Long n) { return n / 2 - 1; },
+     .LowerHalfColumn = [](Long joint) { return 2 * (2 * joint + 1); },
+     .FallsToTheRight = [](Long panel, Long /*n*/) { return panel % 2 == 0; },
+     .LowerJointFirst = Never},
+    // Its last lower joint is settled, for its loads; nothing else is.
+    {.Number = 5, .LastLowerJoint = [](Long n) { return n / 2; }},
+    {.Number = 6},
+    {.Number = 7},
+    {.Number = 8},
+    {.Number = 9},
+    {.Number = 10},
+}};
+
+/// Puts the joints and bars of one design together.
+class TrussBuilder {
+ public:
+  TrussBuilder(const TreloData& data, const Scheme& scheme)
+      : data_(data),
+        scheme_(scheme),
+        n_(data.PanelNum),
+        lastLower_(scheme.LastLowerJoint(n_)),
+        upperAtColumn_(static_cast<std::size_t>(n_) + 1),
+        lowerAtHalfColumn_(2 * static_cast<std::size_t>(n_) + 1, noJoint) {}
+
+  Truss Build() {
+    PutJoints();
+    PutChord(ElementGroup::UpPoyas, &TreloResult::UpPoyasForce, truss_.Upper);
+    PutChord(ElementGroup::DwnPoyas, &TreloResult::DwnPoyasForce, truss_.Lower);
+    PutVerticals();
+    PutDiagonals();
+    const std::vector<std::size_t>& held = scheme_.HeldBelow ? truss_.Lower : truss_.Upper;
+    truss_.LeftSupport = held.front();
+    truss_.RightSupport = held.back();
+    return std::move(truss_);
+  }
+
+ private:
+  static constexpr std::size_t noJoint = static_cast<std::size_t>(-1);
+
+  double ColumnX(Long column) const {
+    if (column == 0) {
+      return 0;
+    }
+    if (column == n_) {
+      return data_.LengthF;
+    }
+    return scheme_.OwnEndPanels
+               ? data_.LenOporn + static_cast<double>(column - 1) *
+                                      (data_.LengthF - 2 * data_.LenOporn) /
+                                      static_cast<double>(n_ - 2)
+               : data_.LengthF / static_cast<double>(n_) * static_cast<double>(column);
+  }
+
+  double HalfColumnX(Long halfColumn) const {
+    const Long column = halfColumn / 2;
+    return halfColumn % 2 == 0 ? ColumnX(column) : (ColumnX(column) + ColumnX(column + 1)) / 2;
+  }
+
+  void PutJoint(Chord chord, Long halfColumn) {
+    std::vector<std::size_t>& joints = chord == Chord::Upper ? truss_.Upper : truss_.Lower;
+    const std::size_t place = truss_.Joints.size();
+    truss_.Joints.push_back({.Of = chord,
+                             .Index = static_cast<Long>(joints.size()),
+                             .Number = static_cast<Long>(place) + 1,
+                             .X = HalfColumnX(halfColumn),
+                             .Y = chord == Chord::Upper ? data_.Hight : 0});
+    joints.push_back(place);
+    if (chord == Chord::Upper) {
+      upperAtColumn_[static_cast<std::size_t>(halfColumn / 2)] = place;
+    } else {
+      lowerAtHalfColumn_[static_cast<std::size_t>(halfColumn)] = place;
+    }
+  }
+
+  void PutJoints() {
+    truss_.Joints.reserve(upperAtColumn_.size() + static_cast<std::size_t>(lastLower_) + 1);
+    Long lower = 0;
+    for (Long halfColumn = 0; halfColumn <= 2 * n_; ++halfColumn) {
+      const bool hasLower = lower <= lastLower_ && scheme_.LowerHalfColumn(lower) == halfColumn;
+      const bool lowerFirst = hasLower && scheme_.LowerJointFirst(halfColumn / 2, n_);
+      if (lowerFirst) {
+        PutJoint(Chord::Lower, halfColumn);
+      }
+      if (halfColumn % 2 == 0) {
+        PutJoint(Chord::Upper, halfColumn);
+      }
+      if (hasLower && !lowerFirst) {
+        PutJoint(Chord::Lower, halfColumn);
+      }
+      lower += hasLower ? 1 : 0;
+    }
+  }
+
+  std::size_t Upper(Long column) const { return upperAtColumn_[static_cast<std::size_t>(column)]; }
+  std::size_t Lower(Long halfColumn) const {
+    return lowerAtHalfColumn_[static_cast<std::size_t>(halfColumn)];
+  }
+
+  void Add(ElementGroup group, Long number, BoundedArray<double> TreloResult::*forces,
+           Long subscript, std::size_t a, std::size_t b) {
+    const TrussJoint& from = truss_.Joints[a];
+    const TrussJoint& to = truss_.Joints[b];
+    truss_.Bars.push_back({.Group = group,
+                           .Number = number,
+                           .Forces = forces,
+                           .Subscript = subscript,
+                           .A = a,
+                           .B = b,
+                           .Length = std::hypot(to.X - from.X, to.Y - from.Y)});
+  }
+
+  void PutChord(ElementGroup group, BoundedArray<double> TreloResult::*forces,
+                const std::vector<std::size_t>& joints) {
+    for (std::size_t bar = 1; bar < joints.size(); ++bar) {
+      const auto number = static_cast<Long>(bar);
+      Add(group, number, forces, number, joints[bar - 1], joints[bar]);
+    }
+  }
+
+  void PutVerticals() {
+    Long number = 0;
+    for (Long column = 0; column <= n_; ++column) {
+      if (const std::size_t lower = Lower(2 * column); lower != noJoint) {
+        ++number;
+        Add(ElementGroup::Stoyka, number, &TreloResult::StoykaForce, number, lower, Upper(column));
+      }
+    }
+  }
+
+  /// The diagonals from the left as pairs of joints; the first and the last are the support
+  /// diagonals.
+  std::vector<std::pair<std::size_t, std::size_t>> DiagonalEnds() const {
+    std::vector<std::pair<std::size_t, std::size_t>> ends;
+    for (Long panel = 0; panel < n_; ++panel) {
+      if (const std::size_t between = Lower(2 * panel + 1); between != noJoint) {
+        ends.emplace_back(Upper(panel), between);
+        ends.emplace_back(between, Upper(panel + 1));
+      } else if (scheme_.FallsToTheRight(panel, n_)) {
+        ends.emplace_back(Upper(panel), Lower(2 * (panel + 1)));
+      } else {
+        ends.emplace_back(Lower(2 * panel), Upper(panel + 1));
+      }
+    }
+    return ends;
+  }
+
+  void PutDiagonals() {
+    const auto ends = DiagonalEnds();
+    const auto last = static_cast<Long>(ends.size());
+    const auto put = [&](ElementGroup group, Long number, Long subscript) {
+      const auto& [a, b] = ends[static_cast<std::size_t>(subscript - 1)];
+      Add(group, number, &TreloResult::RaskosForce, subscript, a, b);
+    };
+    for (Long subscript = 2; subscript < last; ++subscript) {
+      put(ElementGroup::Raskos, subscript - 1, subscript);
+    }
+    put(ElementGroup::OpornRaskos, 1, 1);
+    put(ElementGroup::OpornRaskos, 2, last);
+  }
+
+  const TreloData& data_;
+  const Scheme& scheme_;
+  Long n_;
+  Long lastLower_;
+  std::vector<std::size_t> upperAtColumn_;
+  std::vector<std::size_t> lowerAtHalfColumn_;
+  Truss truss_;
+};
+
+}  // namespace
+
+bool Scheme::HasPanelNum(Long n) const {
+  return n >= FewestPanels && (n - FewestPanels) % PanelStep == 0;
+}
+
+const Scheme* FindScheme(Long number) {
+  const bool known = number >= 1 && number <= static_cast<Long>(schemes.size());
+  return known ? &schemes[static_cast<std::size_t>(number - 1)] : nullptr;
+}
+
+std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum) {
+  const Scheme* scheme = FindScheme(treloType);
+  if (scheme == nullptr || scheme->LastLowerJoint == nullptr) {
+    return std::nullopt;
+  }
+  const Long lastLower = scheme->LastLowerJoint(panelNum);
+  return LoadBounds{.UpPForce = panelNum,
+                    .UpDistForce = panelNum - 1,
+                    .DwnPForce = lastLower,
+                    .DwnDistForce = lastLower - 1};
+}
+
+Truss TrussOf(const TreloData& data) {
+  const Scheme* scheme = FindScheme(data.TreloType);
+  if (scheme == nullptr || scheme->Reserved || !scheme->HasPanelNum(data.PanelNum)) {
+    throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+  }
+  if (data.PanelNum > mostJoints) {
+    RaiseSubscriptOutOfRange();
+  }
+  return TrussBuilder(data, *scheme).Build();
+}
+
+}  // namespace trelonit

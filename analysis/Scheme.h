@@ -1,0 +1,93 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "analysis/ElementGroup.h"
+#include "analysis/modDatatypes.h"
+
+namespace trelonit {
+
+// What a truss scheme is, in one table: where its joints stand, which bars join them, where it is
+// held, how many panels it may have. Columns are the verticals through the upper joints, 0 to n;
+// panel c lies between the columns c and c + 1.
+
+/// One scheme. Rules of a scheme are routines, since all of them depend on the panel count n.
+struct Scheme {
+  Long Number = 0;
+  /// Without joints and bars: the scheme has a place in the program and no body yet.
+  bool Reserved = true;
+  bool HasVerticals = true;
+  /// Held at the ends of the lower chord, otherwise at those of the upper one.
+  bool HeldBelow = true;
+  /// The two end panels have a length of their own; otherwise all panels are L / n.
+  bool OwnEndPanels = true;
+  Long FewestPanels = 4;
+  Long PanelStep = 2;
+  /// Index of the last lower joint; null where it is not settled.
+  Long (*LastLowerJoint)(Long n) = nullptr;
+  /// Place of a lower joint in half columns: even under a column, odd between two of them.
+  Long (*LowerHalfColumn)(Long joint) = nullptr;
+  /// Whether the diagonal of a panel falls to the right, from its upper left to its lower right
+  /// joint. Not asked where a lower joint stands between the columns: there both run to it.
+  bool (*FallsToTheRight)(Long panel, Long n) = nullptr;
+  /// Whether the lower joint of a column has its number before the upper one.
+  bool (*LowerJointFirst)(Long column, Long n) = nullptr;
+
+  /// Whether the scheme exists with this many panels.
+  bool HasPanelNum(Long n) const;
+};
+
+/// The most panels on offer, in every scheme.
+constexpr Long mostPanels = 30;
+/// No truss has more joints, whatever a damaged input asks for.
+constexpr Long mostJoints = 1000;
+
+/// The row of a scheme; null for a number outside 1 to 10. The rows live as long as the program.
+const Scheme* FindScheme(Long number);
+
+/// Upper bounds of the load arrays of a scheme; nothing where its joints are not settled yet.
+std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum);
+
+enum class Chord { Upper, Lower };
+
+/// Metres from the left end of the lower edge of the truss, Y upward.
+struct TrussJoint {
+  Chord Of = Chord::Upper;
+  Long Index = 0;   ///< on its chord from the left, from 0: its place in the load arrays
+  Long Number = 0;  ///< in the table of bar forces, from 1
+  double X = 0;
+  double Y = 0;
+};
+
+struct TrussBar {
+  ElementGroup Group = ElementGroup::UpPoyas;
+  Long Number = 0;  ///< in its group from the left, from 1
+  /// Where its force stands in a result: the array and the subscript there.
+  BoundedArray<double> TreloResult::*Forces = nullptr;
+  Long Subscript = 0;
+  std::size_t A = 0;  ///< places of its joints in Truss::Joints, the left one first
+  std::size_t B = 0;
+  double Length = 0;  ///< metres
+};
+
+/// A truss as joints and bars.
+struct Truss {
+  std::vector<TrussJoint> Joints;  ///< by their numbers, which run from left to right
+  std::vector<TrussBar> Bars;      ///< group after group, from left to right
+  std::vector<std::size_t> Upper;  ///< places of a chord's joints, from left to right
+  std::vector<std::size_t> Lower;
+  std::size_t LeftSupport = 0;   ///< pinned
+  std::size_t RightSupport = 0;  ///< on rollers
+
+  const std::vector<std::size_t>& JointsOf(Chord chord) const {
+    return chord == Chord::Upper ? Upper : Lower;
+  }
+};
+
+/// The joints and bars of a design of schemes 1 to 4. Raises 5 for a reserved or unknown scheme and
+/// for a panel count that the scheme does not have, 9 for more joints than any truss has.
+Truss TrussOf(const TreloData& data);
+
+}  // namespace trelonit
