@@ -19,11 +19,11 @@ double UpperInPlane(const CheckResult& check, const TreloData& data, const Trelo
   return IsEndBar(check.UpPoyas.NMax, res.UpPoyasForce) ? data.LenOporn : res.LenPanel;
 }
 
-double UpperOutOfPlane(const TreloData& data, const TreloResult& res) {
-  switch (data.UpPoyasBrace) {
+double UpperOutOfPlane(Integer bracing, const TreloData& data, double d) {
+  switch (bracing) {
     case 1:
     case 2:
-      return MaxOf(res.LenPanel, data.LenOporn);
+      return MaxOf(d, data.LenOporn);
     case 3:
       return data.LengthF / 2;
     case 4:
@@ -48,26 +48,25 @@ double LowerInPlane(const CheckResult& check, const TreloData& data, const Trelo
 }
 
 /// Bracing 1: every joint of the lower chord is held.
-double LowerHeldEverywhere(const TreloData& data, const TreloResult& res) {
+double LowerHeldEverywhere(const TreloData& data, double d) {
   switch (data.TreloType) {
     case 1:
-      return MaxOf(res.LenPanel, data.LenOporn);
+      return MaxOf(d, data.LenOporn);
     case 2:
     case 3:
-      return res.LenPanel;
+      return d;
     case 4:
-      return Real(2) * res.LenPanel;
+      return Real(2) * d;
     default:
       return 0;
   }
 }
 
 /// Bracing 2: the joints between are held alternately where the chord has enough of them.
-double LowerHeldAlternately(const TreloData& data, const TreloResult& res) {
-  const Real d = res.LenPanel;
+double LowerHeldAlternately(const TreloData& data, Real d) {
   switch (data.TreloType) {
     case 1:
-      return MaxOf(res.LenPanel, data.LenOporn);
+      return MaxOf(d, data.LenOporn);
     case 2:
       return 2 * d;
     case 3:
@@ -79,13 +78,13 @@ double LowerHeldAlternately(const TreloData& data, const TreloResult& res) {
   }
 }
 
-double LowerOutOfPlane(const TreloData& data, const TreloResult& res) {
+double LowerOutOfPlane(Integer bracing, const TreloData& data, double d) {
   const bool known = data.TreloType >= 1 && data.TreloType <= 4;
-  switch (data.DownPoyasBrace) {
+  switch (bracing) {
     case 1:
-      return LowerHeldEverywhere(data, res);
+      return LowerHeldEverywhere(data, d);
     case 2:
-      return LowerHeldAlternately(data, res);
+      return LowerHeldAlternately(data, d);
     case 3:
       return known ? data.LengthF / 2 : 0;
     case 4:
@@ -102,11 +101,16 @@ void PutBoth(GroupCheck& group, double length) {
 
 }  // namespace
 
+double OutOfPlaneLength(Chord chord, Integer bracing, const TreloData& data, double LenPanel) {
+  return chord == Chord::Upper ? UpperOutOfPlane(bracing, data, LenPanel)
+                               : LowerOutOfPlane(bracing, data, LenPanel);
+}
+
 void PutEffectiveLengths(CheckResult& check, const TreloData& data, const TreloResult& res) {
   check.UpPoyas.LenX = UpperInPlane(check, data, res);
-  check.UpPoyas.LenY = UpperOutOfPlane(data, res);
+  check.UpPoyas.LenY = OutOfPlaneLength(Chord::Upper, data.UpPoyasBrace, data, res.LenPanel);
   check.DwnPoyas.LenX = LowerInPlane(check, data, res);
-  check.DwnPoyas.LenY = LowerOutOfPlane(data, res);
+  check.DwnPoyas.LenY = OutOfPlaneLength(Chord::Lower, data.DownPoyasBrace, data, res.LenPanel);
   // Web members are taken at full length in both planes, without a reduction.
   PutBoth(check.Stoyka, data.TreloType == 3 ? 0 : data.Hight);
   PutBoth(check.Raskos, res.LenRaskos);

@@ -1,9 +1,13 @@
 #pragma once
 
 #include "analysis/CheckRecord.h"
-#include "analysis/modDatatypes.h"
+#include "analysis/Scheme.h"
 
 namespace trelonit {
+
+/// The length out of the plane that a chord is taken with under a bracing option, m; LenPanel is
+/// the regular panel. The program's own table. A bracing or scheme outside it gives 0.
+double OutOfPlaneLength(Chord chord, Integer bracing, const TreloData& data, double LenPanel);
 
 /// Sets LenX and LenY of the five groups, m, from the panel lengths, the bracing options and, for
 /// chords with end panels of their own, from the place of the bar of greatest force (NMax, which

@@ -1,32 +1,17 @@
 #include "checks/modCheckueStress.h"
 
-#include <array>
 #include <cmath>
 
 #include "catalogue/SectionComposition.h"
 #include "checks/CheckFormulas.h"
 #include "checks/EffectiveLengths.h"
+#include "checks/ElementGroups.h"
 #include "platform/Arithmetic.h"
 #include "platform/Guard.h"
 
 namespace trelonit {
 
 namespace {
-
-/// One group of the record with its section in storage.
-struct GroupLink {
-  GroupCheck CheckResult::*Block;
-  SectionPlace Place;
-};
-
-/// The groups in the order of the record, in which messages and errors appear.
-constexpr std::array<GroupLink, 5> groups{{
-    {&CheckResult::UpPoyas, sectionUpPoyas},
-    {&CheckResult::DwnPoyas, sectionDwnPoyas},
-    {&CheckResult::Stoyka, sectionStoyka},
-    {&CheckResult::Raskos, sectionRaskos},
-    {&CheckResult::OpornRaskos, sectionOpornRaskos},
-}};
 
 constexpr Long schemeWithoutVerticals = 3;
 
@@ -51,12 +36,12 @@ class Check {
 
  private:
   bool HasVerticals() const { return data_.TreloType != schemeWithoutVerticals; }
-  bool IsAbsent(const GroupLink& group) const {
+  bool IsAbsent(const ElementGroupRow& group) const {
     return group.Place == sectionStoyka && !HasVerticals();
   }
 
   void Compose() {
-    for (const GroupLink& group : groups) {
+    for (const ElementGroupRow& group : elementGroups) {
       const SectionProps props = ComposeSection(sections_[group.Place]);
       GroupCheck& block = check_.*group.Block;
       block.Area = props.Area;
@@ -92,7 +77,7 @@ class Check {
   }
 
   void PutStrength() {
-    for (const GroupLink& group : groups) {
+    for (const ElementGroupRow& group : elementGroups) {
       GroupCheck& block = check_.*group.Block;
       if (!IsAbsent(group)) {
         block.KStrength =
@@ -104,7 +89,7 @@ class Check {
   void PutSlenderness() {
     // The lengths have their length factors in them already.
     constexpr double Mu = 1;
-    for (const GroupLink& group : groups) {
+    for (const ElementGroupRow& group : elementGroups) {
       GroupCheck& block = check_.*group.Block;
       if (!IsAbsent(group)) {
         block.FlexX = CalcFlex(block.LenX, block.Area, block.Jin, Mu);
@@ -125,7 +110,7 @@ class Check {
   }
 
   void PutAlpha() {
-    for (const GroupLink& group : groups) {
+    for (const ElementGroupRow& group : elementGroups) {
       GroupCheck& block = check_.*group.Block;
       block.AlphaX = Alpha(block, block.PhiX);
       block.AlphaY = Alpha(block, block.PhiY);
@@ -135,7 +120,7 @@ class Check {
   void PutLimits() {
     // Without verticals their length 0 brings the message of the limit up twice in each run, once
     // a plane; that is intended.
-    for (const GroupLink& group : groups) {
+    for (const ElementGroupRow& group : elementGroups) {
       GroupCheck& block = check_.*group.Block;
       const SectionRec& section = sections_[group.Place];
       block.LimitX = CalcLimitFlex(section, block.AlphaX, block.LenX, numbers_.Dynamic, messages_);
@@ -149,7 +134,7 @@ class Check {
   }
 
   void PutUtilisation() {
-    for (const GroupLink& group : groups) {
+    for (const ElementGroupRow& group : elementGroups) {
       GroupCheck& block = check_.*group.Block;
       const bool compressed = block.NComp.Value < 0;
       if (compressed) {

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace trelonit {
+
+/// Steel and reliability data of a check, in the order in which the form reads them.
+struct CheckNumbers {
+  double Ry = 0;       ///< design resistance, MPa
+  double E = 0;        ///< elastic modulus, MPa
+  double Yc = 0;       ///< working-condition coefficient
+  double Gn = 0;       ///< reliability coefficient by importance
+  double Density = 0;  ///< t/m3
+  bool Dynamic = false;
+  double LimitUser = 0;  ///< the user's limit slenderness
+};
+
+}  // namespace trelonit
