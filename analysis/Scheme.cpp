@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "platform/Arithmetic.h"
 #include "platform/RuntimeError.h"
 
 namespace trelonit {
@@ -73,6 +74,7 @@ class TrussBuilder {
       : data_(data),
         scheme_(scheme),
         n_(data.PanelNum),
+        panel_(PanelLength(data)),
         lastLower_(scheme.LastLowerJoint(n_)),
         upperAtColumn_(static_cast<std::size_t>(n_) + 1),
         lowerAtHalfColumn_(2 * static_cast<std::size_t>(n_) + 1, noJoint) {}
@@ -99,11 +101,8 @@ class TrussBuilder {
     if (column == n_) {
       return data_.LengthF;
     }
-    return scheme_.OwnEndPanels
-               ? data_.LenOporn + static_cast<double>(column - 1) *
-                                      (data_.LengthF - 2 * data_.LenOporn) /
-                                      static_cast<double>(n_ - 2)
-               : data_.LengthF / static_cast<double>(n_) * static_cast<double>(column);
+    return scheme_.OwnEndPanels ? data_.LenOporn + static_cast<double>(column - 1) * panel_
+                                : panel_ * static_cast<double>(column);
   }
 
   double HalfColumnX(Long halfColumn) const {
@@ -216,6 +215,7 @@ class TrussBuilder {
   const TreloData& data_;
   const Scheme& scheme_;
   Long n_;
+  double panel_;
   Long lastLower_;
   std::vector<std::size_t> upperAtColumn_;
   std::vector<std::size_t> lowerAtHalfColumn_;
@@ -231,6 +231,13 @@ bool Scheme::HasPanelNum(Long n) const {
 const Scheme* FindScheme(Long number) {
   const bool known = number >= 1 && number <= static_cast<Long>(schemes.size());
   return known ? &schemes[static_cast<std::size_t>(number - 1)] : nullptr;
+}
+
+double PanelLength(const TreloData& data) {
+  const Scheme* scheme = FindScheme(data.TreloType);
+  const bool ends = scheme == nullptr || scheme->OwnEndPanels;
+  return ends ? (Real(data.LengthF) - 2 * Real(data.LenOporn)) / (data.PanelNum - 2)
+              : Real(data.LengthF) / data.PanelNum;
 }
 
 std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum) {

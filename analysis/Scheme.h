@@ -47,6 +47,9 @@ constexpr Long mostJoints = 1000;
 /// The row of a scheme; null for a number outside 1 to 10. The rows live as long as the program.
 const Scheme* FindScheme(Long number);
 
+/// Length d of a regular panel, metres. Raises 11 for a panel count that leaves none.
+double PanelLength(const TreloData& data);
+
 /// Upper bounds of the load arrays of a scheme; nothing where its joints are not settled yet.
 std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum);
 

@@ -8,13 +8,16 @@ set(allowed_resources "resources" "platform")
 set(allowed_analysis "analysis" "platform")
 set(allowed_catalogue "catalogue" "platform")
 set(allowed_checks "checks" "analysis" "catalogue" "platform")
-set(allowed_workstation "workstation" "analysis" "catalogue" "checks" "platform")
+set(allowed_opinion "opinion" "analysis" "catalogue" "checks" "platform")
+set(allowed_workstation "workstation" "analysis" "catalogue" "checks" "opinion" "platform")
 set(allowed_editor "editor" "platform")
 set(allowed_drawing "drawing" "analysis" "catalogue" "platform")
 
+set(opinion_records "checks/CheckNumbers.h|checks/ElementGroups.h|analysis/CheckRecord.h|\
+analysis/ElementGroup.h|analysis/Scheme.h|analysis/modDatatypes.h")
 set(wrong "")
 set(files_seen 0)
-foreach(folder platform resources analysis catalogue checks workstation editor drawing)
+foreach(folder platform resources analysis catalogue checks opinion workstation editor drawing)
   file(GLOB_RECURSE sources "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(source ${sources})
     math(EXPR files_seen "${files_seen} + 1")
@@ -24,6 +27,12 @@ foreach(folder platform resources analysis catalogue checks workstation editor d
         list(APPEND wrong "${source}: ${include}")
       elseif(include MATCHES "^#include \"([^/\"]+)/")
         if(NOT CMAKE_MATCH_1 IN_LIST allowed_${folder})
+          list(APPEND wrong "${source}: ${include}")
+        endif()
+        # The second opinion stands on records and the schemes' table, never on what it judges.
+        if(folder STREQUAL "opinion" AND
+           include MATCHES "\"(checks/|analysis/)" AND
+           NOT include MATCHES "\"(${opinion_records})\"")
           list(APPEND wrong "${source}: ${include}")
         endif()
       endif()
