@@ -36,6 +36,7 @@ Program::Program(Services services, Windows windows)
       paramerty_(services, {.txtModulYung = main_.txtModulYung,
                             .txtDensitSteel = main_.txtDensitSteel,
                             .txtLimitFlex = main_.txtLimitFlex}) {
+  koeffOfUse_.AppendixChanged = [this](bool on) { main_.ReportAppendix = on; };
   if (windows_.Associations != nullptr) {
     assoc_.emplace(*windows_.Associations, services_.Messages);
   }
@@ -55,7 +56,7 @@ frmMain::Openers Program::MakeOpeners() {
   openers.ShowParamerty = Opener(windows_.ShowParamerty, paramerty_);
   openers.ShowDataManager = Opener(windows_.ShowDataManager, dataManager_);
   if (windows_.ShowSearch) {
-    openers.ShowSearch = [this](const SelectionProposal& proposal) { return OpenSearch(proposal); };
+    openers.ShowSearch = [this](const SelectionOffer& offer) { return OpenSearch(offer); };
   }
   if (windows_.ShowOtchet) {
     openers.BeginOtchet = [this](const ReportSnapshot& snapshot) {
@@ -70,11 +71,11 @@ frmMain::Openers Program::MakeOpeners() {
   return openers;
 }
 
-bool Program::OpenSearch(const SelectionProposal& proposal) {
-  lastProposal_ = proposal;
-  search_.Fill(proposal, main_.imgProfileSec, main_.Model.TreloData.TreloType);
+std::optional<SelectionProposal> Program::OpenSearch(const SelectionOffer& offer) {
+  search_.Fill(offer, main_.imgProfileSec, main_.Model.TreloData.TreloType);
   windows_.ShowSearch(search_);
-  return search_.SearchApplied;
+  lastProposal_ = search_.Shown();
+  return search_.SearchApplied ? lastProposal_ : std::nullopt;
 }
 
 frmOtchetMain& Program::NewOtchet(const std::string& commandLine) {

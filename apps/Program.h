@@ -65,7 +65,7 @@ class Program {
 
  private:
   frmMain::Openers MakeOpeners();
-  bool OpenSearch(const SelectionProposal& proposal);
+  std::optional<SelectionProposal> OpenSearch(const SelectionOffer& offer);
   /// A document window as it opens, with an empty document.
   frmOtchetMain& NewOtchet(const std::string& commandLine);
   void AppendOtchet(const ReportPiece& piece);

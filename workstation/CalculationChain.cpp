@@ -7,40 +7,39 @@
 
 namespace trelonit {
 
-void AnalyseAndCheck(DesignModel& model, const CheckNumbers& numbers, MessageService& messages) {
-  static_cast<LoadArrays&>(model.TreloData) = model.Loads;
-  model.TreloResult = CalcTrelo(model.TreloData, messages);
-  model.CheckData =
-      CheckueStress(model.TreloData, model.TreloResult, numbers, model.ElementSection, messages);
+void AnalyseAndCheck(Design& design, const CheckNumbers& numbers, MessageService& messages) {
+  static_cast<LoadArrays&>(design.TreloData) = design.Loads;
+  design.TreloResult = CalcTrelo(design.TreloData, messages);
+  design.CheckData =
+      CheckueStress(design.TreloData, design.TreloResult, numbers, design.ElementSection, messages);
 }
 
-bool ApplyOwnWeight(DesignModel& model, const CheckNumbers& numbers, MessageService& messages) {
-  const TreloResult& result = model.TreloResult;
+bool ApplyOwnWeight(Design& design, const CheckNumbers& numbers, MessageService& messages) {
+  const TreloResult& result = design.TreloResult;
   const double perMetre = RoundToDecimals(
-      Real(model.CheckData.Mass) / (Real(result.SumLenDwnPoyas) + result.SumLenUpPoyas), 4);
-  if (model.OwnWeightAdded) {
-    if (model.OwnWeightPerMetre == perMetre) {
+      Real(design.CheckData.Mass) / (Real(result.SumLenDwnPoyas) + result.SumLenUpPoyas), 4);
+  if (design.OwnWeightAdded) {
+    if (design.OwnWeightPerMetre == perMetre) {
       return false;
     }
-    AddToDistributedLoads(model.Loads, -model.OwnWeightPerMetre);
+    AddToDistributedLoads(design.Loads, -design.OwnWeightPerMetre);
   }
-  AddToDistributedLoads(model.Loads, perMetre);
-  model.OwnWeightAdded = true;
-  model.OwnWeightPerMetre = perMetre;
-  AnalyseAndCheck(model, numbers, messages);
+  AddToDistributedLoads(design.Loads, perMetre);
+  design.OwnWeightAdded = true;
+  design.OwnWeightPerMetre = perMetre;
+  AnalyseAndCheck(design, numbers, messages);
   return true;
 }
 
-ProgibResult CheckProgib(const DesignModel& model, bool upChord, double E,
-                         std::string_view limitText, const NumberLocale& locale,
-                         MessageService& messages) {
+ProgibResult CheckProgib(const Design& design, bool upChord, double E, std::string_view limitText,
+                         const NumberLocale& locale, MessageService& messages) {
   ProgibResult progib;
   progib.Value =
-      CalcProgib(model.TreloData, model.TreloResult, model.CheckData, upChord, E, messages);
+      CalcProgib(design.TreloData, design.TreloResult, design.CheckData, upChord, E, messages);
   constexpr std::size_t denominatorPlace = 4;
   const std::string_view denominator =
       limitText.size() > denominatorPlace ? limitText.substr(denominatorPlace) : "";
-  progib.Limit = Real(model.TreloData.LengthF) / TextToLong(denominator, locale);
+  progib.Limit = Real(design.TreloData.LengthF) / TextToLong(denominator, locale);
   progib.Satisfied = !(progib.Value > progib.Limit);
   return progib;
 }

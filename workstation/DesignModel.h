@@ -7,15 +7,14 @@
 
 namespace trelonit {
 
-/// The state of the one truss design that the program holds.
-struct DesignModel {
+/// One truss design with its last calculation. A value: a copy is calculated without touching the
+/// original.
+struct Design {
   /// The analysis input. The scheme and the bracing are live at all times; the geometry is what the
   /// geometry check last accepted; the loads are copied in before each analysis.
   struct TreloData TreloData;
   /// The last result; an edited input leaves it as it is.
   struct TreloResult TreloResult;
-  /// The catalogue in memory, loaded at start and never changed.
-  ProfileTypeArray ProfileTypes;
   /// Subscripts by SectionPlace.
   SectionArray ElementSection{1, sectionCount};
   /// The master loads, which the load inputs edit and projects keep.
@@ -26,6 +25,12 @@ struct DesignModel {
   bool OwnWeightAdded = false;
   /// The amount inside them, tonnes per metre; subtracting it restores the user's loads.
   double OwnWeightPerMetre = 0;
+};
+
+/// The design that the program holds, with the catalogue that its sections come from.
+struct DesignModel : Design {
+  /// The catalogue in memory, loaded at start and never changed.
+  ProfileTypeArray ProfileTypes;
 };
 
 }  // namespace trelonit

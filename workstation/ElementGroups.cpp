@@ -1,24 +1,45 @@
 #include "workstation/ElementGroups.h"
 
+#include "checks/ElementGroups.h"
 #include "platform/BoundedArray.h"
 
 namespace trelonit {
 
-SectionPlace PlaceOfOption(Long option) {
+ElementGroup GroupOfOption(Long option) {
   switch (option) {
     case optionUpPoyas:
-      return sectionUpPoyas;
+      return ElementGroup::UpPoyas;
     case optionDwnPoyas:
-      return sectionDwnPoyas;
+      return ElementGroup::DwnPoyas;
     case optionRaskos:
-      return sectionRaskos;
+      return ElementGroup::Raskos;
     case optionStoyka:
-      return sectionStoyka;
+      return ElementGroup::Stoyka;
     case optionOpornRaskos:
-      return sectionOpornRaskos;
+      return ElementGroup::OpornRaskos;
     default:
       RaiseSubscriptOutOfRange();
   }
+}
+
+SectionPlace PlaceOfOption(Long option) {
+  return RowOf(GroupOfOption(option)).Place;
+}
+
+GroupOption OptionOf(ElementGroup group) {
+  switch (group) {
+    case ElementGroup::UpPoyas:
+      return optionUpPoyas;
+    case ElementGroup::DwnPoyas:
+      return optionDwnPoyas;
+    case ElementGroup::Raskos:
+      return optionRaskos;
+    case ElementGroup::Stoyka:
+      return optionStoyka;
+    case ElementGroup::OpornRaskos:
+      break;
+  }
+  return optionOpornRaskos;
 }
 
 }  // namespace trelonit

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/ElementGroup.h"
 #include "catalogue/SectionRecord.h"
 
 namespace trelonit {
@@ -15,7 +16,10 @@ enum GroupOption : Long {
 };
 constexpr Long groupCount = 5;
 
-/// Raises 9 for a number that is no option.
+/// Both raise 9 for a number that is no option.
 SectionPlace PlaceOfOption(Long option);
+ElementGroup GroupOfOption(Long option);
+
+GroupOption OptionOf(ElementGroup group);
 
 }  // namespace trelonit

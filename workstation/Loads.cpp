@@ -54,7 +54,7 @@ void AddToDistributedLoads(LoadArrays& loads, double perMetre) {
   }
 }
 
-void WithdrawOwnWeight(DesignModel& model, const NumberLocale& locale, MessageService& messages) {
+void WithdrawOwnWeight(Design& model, const NumberLocale& locale, MessageService& messages) {
   if (model.OwnWeightPerMetre > 0) {
     AddToDistributedLoads(model.Loads, -model.OwnWeightPerMetre);
   } else {

@@ -22,7 +22,7 @@ void AddToDistributedLoads(LoadArrays& loads, double perMetre);
 /// Takes own weight out of the master loads: the amount that is inside is subtracted. An amount
 /// that is not positive is told to the user and nothing is subtracted. Either way own weight counts
 /// as not added from then on.
-void WithdrawOwnWeight(DesignModel& model, const NumberLocale& locale, MessageService& messages);
+void WithdrawOwnWeight(Design& model, const NumberLocale& locale, MessageService& messages);
 
 /// Highest joint and panel number of a chord, from 0; -1 for a scheme that has no table.
 Long LastKnotNum(bool upper, Long treloType, Long panelNum);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "checks/ElementGroups.h"
 #include "platform/Arithmetic.h"
 
 namespace trelonit {
@@ -47,39 +48,52 @@ class ForceList {
   std::vector<std::string> lines_;
 };
 
-/// A row of the utilisation grid; the head of a group has no coefficient.
+/// A row of the utilisation grid; the head of a group has neither checks nor a coefficient.
 struct UtilisationRow {
   std::string Text;
   std::optional<double> Coefficient;
+  ElementGroup Group = ElementGroup::UpPoyas;
+  std::vector<std::string> Checks;
 };
 
-/// Rows of one group; the words are the group's own in the captions of the rows.
-void AddGroup(std::vector<UtilisationRow>& rows, const std::string& header,
-              const std::string& words, const GroupCheck& check) {
-  rows.push_back({header, std::nullopt});
+/// A group with its texts: the head, and its words in the captions of the rows.
+struct GroupTexts {
+  ElementGroup Group;
+  std::string Header;
+  std::string Words;
+};
+
+void AddGroup(std::vector<UtilisationRow>& rows, const GroupTexts& group,
+              const CheckResult& result) {
+  const GroupCheck& check = result.*RowOf(group.Group).Block;
+  const auto add = [&](std::string text, std::optional<double> coefficient,
+                       std::vector<std::string> checks) {
+    rows.push_back({std::move(text), coefficient, group.Group, std::move(checks)});
+  };
+  add(group.Header, std::nullopt, {});
   if (check.KStrength > 0) {
-    rows.push_back({"Прочность " + words, check.KStrength});
+    add("Прочность " + group.Words, check.KStrength, {"Strength"});
   }
   if (check.KStabX > 0) {
-    rows.push_back({"Устойчивость " + words + " в плоскости фермы", check.KStabX});
+    add("Устойчивость " + group.Words + " в плоскости фермы", check.KStabX, {"StabX"});
   }
   if (check.KStabY > 0) {
-    rows.push_back({"Устойчивость " + words + " из плоскости фермы", check.KStabY});
+    add("Устойчивость " + group.Words + " из плоскости фермы", check.KStabY, {"StabY"});
   }
-  rows.push_back({"Гибкость " + words + " ", std::max(check.KFlexX, check.KFlexY)});
-  rows.push_back({"Гибкость " + words + " по предельной гибкости, заданной пользователем",
-                  std::max(check.KUserX, check.KUserY)});
+  add("Гибкость " + group.Words + " ", std::max(check.KFlexX, check.KFlexY), {"FlexX", "FlexY"});
+  add("Гибкость " + group.Words + " по предельной гибкости, заданной пользователем",
+      std::max(check.KUserX, check.KUserY), {"UserX", "UserY"});
 }
 
 std::vector<UtilisationRow> UtilisationRows(Long treloType, const CheckResult& check) {
   std::vector<UtilisationRow> rows;
-  AddGroup(rows, "*** Верхний пояс", "верхнего пояса", check.UpPoyas);
-  AddGroup(rows, "*** Нижний пояс", "нижнего пояса", check.DwnPoyas);
-  AddGroup(rows, "*** Раскосы", "раскосов", check.Raskos);
+  AddGroup(rows, {ElementGroup::UpPoyas, "*** Верхний пояс", "верхнего пояса"}, check);
+  AddGroup(rows, {ElementGroup::DwnPoyas, "*** Нижний пояс", "нижнего пояса"}, check);
+  AddGroup(rows, {ElementGroup::Raskos, "*** Раскосы", "раскосов"}, check);
   // A Latin p in this header and a Latin C in the next are the established texts.
-  AddGroup(rows, "*** Опорные pаскосы", "опорных раскосов", check.OpornRaskos);
+  AddGroup(rows, {ElementGroup::OpornRaskos, "*** Опорные pаскосы", "опорных раскосов"}, check);
   if (HasVerticals(treloType)) {
-    AddGroup(rows, "*** Cтойки", "стоек", check.Stoyka);
+    AddGroup(rows, {ElementGroup::Stoyka, "*** Cтойки", "стоек"}, check);
   }
   return rows;
 }
@@ -136,6 +150,31 @@ std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& c
                                     : std::string("***")});
   }
   return grid;
+}
+
+std::vector<ResultRow> BuildResultRows(Long treloType, const CheckResult& check,
+                                       const Opinion& opinion, const NumberLocale& locale) {
+  std::vector<ResultRow> results;
+  for (UtilisationRow& row : UtilisationRows(treloType, check)) {
+    ResultRow result{.Group = row.Group, .Checks = std::move(row.Checks)};
+    const GroupJudgement* group = opinion.FindGroup(row.Group);
+    std::optional<double> greatest;
+    for (const MemberCheckRow& member : memberChecks) {
+      const bool shown =
+          group != nullptr && group->GoverningBar(member.Check) &&
+          std::find(result.Checks.begin(), result.Checks.end(), member.Key) != result.Checks.end();
+      if (shown && (!greatest || group->Figure(member.Check) > *greatest)) {
+        greatest = group->Figure(member.Check);
+        result.Bar = opinion.Model.Bars[*group->GoverningBar(member.Check)].Number;
+      }
+    }
+    if (greatest) {
+      result.Opinion = FormatShown(*greatest, coefficientDecimals, locale);
+      result.OpinionFails = *greatest > 1;
+    }
+    results.push_back(std::move(result));
+  }
+  return results;
 }
 
 std::vector<bool> RowsOverLimit(Long treloType, const CheckResult& check) {

@@ -8,16 +8,22 @@
 #include "analysis/modDatatypes.h"
 #include "platform/Controls.h"
 #include "platform/NumberText.h"
+#include "workstation/ProgibResult.h"
 #include "workstation/ResultPicture.h"
+#include "workstation/SecondOpinion.h"
 
 namespace trelonit {
 
-/// The deflection and its limit, metres.
-struct ProgibResult {
-  double Value = 0;
-  double Limit = 0;
-  /// A deflection equal to the limit satisfies it.
-  bool Satisfied = false;
+/// What stands beside a row of the utilisation grid.
+struct ResultRow {
+  ElementGroup Group = ElementGroup::UpPoyas;
+  /// The checks of the row, as Explanation::Check names them; none for the head of a group.
+  std::vector<std::string> Checks;
+  /// The opinion's figure; empty where it has none.
+  std::string Opinion;
+  bool OpinionFails = false;
+  /// The bar that rules the opinion's figure, by the numbers of the picture.
+  std::optional<Long> Bar;
 };
 
 /// What the results window shows.
@@ -28,6 +34,9 @@ struct ResultLists {
   std::optional<ProgibResult> Progib;
   /// The same as a drawing.
   ResultPicture Picture;
+  /// What the second opinion says of it, and its place beside the rows of the grid.
+  SecondOpinion Opinion;
+  std::vector<ResultRow> Rows;
 };
 
 /// Bar forces by group, reactions and mass, line by line. Raises 9 for an empty result.
@@ -37,6 +46,10 @@ std::vector<std::string> BuildForceList(Long treloType, const TreloResult& resul
 /// The utilisation coefficients by group. Strength and stability that are not above 0 have no row.
 std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& check,
                                             const NumberLocale& locale);
+
+/// By row of that grid: its checks and the opinion's figure.
+std::vector<ResultRow> BuildResultRows(Long treloType, const CheckResult& check,
+                                       const Opinion& opinion, const NumberLocale& locale);
 
 /// By row of that grid: whether its coefficient is above 1.
 std::vector<bool> RowsOverLimit(Long treloType, const CheckResult& check);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "checks/ElementGroups.h"
 #include "platform/Arithmetic.h"
 #include "workstation/modHelper.h"
 
@@ -30,19 +31,7 @@ class OnceMessages : public MessageService {
 };
 
 const GroupCheck& CheckOf(const CheckResult& check, GroupOption group) {
-  switch (group) {
-    case optionUpPoyas:
-      return check.UpPoyas;
-    case optionDwnPoyas:
-      return check.DwnPoyas;
-    case optionRaskos:
-      return check.Raskos;
-    case optionStoyka:
-      return check.Stoyka;
-    case optionOpornRaskos:
-      break;
-  }
-  return check.OpornRaskos;
+  return check.*RowOf(GroupOfOption(group)).Block;
 }
 
 class Search {

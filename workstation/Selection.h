@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <set>
 
 #include "analysis/CheckRecord.h"
@@ -17,6 +19,18 @@ struct SelectionProposal {
   CheckResult Check;
   /// Groups of which no size of the standard passes; they have the last one tried.
   std::set<GroupOption> Impossible;
+  /// Of a selection by both, which repeats itself: how often it searched. 0 for the usual one.
+  int Rounds = 0;
+  /// Of a selection by both: the design calculated with these sections.
+  std::optional<Design> Settled;
+};
+
+/// What the user chooses from.
+struct SelectionOffer {
+  SelectionProposal Proposal;
+  /// Selects by the program's own checks and the second opinion; nothing where there is no opinion,
+  /// which has been shown then.
+  std::function<std::optional<SelectionProposal>()> ByOpinion;
 };
 
 /// Walks each group through the sizes of its standard, in the order of the catalogue, up to the

@@ -7,6 +7,7 @@ frmKoeffOfUse::frmKoeffOfUse() {
   framKoef.SetCaption("Коэффициенты использования :");
   framForces.SetCaption("Усилия в стержнях фермы и реакции опор :");
   cmdClose.SetCaption("Close");
+  mnuAppendix.SetCaption("Приложение «Второе мнение» в отчете");
 }
 
 void frmKoeffOfUse::Fill(const ResultLists& lists) {
@@ -15,6 +16,15 @@ void frmKoeffOfUse::Fill(const ResultLists& lists) {
   MSFlexGKoefUse.SetRows(std::move(rows));
   lstForces.SetList(lists.lstForces);
   Picture = lists.Picture;
+  Opinion = lists.Opinion;
+  Rows = lists.Rows;
+}
+
+void frmKoeffOfUse::mnuAppendix_Click() {
+  mnuAppendix.SetChecked(!mnuAppendix.Checked());
+  if (AppendixChanged) {
+    AppendixChanged(mnuAppendix.Checked());
+  }
 }
 
 void frmKoeffOfUse::cmdClose_Click() {

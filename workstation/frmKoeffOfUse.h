@@ -14,17 +14,24 @@ class frmKoeffOfUse {
 
   void Fill(const ResultLists& lists);
   void cmdClose_Click();
+  void mnuAppendix_Click();
 
   Label Form;
   Grid MSFlexGKoefUse;
   ListBox lstForces;
   /// The truss with its forces and the groups with their largest coefficient, beside the lists.
   ResultPicture Picture;
+  /// The second opinion and its place beside the rows of the grid, its head not counted.
+  SecondOpinion Opinion;
+  std::vector<ResultRow> Rows;
+  /// Whether reports end with the opinion.
+  MenuEntry mnuAppendix;
   Label framKoef;
   Label framForces;
   Label cmdClose;
   /// Unloads the window.
   std::function<void()> Unload;
+  std::function<void(bool on)> AppendixChanged;
 };
 
 }  // namespace trelonit

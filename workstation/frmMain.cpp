@@ -39,6 +39,8 @@ frmMain::frmMain(Services services, Openers openers)
   txtLimitFlex.SetText("150");
   optBP.SetValue(true);
   tglUpPoyas.SetValue(true);
+  lblSectionSource.SetVisible(false);
+  lblOwnWeightTwice.SetVisible(false);
   for (Long layout = 1; layout <= sectionLayoutCount; ++layout) {
     imgProfileSecSelect[layout].Show(
         {.From = Picture::Source::SectionLayout, .Number = static_cast<Integer>(layout)});
@@ -72,6 +74,7 @@ void frmMain::Form_Load() {
     tmrRuningString.SetEnabled(true);
   });
   ConnectEvents();
+  RefreshBracingLengths();
 }
 
 void frmMain::SetStartDefaults() {
@@ -138,9 +141,13 @@ void frmMain::ConnectEvents() {
   chkProgib.Click = [this] { chkProgib_Click(); };
   // The shown deflection is dropped as soon as anything that it depends on moves.
   const auto dropProgib = [this] { txtProgib.SetText(""); };
-  txtLengthF.Change = dropProgib;
+  const auto changeGeometry = [this] {
+    txtProgib.SetText("");
+    RefreshBracingLengths();
+  };
+  txtLengthF.Change = changeGeometry;
   txtHight.Change = dropProgib;
-  txtLenOporn.Change = dropProgib;
+  txtLenOporn.Change = changeGeometry;
   // The two chords share a frame: choosing one clears the other.
   optBP.Click = [this, dropProgib] {
     optNP.SetValue(false);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,8 +32,8 @@ class frmMain {
     std::function<void()> ShowParamerty;
     std::function<void()> ShowSteel;
     std::function<void()> ShowAbout;
-    /// Shows a proposal of automatic selection; true when the user takes it.
-    std::function<bool(const SelectionProposal&)> ShowSearch;
+    /// Shows what automatic selection offers; gives the proposal that the user takes, if any.
+    std::function<std::optional<SelectionProposal>(const SelectionOffer&)> ShowSearch;
     /// The report: a new one begins with what drawings are made from, its pieces follow, then its
     /// editor is shown.
     std::function<void(const ReportSnapshot&)> BeginOtchet;
@@ -120,6 +121,15 @@ class frmMain {
   /// The numbers of the checks as they stand in the boxes.
   CheckNumbers ReadCheckNumbers() const;
 
+  // --- beside the inputs and the results (frmMainOpinion.cpp)
+  /// Subtracts the own weight that a restored project had in its loads already.
+  void cmdTakeOwnWeightOut_Click();
+  /// Leaves it there: it is the user's own load.
+  void cmdKeepOwnWeight_Click();
+  /// Takes the own weight of the last calculation out of the loads: a project that is saved without
+  /// it is calculated as this one was. Does nothing where none is inside.
+  void WithdrawOwnWeightFromLoads();
+
   // --- project files (frmMainProject.cpp)
   // Each returns whether the command was carried out.
   bool SaveParam_Click();
@@ -142,6 +152,14 @@ class frmMain {
   ComboBox cmbPanelNum;
   OptionGroup optUpPoyas{4};
   OptionGroup optDownPoyas{4};
+  /// Length out of the plane by bracing option, for the truss as it stands in the boxes: what the
+  /// calculation takes, red where that is less than what the caption means.
+  struct BracingLength {
+    Label Taken;
+    Label ByCaption;
+  };
+  BoundedArray<BracingLength> lblUpPoyasLength{1, 4};
+  BoundedArray<BracingLength> lblDownPoyasLength{1, 4};
   CheckBox chkProgib;
   ComboBox cmbLenlim;
   OptionButton optBP;
@@ -156,6 +174,9 @@ class frmMain {
   ComboBox cmbTypeProfile;
   ComboBox cmbSectType;
   ComboBox cmbGdist;
+  /// Why the figures of the shown section are not those of a published table; hidden where they
+  /// are.
+  Label lblSectionSource;
   Image imgProfView;
   BoundedArray<Image> imgProfileSec{1, groupCount};
   BoundedArray<Label> lblProfilName{1, groupCount};
@@ -174,6 +195,8 @@ class frmMain {
   TextBox txtForceVal;
   CheckBox chkAllPanels;
   CheckBox chkOwnWeight;
+  /// That own weight seems to be inside the loads of the restored project; hidden otherwise.
+  Label lblOwnWeightTwice;
   CheckBox chkDinloadEnable;
   LoadPreview Preview;
   /// Called after the schematic of the loads has changed.
@@ -187,6 +210,9 @@ class frmMain {
   TextBox txtDensitSteel;
   TextBox txtModulYung;
   TextBox txtLimitFlex;
+
+  /// Whether a report ends with the second opinion.
+  bool ReportAppendix = false;
 
  private:
   void SetStartDefaults();
@@ -203,6 +229,18 @@ class frmMain {
   void ColourGroup(Long option);
   Long SelectedGroup() const { return optElementSection.Selected(); }
   SectionRec& SelectedSection();
+  /// The truss as the boxes have it, whatever the geometry check said of it.
+  TreloData ShownGeometry() const;
+  void RefreshBracingLengths();
+  void RefreshSectionSource(const SectionRec& section);
+  /// Looks for it in the loads as they stand.
+  void FindOwnWeightInside();
+  void SetOwnWeightInside(std::optional<double> perMetre);
+  void RefreshOwnWeightTwice();
+  /// The own weight that would be counted twice, tonnes per metre.
+  std::optional<double> DoubledOwnWeight() const;
+  SecondOpinion OpinionOf(const CheckNumbers& numbers,
+                          const std::optional<ProgibResult>& progib) const;
   void MarkLayout(Long layout);
   void ShowLayout(const SectionLayout& layout);
   void FillSizes(Long typeIdx);
@@ -225,6 +263,9 @@ class frmMain {
   void ShowResults(const CheckNumbers& numbers);
   /// All pieces of the report in order, into its editor.
   void FillOtchet(const CheckNumbers& numbers);
+  /// The deflection where it is asked for.
+  std::optional<ProgibResult> Progib(const CheckNumbers& numbers);
+  std::optional<SelectionProposal> ProposeByOpinion(const CheckNumbers& numbers);
   void TakeProposal(const SelectionProposal& proposal);
   void ShowProgib(const ProgibResult& progib);
 
@@ -240,6 +281,10 @@ class frmMain {
   Openers openers_;
   RunningCaption runningCaption_;
   Long waitCounter_ = 1;
+  // Own weight that the loads of the restored project seem to hold, until the user has decided.
+  std::optional<double> ownWeightInside_;
+  // The sections of the last proposal that was taken over.
+  std::optional<SectionArray> takenSections_;
 };
 
 }  // namespace trelonit

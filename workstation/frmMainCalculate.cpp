@@ -1,5 +1,7 @@
 #include "platform/Guard.h"
 #include "workstation/CalculationChain.h"
+#include "workstation/OpinionSelection.h"
+#include "workstation/ReportAppendix.h"
 #include "workstation/frmMain.h"
 
 namespace trelonit {
@@ -33,9 +35,12 @@ void frmMain::cmdCalcAndSelect_Click() {
   Guard(services_.Messages, "cmdCalcAndSelect_Click", [&] {
     const CheckNumbers numbers = ReadCheckNumbers();
     AnalyseWithOwnWeight(numbers);
-    const SelectionProposal proposal = SelectSections(Model, numbers, services_.Messages);
-    if (openers_.ShowSearch && openers_.ShowSearch(proposal)) {
-      TakeProposal(proposal);
+    const SelectionOffer offer{.Proposal = SelectSections(Model, numbers, services_.Messages),
+                               .ByOpinion = [this, &numbers] { return ProposeByOpinion(numbers); }};
+    if (openers_.ShowSearch) {
+      if (const std::optional<SelectionProposal> taken = openers_.ShowSearch(offer)) {
+        TakeProposal(*taken);
+      }
     }
     ShowResults(numbers);
   });
@@ -69,13 +74,34 @@ void frmMain::FillOtchet(const CheckNumbers& numbers) {
                .ProgibUpper = optBP.Value(),
                .LenLim = cmbLenlim.Text()},
               locale, openers_.AppendOtchet);
-  if (chkProgib.Checked()) {
-    const ProgibResult progib =
-        CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(), locale, services_.Messages);
-    WriteReportProgib(progib, locale, openers_.AppendOtchet);
-    txtProgib.SetText(FormatShown(progib.Value, progibDecimals, locale));
+  const std::optional<ProgibResult> progib = Progib(numbers);
+  if (progib) {
+    WriteReportProgib(*progib, locale, openers_.AppendOtchet);
+    txtProgib.SetText(FormatShown(progib->Value, progibDecimals, locale));
   }
   WriteReportAdditional(Model, locale, openers_.AppendOtchet);
+  if (ReportAppendix) {
+    WriteReportAppendix(Model.CheckData, OpinionOf(numbers, progib), locale, openers_.AppendOtchet);
+  }
+}
+
+std::optional<ProgibResult> frmMain::Progib(const CheckNumbers& numbers) {
+  if (!chkProgib.Checked()) {
+    return std::nullopt;
+  }
+  return CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(), services_.Locale,
+                     services_.Messages);
+}
+
+std::optional<SelectionProposal> frmMain::ProposeByOpinion(const CheckNumbers& numbers) {
+  const SecondOpinion opinion = OpinionOf(numbers, std::nullopt);
+  if (opinion.Figures.HasRefused()) {
+    services_.Messages.Show({.Title = "Подбор по СНиП",
+                             .Text = opinion.Figures.Refusal,
+                             .Style = MessageStyle::Exclamation});
+    return std::nullopt;
+  }
+  return SelectByOpinion(Model, numbers, chkOwnWeight.Checked());
 }
 
 void frmMain::AnalyseWithOwnWeight(const CheckNumbers& numbers) {
@@ -86,9 +112,16 @@ void frmMain::AnalyseWithOwnWeight(const CheckNumbers& numbers) {
 }
 
 void frmMain::TakeProposal(const SelectionProposal& proposal) {
-  // Loads and forces stay: the changed mass reaches them with the next calculation.
-  Model.ElementSection = proposal.Sections;
-  Model.CheckData = proposal.Check;
+  if (proposal.Settled) {
+    static_cast<Design&>(Model) = *proposal.Settled;
+    RefreshLoadPreview();
+  } else {
+    // Loads and forces stay: the changed mass reaches them with the next calculation.
+    Model.ElementSection = proposal.Sections;
+    Model.CheckData = proposal.Check;
+  }
+  takenSections_ = Model.ElementSection;
+  RefreshSectionSource(SelectedSection());
   for (Long option = 1; option <= groupCount; ++option) {
     lblProfilName[option].SetCaption(
         Model.ElementSection[PlaceOfOption(option)].Profile.Name.Trimmed());
@@ -104,14 +137,15 @@ void frmMain::ShowResults(const CheckNumbers& numbers) {
       .Picture = {.Bars = BuildBars(Model.TreloData, Model.TreloResult),
                   .Use = BuildUse(scheme, Model.CheckData),
                   .OverLimit = RowsOverLimit(scheme, Model.CheckData)}};
-  if (chkProgib.Checked()) {
-    lists.Progib = CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(), services_.Locale,
-                               services_.Messages);
+  lists.Progib = Progib(numbers);
+  if (lists.Progib) {
     for (std::string& line : ProgibLines(*lists.Progib, services_.Locale)) {
       lists.lstForces.push_back(std::move(line));
     }
     ShowProgib(*lists.Progib);
   }
+  lists.Opinion = OpinionOf(numbers, lists.Progib);
+  lists.Rows = BuildResultRows(scheme, Model.CheckData, lists.Opinion.Figures, services_.Locale);
   if (openers_.ShowKoeffOfUse) {
     openers_.ShowKoeffOfUse(lists);
   }

@@ -43,6 +43,7 @@ void frmMain::imgTreloType_Click(Long scheme) {
     ReDimLoadArrays();
     txtProgib.SetText("");
     RefreshHopt();
+    RefreshBracingLengths();
   });
 }
 
@@ -56,6 +57,7 @@ void frmMain::cmbPanelNum_Click() {
   ReDimLoadArrays();
   txtProgib.SetText("");
   RefreshHopt();
+  RefreshBracingLengths();
 }
 
 void frmMain::txtLengthF_LostFocus() {

@@ -16,6 +16,7 @@ constexpr Integer distributedPreviewBitmap = 310;
 void frmMain::ReDimLoadArrays() {
   Guard(services_.Messages, "ReDimLoadArrays",
         [&] { ReDimLoads(Model.Loads, Model.TreloData.TreloType, PanelNum()); });
+  SetOwnWeightInside(std::nullopt);
 }
 
 void frmMain::FillList(Long last) {
@@ -176,11 +177,13 @@ void frmMain::cmdClearLoads_Click() {
     Model.OwnWeightAdded = false;
     Model.OwnWeightPerMetre = 0;
     chkOwnWeight.SetChecked(false);
+    SetOwnWeightInside(std::nullopt);
     NotifyPreview();
   });
 }
 
 void frmMain::chkOwnWeight_Click() {
+  RefreshOwnWeightTwice();
   Guard(services_.Messages, "chkOwnWeight_Click", [&] {
     // Setting the box does nothing here: the commands add the weight.
     if (chkOwnWeight.Checked() || !Model.OwnWeightAdded) {

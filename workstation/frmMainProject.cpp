@@ -1,6 +1,7 @@
 #include "platform/Arithmetic.h"
 #include "platform/Guard.h"
 #include "workstation/FileNames.h"
+#include "workstation/OwnWeight.h"
 #include "workstation/frmMain.h"
 #include "workstation/modUtility.h"
 
@@ -108,6 +109,7 @@ void frmMain::ApplyProject(const ProjectRecord& record) {
   // Own weight that was saved inside the loads stays there as if the user had entered it.
   Model.OwnWeightAdded = false;
   Model.OwnWeightPerMetre = 0;
+  takenSections_.reset();
   ChooseLoadTool(record.PForceTool != 0);
   // Before the chord changes too: its click shows loads for which there must be marks.
   RefreshLoadPreview();
@@ -117,6 +119,7 @@ void frmMain::ApplyProject(const ProjectRecord& record) {
   if (record.PForceTool == 0) {
     chkAllPanels.SetChecked(record.AllPanelsOn != 0);
   }
+  FindOwnWeightInside();
   // The geometry of the file is checked and taken on the way to the last tab, as if it had just
   // been entered. Staying there would calculate the new loads on the old truss.
   tabMain.SetTab(0);

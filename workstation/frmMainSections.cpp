@@ -97,6 +97,7 @@ void frmMain::optElementSection_Click(Long option) {
     FillSizes(section.TypeIdx);
     cmbTypeProfile.SetText(Model.ProfileTypes[section.TypeIdx].Name.Trimmed());
     cmbSectType.SetText(Model.ProfileTypes[section.TypeIdx].Rec[section.SizeIdx].Name.Trimmed());
+    RefreshSectionSource(section);
   });
 }
 
@@ -146,6 +147,7 @@ void frmMain::cmbTypeProfile_Click() {
     section.SizeIdx = 1;
     section.Profile = first;
     cmbSectType.SetText(first.Name.Trimmed());
+    RefreshSectionSource(section);
     WithdrawOwnWeightOfOldSection();
   });
 }
@@ -156,6 +158,7 @@ void frmMain::cmbSectType_Click() {
     lblProfilName[SelectedGroup()].SetCaption(cmbSectType.Text());
     section.SizeIdx = FindSizeIndex(section.TypeIdx, cmbSectType.Text());
     section.Profile = Model.ProfileTypes[section.TypeIdx].Rec[section.SizeIdx];
+    RefreshSectionSource(section);
     WithdrawOwnWeightOfOldSection();
   });
 }

@@ -1,5 +1,7 @@
 #include "workstation/frmSearch.h"
 
+#include <string>
+
 #include "workstation/ResultPicture.h"
 #include "workstation/WaitCaption.h"
 
@@ -9,25 +11,52 @@ frmSearch::frmSearch() {
   for (Long option = 1; option <= groupCount; ++option) {
     lblName[option - 1].SetCaption(GroupName(static_cast<GroupOption>(option)));
   }
+  chkOpinion.Click = [this] { chkOpinion_Click(); };
 }
 
-void frmSearch::Fill(const SelectionProposal& proposal, const BoundedArray<Image>& layoutPictures,
+void frmSearch::Fill(const SelectionOffer& offer, const BoundedArray<Image>& layoutPictures,
                      Long treloType) {
   SearchApplied = false;
+  offer_ = offer;
+  byOpinion_.reset();
+  chkOpinion.SetChecked(false);
   Form.SetCaption("Результаты подбора профиля");
   for (Long option = 1; option <= groupCount; ++option) {
     imgProfileSec[option].Show(layoutPictures[option].Shown());
+  }
+  ShowSizes();
+  const bool verticals = treloType != 3;
+  imgProfileSec[optionStoyka].SetVisible(verticals);
+  lblProfilName[optionStoyka].SetVisible(verticals);
+  lblWorry[optionStoyka].SetVisible(verticals);
+  lblName[optionStoyka - 1].SetVisible(verticals);
+}
+
+void frmSearch::ShowSizes() {
+  const SelectionProposal& proposal = Shown();
+  for (Long option = 1; option <= groupCount; ++option) {
     lblProfilName[option].SetCaption(
         proposal.Sections[PlaceOfOption(option)].Profile.Name.Trimmed());
     const bool impossible = proposal.Impossible.count(static_cast<GroupOption>(option)) != 0;
     lblProfilName[option].SetForeColor(impossible ? colorRed : colorWindowText);
     lblWorry[option].SetCaption(impossible ? "Подбор невозможен" : "");
   }
-  const bool verticals = treloType != 3;
-  imgProfileSec[optionStoyka].SetVisible(verticals);
-  lblProfilName[optionStoyka].SetVisible(verticals);
-  lblWorry[optionStoyka].SetVisible(verticals);
-  lblName[optionStoyka - 1].SetVisible(verticals);
+  lblRounds.SetCaption(proposal.Rounds == 0
+                           ? std::string()
+                           : "Кругов подбора до неизменности: " + std::to_string(proposal.Rounds));
+}
+
+void frmSearch::chkOpinion_Click() {
+  byOpinion_.reset();
+  if (chkOpinion.Checked()) {
+    byOpinion_ = offer_.ByOpinion ? offer_.ByOpinion() : std::nullopt;
+    if (!byOpinion_) {
+      // Clearing the box comes back here.
+      chkOpinion.SetChecked(false);
+      return;
+    }
+  }
+  ShowSizes();
 }
 
 void frmSearch::cmdApply_Click() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "platform/Controls.h"
 #include "workstation/ElementGroups.h"
@@ -14,11 +15,14 @@ class frmSearch {
  public:
   frmSearch();
 
-  /// Shows a proposal: the pictures of the layouts by option, the sizes' names, and red where no
-  /// size passes. Scheme 3 has no verticals.
-  void Fill(const SelectionProposal& proposal, const BoundedArray<Image>& layoutPictures,
-            Long treloType);
+  /// Shows the proposal of an offer: the pictures of the layouts by option, the sizes' names, and
+  /// red where no size passes. Scheme 3 has no verticals.
+  void Fill(const SelectionOffer& offer, const BoundedArray<Image>& layoutPictures, Long treloType);
+  /// The proposal that is shown.
+  const SelectionProposal& Shown() const { return byOpinion_ ? *byOpinion_ : offer_.Proposal; }
   void cmdApply_Click();
+  /// Set: selects by the program's own checks and the second opinion, and shows that.
+  void chkOpinion_Click();
   void tmrTimer_Timer();
 
   /// Whether the user has taken the proposal that was shown last.
@@ -30,12 +34,19 @@ class frmSearch {
   BoundedArray<Label> lblWorry{1, groupCount};
   /// Names of the groups; unlike the other rows they are counted from 0.
   BoundedArray<Label> lblName{0, groupCount - 1};
+  CheckBox chkOpinion;
+  /// How many rounds a selection by both took.
+  Label lblRounds;
   Timer tmrTimer;
   /// Unloads the window.
   std::function<void()> Unload;
 
  private:
+  void ShowSizes();
+
   Long waitCounter_ = 1;
+  SelectionOffer offer_;
+  std::optional<SelectionProposal> byOpinion_;
 };
 
 }  // namespace trelonit

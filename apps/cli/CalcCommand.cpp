@@ -1,5 +1,6 @@
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
+#include "apps/cli/OpinionOutput.h"
 #include "apps/cli/ResultJson.h"
 
 namespace trelonit::cli {
@@ -13,6 +14,7 @@ Status RunCalc(const CalcOptions& options) {
     return Status::Failed;
   }
   const ResultLists& lists = *session.TheProgram().LastResults();
+  PrintDangers(lists.Opinion);
   return Print(options.Json
                    ? CalcJson(session.Main().Model, lists, session.Messages(), options.BarForce)
                    : ListsAsText(lists));

@@ -103,6 +103,17 @@ Status RunCommandLine(int argc, const char* const* argv, const Paper& paper) {
       ->needs(json);
   calc->callback([&] { run = [&] { return RunCalc(calcOptions); }; });
 
+  AuditOptions auditOptions;
+  CLI::App* audit =
+      AddCommand(app, "audit",
+                 "второе мнение: замечания, коэффициенты расчёта рядом с коэффициентами по СНиП");
+  audit->add_option("FILE", auditOptions.Project, "файл проекта (.tsav)")
+      ->required()
+      ->type_name("");
+  audit->add_flag("--json", auditOptions.Json, "вывод в формате JSON");
+  audit->add_flag("--strict", auditOptions.Strict, "код завершения 3, если есть опасное замечание");
+  audit->callback([&] { run = [&] { return RunAudit(auditOptions); }; });
+
   SelectOptions selectOptions;
   CLI::App* select =
       AddCommand(app, "select", "автоматический подбор профилей и расчёт с подобранными");
@@ -113,6 +124,8 @@ Status RunCommandLine(int argc, const char* const* argv, const Paper& paper) {
       ->type_name("FILE");
   select->add_flag("-f,--force", selectOptions.Force, "заменить существующий файл");
   select->add_flag("--json", selectOptions.Json, "вывод в формате JSON");
+  select->add_flag("--opinion", selectOptions.Opinion,
+                   "подбирать и по СНиП без отступлений, до неизменности собственного веса");
   select->callback([&] { run = [&] { return RunSelect(selectOptions); }; });
 
   ReportOptions reportOptions;
@@ -125,6 +138,8 @@ Status RunCommandLine(int argc, const char* const* argv, const Paper& paper) {
                    "файл отчёта: .txt, .rtf, .pdf, .html; «-» — стандартный вывод")
       ->required()
       ->type_name("FILE");
+  report->add_flag("--appendix", reportOptions.Appendix,
+                   "приложение: второе мнение и проверки с подстановкой");
   report->callback([&] { run = [&] { return RunReport(reportOptions, paper); }; });
 
   DrawOptions drawOptions;

@@ -22,11 +22,20 @@ struct CalcOptions {
 /// Restores a project, checks its geometry, calculates, prints the two lists.
 Status RunCalc(const CalcOptions& options);
 
+struct AuditOptions {
+  std::string Project;
+  bool Json = false;
+  bool Strict = false;  ///< the status tells whether something is dangerous
+};
+/// Calculates and prints the second opinion: findings, told figures beside its own.
+Status RunAudit(const AuditOptions& options);
+
 struct SelectOptions {
   std::string Project;
   std::string Output;  ///< empty: nothing is saved
   bool Force = false;
   bool Json = false;
+  bool Opinion = false;  ///< sizes that pass the second opinion too
 };
 /// The same with automatic selection; the results are those of the proposal, which is saved as a
 /// project where an output is named.
@@ -34,7 +43,8 @@ Status RunSelect(const SelectOptions& options);
 
 struct ReportOptions {
   std::string Project;
-  std::string Output;  ///< a file by its extension, "-" for standard output
+  std::string Output;     ///< a file by its extension, "-" for standard output
+  bool Appendix = false;  ///< with the second opinion at its end
 };
 /// The calculation report.
 Status RunReport(const ReportOptions& options, const Paper& paper);

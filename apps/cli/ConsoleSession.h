@@ -10,7 +10,7 @@
 namespace trelonit::cli {
 
 /// Exit status of the program.
-enum class Status : int { Done = 0, Failed = 1, WrongUsage = 2 };
+enum class Status : int { Done = 0, Failed = 1, WrongUsage = 2, Danger = 3 };
 
 /// The program with console services: messages on standard error, dialogs answered by the names of
 /// the command line.

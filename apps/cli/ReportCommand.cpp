@@ -68,6 +68,7 @@ Status RunReport(const ReportOptions& options, const Paper& paper) {
   if (!Restore(session, options.Project)) {
     return Status::Failed;
   }
+  session.Main().ReportAppendix = options.Appendix;
   session.Main().cmdShowResults_Click();
   if (richText.empty() || session.MetRuntimeError()) {
     return Status::Failed;

@@ -1,12 +1,12 @@
 #include "apps/cli/ResultJson.h"
 
-#include <nlohmann/json.hpp>
+#include "apps/cli/OpinionJson.h"
 
 namespace trelonit::cli {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+using Json = OrderedJson;
 
 Json ToJson(const BoundedArray<double>& values) {
   Json list = Json::array();
@@ -155,11 +155,6 @@ Json ToJson(const std::optional<ProgibResult>& progib) {
   return {{"Value", progib->Value}, {"Limit", progib->Limit}, {"Satisfied", progib->Satisfied}};
 }
 
-std::string Dump(const Json& object) {
-  // A text that came out of a damaged file may be no valid UTF-8 any more.
-  return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
-}
-
 Json ToJson(const SelectionRow& row) {
   return {{"Group", row.Group},
           {"Name", row.Name},
@@ -190,23 +185,28 @@ Json ToJson(const DesignModel& model, const ResultLists& lists,
 
 std::string CalcJson(const DesignModel& model, const ResultLists& lists,
                      const std::vector<Message>& messages, bool barForce) {
-  return Dump(ToJson(model, lists, messages, barForce));
+  Json object = ToJson(model, lists, messages, barForce);
+  object["Findings"] = FindingsJson(lists.Opinion.Findings);
+  return JsonText(object);
 }
 
 std::string SelectJson(const DesignModel& model, const ResultLists& lists,
                        const std::vector<Message>& messages,
-                       const std::vector<SelectionRow>& selection) {
+                       const std::vector<SelectionRow>& selection, int rounds) {
   Json object = ToJson(model, lists, messages, false);
   Json rows = Json::array();
   for (const SelectionRow& row : selection) {
     rows.push_back(ToJson(row));
   }
   object["Selection"] = std::move(rows);
-  return Dump(object);
+  if (rounds > 0) {
+    object["Rounds"] = rounds;
+  }
+  return JsonText(object);
 }
 
 std::string FailureJson(const std::vector<Message>& messages) {
-  return Dump({{"Messages", ToJson(messages)}});
+  return JsonText({{"Messages", ToJson(messages)}});
 }
 
 }  // namespace trelonit::cli

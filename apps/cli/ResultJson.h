@@ -24,10 +24,11 @@ struct SelectionRow {
   bool Possible = true;
 };
 
-/// The same with the proposal's rows.
+/// The same, without the findings, with the proposal's rows and, of a selection by both, its
+/// rounds.
 std::string SelectJson(const DesignModel& model, const ResultLists& lists,
                        const std::vector<Message>& messages,
-                       const std::vector<SelectionRow>& selection);
+                       const std::vector<SelectionRow>& selection, int rounds);
 
 /// The object of a command that came to no result: the messages alone.
 std::string FailureJson(const std::vector<Message>& messages);

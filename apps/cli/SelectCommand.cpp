@@ -1,5 +1,6 @@
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
+#include "apps/cli/OpinionOutput.h"
 #include "apps/cli/ResultJson.h"
 #include "apps/cli/TextTable.h"
 
@@ -37,11 +38,20 @@ std::string RowsAsText(const std::vector<SelectionRow>& selection) {
   return TextTable(rows) + '\n';
 }
 
+/// Of a selection by both.
+std::string RoundsAsText(int rounds) {
+  return rounds == 0 ? std::string()
+                     : "Кругов подбора до неизменности: " + std::to_string(rounds) + "\n\n";
+}
+
 }  // namespace
 
 Status RunSelect(const SelectOptions& options) {
   ConsoleSession session(options.Force ? MessageAnswer::Yes : MessageAnswer::No,
-                         {.ShowSearch = [](frmSearch& form) { form.cmdApply_Click(); }});
+                         {.ShowSearch = [&options](frmSearch& form) {
+                           form.chkOpinion.SetChecked(options.Opinion);
+                           form.cmdApply_Click();
+                         }});
   const auto fail = [&] {
     if (options.Json) {
       Print(FailureJson(session.Messages()));
@@ -53,16 +63,25 @@ Status RunSelect(const SelectOptions& options) {
   }
   frmMain& form = session.Main();
   const ResultLists& lists = *session.TheProgram().LastResults();
-  const std::vector<SelectionRow> selection =
-      RowsOf(*session.TheProgram().LastProposal(), form.Model.TreloData.TreloType);
+  const SelectionProposal& proposal = *session.TheProgram().LastProposal();
+  if (options.Opinion && proposal.Rounds == 0) {
+    // Told why by then; the sizes would not be what was asked for.
+    return fail();
+  }
+  const std::vector<SelectionRow> selection = RowsOf(proposal, form.Model.TreloData.TreloType);
+  PrintDangers(lists.Opinion);
   if (!options.Output.empty()) {
+    if (options.Opinion) {
+      form.WithdrawOwnWeightFromLoads();
+    }
     session.SetSaveName(options.Output);
     if (!form.SaveParam_Click()) {
       return fail();
     }
   }
-  return Print(options.Json ? SelectJson(form.Model, lists, session.Messages(), selection)
-                            : RowsAsText(selection) + ListsAsText(lists));
+  return Print(options.Json
+                   ? SelectJson(form.Model, lists, session.Messages(), selection, proposal.Rounds)
+                   : RowsAsText(selection) + RoundsAsText(proposal.Rounds) + ListsAsText(lists));
 }
 
 }  // namespace trelonit::cli

@@ -152,7 +152,7 @@ TEST(HelpTellsTheCaptions, OfTheSelection) {
   proposal.Sections = SectionArray(1, sectionCount);
   BoundedArray<Image> layouts{1, groupCount};
   frmSearch form;
-  form.Fill(proposal, layouts, 1);
+  form.Fill({.Proposal = proposal}, layouts, 1);
   const SearchWindow window(form, nullptr);
   ExpectTold(Plain(window.windowTitle()));
   ExpectCaptionsTold(window, 3);

@@ -21,7 +21,7 @@ struct SearchScreen {
     for (Long option = 1; option <= groupCount; ++option) {
       Layouts[option].Show({Picture::Source::SectionLayout, static_cast<Integer>(option + 1)});
     }
-    Form.Fill(Proposal, Layouts, scheme);
+    Form.Fill({.Proposal = Proposal}, Layouts, scheme);
     Window = std::make_unique<SearchWindow>(Form, nullptr);
     ShowActive(*Window);
   }
@@ -149,7 +149,7 @@ TEST(SearchWindowImpossible, WordsAreNotCutOff) {
 TEST(SearchWindowImpossible, RedGoesWithTheNextProposal) {
   SearchScreen screen(1, {optionUpPoyas});
   screen.Proposal.Impossible = {optionRaskos};
-  screen.Form.Fill(screen.Proposal, screen.Layouts, 1);
+  screen.Form.Fill({.Proposal = screen.Proposal}, screen.Layouts, 1);
   EXPECT_EQ(screen.Ink(1), screen.Window->palette().color(QPalette::WindowText));
   EXPECT_EQ(screen.Ink(3), WarningColor(screen.Window->palette()));
   EXPECT_EQ(FromQt(screen.Worry(1).text()), "");
@@ -170,7 +170,7 @@ TEST(SearchWindowScheme3, HidesTheVerticals) {
 
 TEST(SearchWindowScheme3, BringsTheVerticalsBackForAnotherScheme) {
   SearchScreen screen(3);
-  screen.Form.Fill(screen.Proposal, screen.Layouts, 1);
+  screen.Form.Fill({.Proposal = screen.Proposal}, screen.Layouts, 1);
   EXPECT_TRUE(screen.Size(4).isVisible());
   EXPECT_TRUE(Has(LabelsIn(*screen.Window), "Стойки"));
 }

@@ -109,10 +109,10 @@ class Desk {
             .ShowSteel = note("Steel"),
             .ShowAbout = note("About"),
             .ShowSearch =
-                [this](const SelectionProposal& proposal) {
+                [this](const SelectionOffer& offer) {
                   Opened.push_back("Search");
-                  Proposals.push_back(proposal);
-                  return TakesProposals;
+                  Proposals.push_back(offer.Proposal);
+                  return TakesProposals ? std::optional(offer.Proposal) : std::nullopt;
                 },
             .BeginOtchet =
                 [this](const ReportSnapshot& snapshot) {

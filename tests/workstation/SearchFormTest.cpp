@@ -24,7 +24,7 @@ class SearchForm : public ::testing::Test {
     }
   }
 
-  void Fill(Long scheme = 1) { form.Fill(proposal, pictures, scheme); }
+  void Fill(Long scheme = 1) { form.Fill({.Proposal = proposal}, pictures, scheme); }
 
   std::vector<std::string> SizesShown() const { return Captions(form.lblProfilName); }
   std::vector<std::string> WorriesShown() const { return Captions(form.lblWorry); }
@@ -173,7 +173,7 @@ TEST(SearchFormOfADesign, ShowsTheLayoutsThatTheMainFormShows) {
   desk.Load(true, 1, "4");
   desk.Main.cmdCalcAndSelect_Click();
   frmSearch form;
-  form.Fill(desk.Proposals.at(0), desk.Main.imgProfileSec, 1);
+  form.Fill({.Proposal = desk.Proposals.at(0)}, desk.Main.imgProfileSec, 1);
   const std::vector<Long> layouts{9, 2, 5, 1, 6};
   for (Long option = 1; option <= groupCount; ++option) {
     const Long layout = layouts[static_cast<std::size_t>(option - 1)];

@@ -106,9 +106,9 @@ TEST(CalcAndSelect, ShowsTheProposalBeforeTheResultsAndEachOnce) {
   frmMain form(world.Outside.Bundle(),
                {.ShowKoeffOfUse = [&](const ResultLists&) { order.push_back("lists"); },
                 .ShowSearch =
-                    [&](const SelectionProposal&) {
+                    [&](const SelectionOffer& offer) {
                       order.push_back("search");
-                      return true;
+                      return std::optional(offer.Proposal);
                     }});
   form.Form_Load();
   form.tabMain.SetTab(2);

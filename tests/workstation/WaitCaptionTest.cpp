@@ -87,7 +87,7 @@ TEST(WaitCaption, StandsReadyAndDoesNotRun) {
   EXPECT_EQ(desk.Main.Timer1.Interval(), 0);
   EXPECT_EQ(frmSearch().tmrTimer.Interval(), 0);
   frmSearch search;
-  search.Fill(desk.Proposals.at(0), desk.Main.imgProfileSec, 1);
+  search.Fill({.Proposal = desk.Proposals.at(0)}, desk.Main.imgProfileSec, 1);
   search.cmdApply_Click();
   EXPECT_EQ(search.tmrTimer.Interval(), 0);
 }

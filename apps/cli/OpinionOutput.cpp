@@ -1,0 +1,61 @@
+#include "apps/cli/OpinionOutput.h"
+
+#include <iostream>
+#include <vector>
+
+#include "apps/cli/OpinionJson.h"
+#include "apps/cli/TextTable.h"
+#include "checks/ElementGroups.h"
+#include "platform/NumberText.h"
+#include "workstation/ReportAppendix.h"
+
+namespace trelonit::cli {
+
+namespace {
+
+std::string Figure(double value) {
+  constexpr int decimals = 5;
+  return FormatShown(value, decimals, SystemNumberLocale());
+}
+
+std::string Checks(const CheckResult& check, const Opinion& opinion) {
+  std::vector<std::vector<std::string>> rows{{"Группа, проверка", "Расчет", "СНиП", ""}};
+  for (const GroupJudgement& group : opinion.Groups) {
+    const ElementGroupRow& row = RowOf(group.Group);
+    for (const MemberCheckRow& member : memberChecks) {
+      const double judged = group.Figure(member.Check);
+      rows.push_back({std::string(row.Name) + ", " + member.Name,
+                      Figure(check.*row.Block.*member.Told), Figure(judged),
+                      judged > 1 ? "не выполнено" : ""});
+    }
+  }
+  return TextTable(std::move(rows));
+}
+
+}  // namespace
+
+std::string OpinionText(const CheckResult& check, const SecondOpinion& opinion) {
+  std::string text = std::string(opinionTitle) + " (" + normName + ")\n\n";
+  if (opinion.Findings.empty()) {
+    text += "Замечаний нет.\n";
+  }
+  for (const Finding& finding : opinion.Findings) {
+    text += std::string(SeverityWord(finding.Grade)) + ": " + finding.Text + " [" +
+            KeyOf(finding.Code) + "]\n";
+  }
+  return text + '\n' + Checks(check, opinion.Figures) + '\n' + opinionLimits + '\n';
+}
+
+void PrintDangers(const SecondOpinion& opinion) {
+  for (const Finding& finding : opinion.Findings) {
+    if (finding.Grade == Severity::Danger) {
+      std::cerr << opinionTitle << ": " << finding.Text << '\n';
+    }
+  }
+}
+
+void PrintRefusal(const Opinion& opinion) {
+  std::cerr << opinionTitle << ": " << opinion.Refusal << '\n';
+}
+
+}  // namespace trelonit::cli

@@ -1,0 +1,51 @@
+#include "workstation/SecondOpinion.h"
+
+#include <algorithm>
+
+#include "analysis/Scheme.h"
+#include "checks/ElementGroups.h"
+#include "workstation/CalculationChain.h"
+#include "workstation/SilentMessages.h"
+#include "workstation/modHelper.h"
+
+namespace trelonit {
+
+bool SecondOpinion::HasDanger() const {
+  return std::any_of(Findings.begin(), Findings.end(),
+                     [](const Finding& finding) { return finding.Grade == Severity::Danger; });
+}
+
+SecondOpinion FormSecondOpinion(const Design& design, const CheckNumbers& numbers,
+                                const std::optional<ProgibResult>& progib,
+                                const Circumstances& circumstances, const NumberLocale& locale) {
+  const JudgedDesign judged{.Data = design.TreloData,
+                            .Result = design.TreloResult,
+                            .Check = design.CheckData,
+                            .Sections = design.ElementSection,
+                            .Numbers = numbers};
+  const auto deflection = progib ? std::optional(ToldDeflection{progib->Value, progib->Limit})
+                                 : std::optional<ToldDeflection>();
+  SecondOpinion opinion{.Figures = FormOpinion(judged)};
+  opinion.Findings = FindAll(judged, opinion.Figures, circumstances, locale);
+  opinion.Explanations = Explain(judged, opinion.Figures, deflection);
+  return opinion;
+}
+
+std::vector<Circumstances::FailingGroup> GroupsThatFail(Design design, const CheckNumbers& numbers,
+                                                        bool ownWeight) {
+  SilentMessages silent;
+  AnalyseAndCheck(design, numbers, silent);
+  if (ownWeight) {
+    ApplyOwnWeight(design, numbers, silent);
+  }
+  std::vector<Circumstances::FailingGroup> failing;
+  for (const ElementGroupRow& row : elementGroups) {
+    const double use = LargestUse(design.CheckData.*row.Block);
+    if (use > 1) {
+      failing.push_back({row.Group, use});
+    }
+  }
+  return failing;
+}
+
+}  // namespace trelonit
