@@ -15,22 +15,16 @@ bool FallsToTheMiddle(Long panel, Long n) {
   return panel < n / 2;
 }
 
-bool FirstUpToTheMiddle(Long column, Long n) {
-  return column < n / 2;
-}
-
-bool Never(Long /*column*/, Long /*n*/) {
-  return false;
-}
-
-constexpr std::array<Scheme, 10> schemes{{
+constexpr std::array<Scheme, schemeCount> schemes{{
     // Parallel chords, held below, a vertical at every column.
     {.Number = 1,
      .Reserved = false,
+     .LowerEndPanels = true,
      .LastLowerJoint = [](Long n) { return n; },
      .LowerHalfColumn = [](Long joint) { return 2 * joint; },
      .FallsToTheRight = FallsToTheMiddle,
-     .LowerJointFirst = FirstUpToTheMiddle},
+     .UpperNumber = JointsOfScheme1::Upper,
+     .LowerNumber = JointsOfScheme1::Lower},
     // Held above, no lower joints under the supports.
     {.Number = 2,
      .Reserved = false,
@@ -38,7 +32,9 @@ constexpr std::array<Scheme, 10> schemes{{
      .LastLowerJoint = [](Long n) { return n - 2; },
      .LowerHalfColumn = [](Long joint) { return 2 * (joint + 1); },
      .FallsToTheRight = FallsToTheMiddle,
-     .LowerJointFirst = FirstUpToTheMiddle},
+     .UpperNumber = JointsOfScheme2::Upper,
+     .LowerNumber = JointsOfScheme2::Lower,
+     .PanelsOfLowerStretch = [](Long /*n*/) { return Long{2}; }},
     // Triangles without verticals: the lower joints stand between the columns.
     {.Number = 3,
      .Reserved = false,
@@ -49,15 +45,20 @@ constexpr std::array<Scheme, 10> schemes{{
      .PanelStep = 1,
      .LastLowerJoint = [](Long n) { return n - 1; },
      .LowerHalfColumn = [](Long joint) { return 2 * joint + 1; },
-     .LowerJointFirst = Never},
+     .UpperNumber = JointsOfScheme3::Upper,
+     .LowerNumber = JointsOfScheme3::Lower,
+     .PanelsOfLowerStretch = [](Long n) { return Long{n > 2 ? 2 : 1}; }},
     // Triangles with a vertical in each: a lower joint under every odd column.
     {.Number = 4,
      .Reserved = false,
      .HeldBelow = false,
+     .PanelsOfLowerBar = 2,
      .LastLowerJoint = [](Long n) { return n / 2 - 1; },
      .LowerHalfColumn = [](Long joint) { return 2 * (2 * joint + 1); },
      .FallsToTheRight = [](Long panel, Long /*n*/) { return panel % 2 == 0; },
-     .LowerJointFirst = Never},
+     .UpperNumber = JointsOfScheme4::Upper,
+     .LowerNumber = JointsOfScheme4::Lower,
+     .PanelsOfLowerStretch = [](Long n) { return Long{n > 4 ? 4 : 2}; }},
     // Its last lower joint is settled, for its loads; nothing else is.
     {.Number = 5, .LastLowerJoint = [](Long n) { return n / 2; }},
     {.Number = 6},
@@ -83,8 +84,8 @@ class TrussBuilder {
     PutJoints();
     PutChord(ElementGroup::UpPoyas, &TreloResult::UpPoyasForce, truss_.Upper);
     PutChord(ElementGroup::DwnPoyas, &TreloResult::DwnPoyasForce, truss_.Lower);
-    PutVerticals();
     PutDiagonals();
+    PutVerticals();
     const std::vector<std::size_t>& held = scheme_.HeldBelow ? truss_.Lower : truss_.Upper;
     truss_.LeftSupport = held.front();
     truss_.RightSupport = held.back();
@@ -110,38 +111,29 @@ class TrussBuilder {
     return halfColumn % 2 == 0 ? ColumnX(column) : (ColumnX(column) + ColumnX(column + 1)) / 2;
   }
 
-  void PutJoint(Chord chord, Long halfColumn) {
-    std::vector<std::size_t>& joints = chord == Chord::Upper ? truss_.Upper : truss_.Lower;
-    const std::size_t place = truss_.Joints.size();
-    truss_.Joints.push_back({.Of = chord,
-                             .Index = static_cast<Long>(joints.size()),
-                             .Number = static_cast<Long>(place) + 1,
-                             .X = HalfColumnX(halfColumn),
-                             .Y = chord == Chord::Upper ? data_.Hight : 0});
-    joints.push_back(place);
+  void PutJoint(Chord chord, Long index, Long halfColumn, Long number) {
+    const auto place = static_cast<std::size_t>(number - 1);
+    truss_.Joints[place] = {.Of = chord,
+                            .Index = index,
+                            .Number = number,
+                            .X = HalfColumnX(halfColumn),
+                            .Y = chord == Chord::Upper ? data_.Hight : 0};
     if (chord == Chord::Upper) {
+      truss_.Upper.push_back(place);
       upperAtColumn_[static_cast<std::size_t>(halfColumn / 2)] = place;
     } else {
+      truss_.Lower.push_back(place);
       lowerAtHalfColumn_[static_cast<std::size_t>(halfColumn)] = place;
     }
   }
 
   void PutJoints() {
-    truss_.Joints.reserve(upperAtColumn_.size() + static_cast<std::size_t>(lastLower_) + 1);
-    Long lower = 0;
-    for (Long halfColumn = 0; halfColumn <= 2 * n_; ++halfColumn) {
-      const bool hasLower = lower <= lastLower_ && scheme_.LowerHalfColumn(lower) == halfColumn;
-      const bool lowerFirst = hasLower && scheme_.LowerJointFirst(halfColumn / 2, n_);
-      if (lowerFirst) {
-        PutJoint(Chord::Lower, halfColumn);
-      }
-      if (halfColumn % 2 == 0) {
-        PutJoint(Chord::Upper, halfColumn);
-      }
-      if (hasLower && !lowerFirst) {
-        PutJoint(Chord::Lower, halfColumn);
-      }
-      lower += hasLower ? 1 : 0;
+    truss_.Joints.resize(static_cast<std::size_t>(n_ + 1 + lastLower_ + 1));
+    for (Long column = 0; column <= n_; ++column) {
+      PutJoint(Chord::Upper, column, 2 * column, scheme_.UpperNumber(column, n_));
+    }
+    for (Long joint = 0; joint <= lastLower_; ++joint) {
+      PutJoint(Chord::Lower, joint, scheme_.LowerHalfColumn(joint), scheme_.LowerNumber(joint, n_));
     }
   }
 
@@ -205,10 +197,10 @@ class TrussBuilder {
       const auto& [a, b] = ends[static_cast<std::size_t>(subscript - 1)];
       Add(group, number, &TreloResult::RaskosForce, subscript, a, b);
     };
+    put(ElementGroup::OpornRaskos, 1, 1);
     for (Long subscript = 2; subscript < last; ++subscript) {
       put(ElementGroup::Raskos, subscript - 1, subscript);
     }
-    put(ElementGroup::OpornRaskos, 1, 1);
     put(ElementGroup::OpornRaskos, 2, last);
   }
 
@@ -250,6 +242,11 @@ std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum) {
                     .UpDistForce = panelNum - 1,
                     .DwnPForce = lastLower,
                     .DwnDistForce = lastLower - 1};
+}
+
+bool HasVerticals(Long scheme) {
+  const Scheme* row = FindScheme(scheme);
+  return row == nullptr || row->HasVerticals;
 }
 
 Truss TrussOf(const TreloData& data) {

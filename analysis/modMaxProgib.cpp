@@ -47,7 +47,8 @@ WorkSums SumWork(const TreloData& data, const TreloResult& real, const TreloResu
   // A failed unit run has no force arrays: its sums stay 0.
   PassOver([&] { sums.UpEnds = EndBarWork(real.UpPoyasForce, unit.UpPoyasForce); });
   PassOver([&] { sums.UpMiddle = MiddleBarWork(real.UpPoyasForce, unit.UpPoyasForce); });
-  if (data.TreloType == 1) {
+  const Scheme* scheme = FindScheme(data.TreloType);
+  if (scheme != nullptr && scheme->LowerEndPanels) {
     PassOver([&] { sums.DwnEnds = EndBarWork(real.DwnPoyasForce, unit.DwnPoyasForce); });
     PassOver([&] { sums.DwnMiddle = MiddleBarWork(real.DwnPoyasForce, unit.DwnPoyasForce); });
   } else {

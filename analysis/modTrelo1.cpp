@@ -1,4 +1,5 @@
 #include "analysis/JointWalk.h"
+#include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
 
 namespace trelonit {
@@ -69,9 +70,8 @@ TreloResult SolveScheme(const TreloData& data) {
   r3 = D[n - 1];
   DropRoundingNoise(truss);
 
-  // From the middle on, the upper joint of a column comes before the lower one.
-  const auto lowerJoint = [m](Long c) { return c < m ? 2 * c + 1 : 2 * c + 2; };
-  const auto upperJoint = [m](Long c) { return c < m ? 2 * c + 2 : 2 * c + 1; };
+  const auto lowerJoint = [n](Long c) { return JointsOfScheme1::Lower(c, n); };
+  const auto upperJoint = [n](Long c) { return JointsOfScheme1::Upper(c, n); };
 
   TreloResult result = ResultOf(truss);
   for (Long c = 0; c <= n - 1; ++c) {

@@ -1,4 +1,5 @@
 #include "analysis/JointWalk.h"
+#include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
 
 namespace trelonit {
@@ -76,8 +77,9 @@ TreloResult SolveScheme(const TreloData& data) {
   r3 = -U[n - 1] - cosAlpha * R[n - 1];
   DropRoundingNoise(truss);
 
-  const auto upperJoint = [m](Long c) { return c < m ? 2 * c + 1 : 2 * c; };
-  const auto lowerJoint = [m](Long c) { return c < m ? 2 * c : 2 * c + 1; };
+  const auto upperJoint = [n](Long c) { return JointsOfScheme2::Upper(c, n); };
+  // Under the columns 1 to n - 1.
+  const auto lowerJoint = [n](Long c) { return JointsOfScheme2::Lower(c - 1, n); };
 
   TreloResult result = ResultOf(truss);
   for (Long c = 0; c <= n - 1; ++c) {

@@ -1,4 +1,5 @@
 #include "analysis/JointWalk.h"
+#include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
 
 namespace trelonit {
@@ -59,11 +60,13 @@ TreloResult SolveScheme(const TreloData& data) {
   for (Long j = 1; j <= 2 * n; ++j) {
     PutBar(result.BarForce, j, j + 1, R[j]);
   }
+  const auto upperJoint = [n](Long t) { return JointsOfScheme3::Upper(t, n); };
+  const auto lowerJoint = [n](Long i) { return JointsOfScheme3::Lower(i, n); };
   for (Long t = 0; t <= n - 1; ++t) {
-    PutBar(result.BarForce, 2 * t + 1, 2 * t + 3, U[t]);
+    PutBar(result.BarForce, upperJoint(t), upperJoint(t + 1), U[t]);
   }
   for (Long i = 0; i <= n - 2; ++i) {
-    PutBar(result.BarForce, 2 * i + 2, 2 * i + 4, D[i]);
+    PutBar(result.BarForce, lowerJoint(i), lowerJoint(i + 1), D[i]);
   }
   // All diagonals count as regular ones in the totals, though both lengths are told, and the one
   // lattice angle stands as that of the support diagonals.

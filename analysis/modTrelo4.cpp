@@ -1,4 +1,5 @@
 #include "analysis/JointWalk.h"
+#include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
 
 namespace trelonit {
@@ -58,8 +59,8 @@ TreloResult SolveScheme(const TreloData& data) {
   r3 = -U[n - 1] - cosAlpha * R[n - 1];
   DropRoundingNoise(truss);
 
-  const auto upperJoint = [](Long c) { return 3 * (c / 2) + 1 + c % 2; };
-  const auto lowerJoint = [](Long i) { return 3 * i + 3; };
+  const auto upperJoint = [n](Long c) { return JointsOfScheme4::Upper(c, n); };
+  const auto lowerJoint = [n](Long i) { return JointsOfScheme4::Lower(i, n); };
 
   TreloResult result = ResultOf(truss);
   for (Long c = 0; c <= n - 1; ++c) {

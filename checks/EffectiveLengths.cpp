@@ -11,8 +11,9 @@ bool IsEndBar(const ForceExtreme& force, const BoundedArray<double>& forces) {
   return force.Index == 1 || force.Index == forces.UpperBound();
 }
 
-double UpperInPlane(const CheckResult& check, const TreloData& data, const TreloResult& res) {
-  if (data.TreloType == 3) {
+double UpperInPlane(const CheckResult& check, const TreloData& data, const TreloResult& res,
+                    const Scheme* scheme) {
+  if (scheme != nullptr && !scheme->OwnEndPanels) {
     return res.LenPanel;
   }
   // The bar of greatest force decides, even when the end panel is the shorter one.
@@ -33,65 +34,37 @@ double UpperOutOfPlane(Integer bracing, const TreloData& data, double d) {
   }
 }
 
-double LowerInPlane(const CheckResult& check, const TreloData& data, const TreloResult& res) {
-  switch (data.TreloType) {
-    case 1:
-      return IsEndBar(check.DwnPoyas.NMax, res.DwnPoyasForce) ? data.LenOporn : res.LenPanel;
-    case 2:
-    case 3:
-      return res.LenPanel;
-    case 4:
-      return Real(2) * res.LenPanel;
-    default:
-      return 0;
+double LowerInPlane(const CheckResult& check, const TreloData& data, const TreloResult& res,
+                    const Scheme& scheme) {
+  if (scheme.LowerEndPanels) {
+    return IsEndBar(check.DwnPoyas.NMax, res.DwnPoyasForce) ? data.LenOporn : res.LenPanel;
   }
+  return Real(scheme.PanelsOfLowerBar) * res.LenPanel;
 }
 
-/// Bracing 1: every joint of the lower chord is held.
-double LowerHeldEverywhere(const TreloData& data, double d) {
-  switch (data.TreloType) {
-    case 1:
-      return MaxOf(d, data.LenOporn);
-    case 2:
-    case 3:
-      return d;
-    case 4:
-      return Real(2) * d;
-    default:
-      return 0;
-  }
-}
-
-/// Bracing 2: the joints between are held alternately where the chord has enough of them.
-double LowerHeldAlternately(const TreloData& data, Real d) {
-  switch (data.TreloType) {
-    case 1:
-      return MaxOf(d, data.LenOporn);
-    case 2:
-      return 2 * d;
-    case 3:
-      return data.PanelNum > 2 ? 2 * d : d;
-    case 4:
-      return data.PanelNum > 4 ? 4 * d : 2 * d;
-    default:
-      return 0;
-  }
-}
-
-double LowerOutOfPlane(Integer bracing, const TreloData& data, double d) {
-  const bool known = data.TreloType >= 1 && data.TreloType <= 4;
+/// Bracing 1 holds every joint of the lower chord, 2 every second one where the chord has enough of
+/// them.
+double LowerOutOfPlane(Integer bracing, const TreloData& data, double d, const Scheme& scheme) {
+  const auto panels = [&](Long count) -> double { return Real(count) * d; };
   switch (bracing) {
     case 1:
-      return LowerHeldEverywhere(data, d);
+      return scheme.LowerEndPanels ? MaxOf(d, data.LenOporn) : panels(scheme.PanelsOfLowerBar);
     case 2:
-      return LowerHeldAlternately(data, d);
+      return scheme.LowerEndPanels ? MaxOf(d, data.LenOporn)
+                                   : panels(scheme.PanelsOfLowerStretch(data.PanelNum));
     case 3:
-      return known ? data.LengthF / 2 : 0;
+      return data.LengthF / 2;
     case 4:
-      return known ? data.LengthF : 0;
+      return data.LengthF;
     default:
       return 0;
   }
+}
+
+/// The row of a scheme that is solved; null for others, whose lower chords have no lengths.
+const Scheme* SolvedScheme(const TreloData& data) {
+  const Scheme* scheme = FindScheme(data.TreloType);
+  return scheme != nullptr && !scheme->Reserved ? scheme : nullptr;
 }
 
 void PutBoth(GroupCheck& group, double length) {
@@ -102,17 +75,21 @@ void PutBoth(GroupCheck& group, double length) {
 }  // namespace
 
 double OutOfPlaneLength(Chord chord, Integer bracing, const TreloData& data, double LenPanel) {
-  return chord == Chord::Upper ? UpperOutOfPlane(bracing, data, LenPanel)
-                               : LowerOutOfPlane(bracing, data, LenPanel);
+  if (chord == Chord::Upper) {
+    return UpperOutOfPlane(bracing, data, LenPanel);
+  }
+  const Scheme* scheme = SolvedScheme(data);
+  return scheme != nullptr ? LowerOutOfPlane(bracing, data, LenPanel, *scheme) : 0;
 }
 
 void PutEffectiveLengths(CheckResult& check, const TreloData& data, const TreloResult& res) {
-  check.UpPoyas.LenX = UpperInPlane(check, data, res);
+  const Scheme* scheme = SolvedScheme(data);
+  check.UpPoyas.LenX = UpperInPlane(check, data, res, scheme);
   check.UpPoyas.LenY = OutOfPlaneLength(Chord::Upper, data.UpPoyasBrace, data, res.LenPanel);
-  check.DwnPoyas.LenX = LowerInPlane(check, data, res);
+  check.DwnPoyas.LenX = scheme != nullptr ? LowerInPlane(check, data, res, *scheme) : 0;
   check.DwnPoyas.LenY = OutOfPlaneLength(Chord::Lower, data.DownPoyasBrace, data, res.LenPanel);
   // Web members are taken at full length in both planes, without a reduction.
-  PutBoth(check.Stoyka, data.TreloType == 3 ? 0 : data.Hight);
+  PutBoth(check.Stoyka, HasVerticals(data.TreloType) ? data.Hight : 0);
   PutBoth(check.Raskos, res.LenRaskos);
   PutBoth(check.OpornRaskos, res.LenOpornRaskos);
 }

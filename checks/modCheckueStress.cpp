@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "analysis/Scheme.h"
 #include "catalogue/SectionComposition.h"
 #include "checks/CheckFormulas.h"
 #include "checks/EffectiveLengths.h"
@@ -12,8 +13,6 @@
 namespace trelonit {
 
 namespace {
-
-constexpr Long schemeWithoutVerticals = 3;
 
 class Check {
  public:
@@ -35,9 +34,9 @@ class Check {
   }
 
  private:
-  bool HasVerticals() const { return data_.TreloType != schemeWithoutVerticals; }
+  bool HasVerticals() const { return trelonit::HasVerticals(data_.TreloType); }
   bool IsAbsent(const ElementGroupRow& group) const {
-    return group.Place == sectionStoyka && !HasVerticals();
+    return group.Group == ElementGroup::Stoyka && !HasVerticals();
   }
 
   void Compose() {

@@ -12,11 +12,11 @@ constexpr double millimetresPerMetre = 1000;
 SchemeSheet SheetAt(const TreloData& data, const TreloResult& result) {
   // The analysis solves no truss of more joints than that, and none without panels. A damaged
   // project may ask for any count and would be drawn for hours.
-  constexpr Long mostPanels = 1000;
-  if (data.PanelNum < 1 || data.PanelNum > mostPanels) {
+  if (data.PanelNum < 1 || data.PanelNum > mostJoints) {
     RaiseSubscriptOutOfRange();
   }
   SchemeSheet sheet;
+  sheet.Of = FindScheme(data.TreloType);
   sheet.n = data.PanelNum;
   sheet.L = Real(data.LengthF) * millimetresPerMetre;
   sheet.H = Real(data.Hight) * millimetresPerMetre;
@@ -88,14 +88,34 @@ class LayoutBuilder {
                                   drawingPi / 2});
   }
 
-  // What the schemes with end panels of their own share.
-
   void UpperChord() {
     for (Long k = 1; k <= sheet_.n; ++k) {
-      const Real length = k == 1 || k == sheet_.n ? sheet_.d : sheet_.p;
+      const bool end = sheet_.Of->OwnEndPanels && (k == 1 || k == sheet_.n);
+      const Real length = end ? sheet_.d : sheet_.p;
       UpperBar(k, sheet_.NodeX(k - 1), sheet_.NodeX(k), length / millimetresPerMetre);
     }
   }
+  void LowerChord() {
+    // Its end bars show the length of a regular panel, too, where they are as long as an end panel:
+    // intended, unlike on the upper chord.
+    const Real length = sheet_.Of->PanelsOfLowerBar * sheet_.p / millimetresPerMetre;
+    for (Long k = 1; k <= sheet_.LastLower(); ++k) {
+      LowerBar(k, sheet_.LowerX(k - 1), sheet_.LowerX(k), length);
+    }
+  }
+  void Verticals() {
+    for (Long k = 0; k <= sheet_.LastLower(); ++k) {
+      Vertical(k + 1, sheet_.LowerX(k));
+    }
+  }
+  void UpperChain() {
+    for (Long k = 1; k <= sheet_.n; ++k) {
+      UpperChainLink(sheet_.NodeX(k - 1), sheet_.NodeX(k));
+    }
+  }
+
+  // What the schemes with end panels of their own share.
+
   void LeftSupportDiagonal() { FallingDiagonal(Support(), 1, 0, sheet_.d); }
   void RightSupportDiagonal() {
     RisingDiagonal(Support(), sheet_.n, sheet_.NodeX(sheet_.n), sheet_.NodeX(sheet_.n - 1));
@@ -132,10 +152,22 @@ class LayoutBuilder {
 }  // namespace
 
 Real SchemeSheet::NodeX(Long k) const {
+  if (!Of->OwnEndPanels) {
+    return k * p;
+  }
   if (k == 0) {
     return 0;
   }
   return k == n ? NodeX(n - 1) + d : d + (k - 1) * p;
+}
+
+Real SchemeSheet::LowerX(Long joint) const {
+  const Long halfColumn = Of->LowerHalfColumn(joint);
+  return halfColumn % 2 == 0 ? NodeX(halfColumn / 2) : halfColumn / 2.0 * p;
+}
+
+Long SchemeSheet::LastLower() const {
+  return Of->LastLowerJoint(n);
 }
 
 SchemeSheet ForceSheet(const TreloData& data, const TreloResult& result) {
@@ -157,14 +189,8 @@ SchemeLayout LayoutOfScheme1(const SchemeSheet& sheet) {
   LayoutBuilder layout(sheet);
   layout.UpperChord();
   layout.DiagonalsToTheMiddle();
-  for (Long k = 0; k <= n; ++k) {
-    layout.Vertical(k + 1, sheet.NodeX(k));
-  }
-  for (Long k = 1; k <= n; ++k) {
-    // The end bars show the length of a regular panel, too, though they are as long as an end
-    // panel: intended, unlike on the upper chord.
-    layout.LowerBar(k, sheet.NodeX(k - 1), sheet.NodeX(k), sheet.p / millimetresPerMetre);
-  }
+  layout.Verticals();
+  layout.LowerChord();
 
   for (Long k = 1; k <= n; ++k) {
     layout.LowerChainLink({sheet.NodeX(k - 1), sheet.Lower}, {sheet.NodeX(k), sheet.Lower});
@@ -179,12 +205,8 @@ SchemeLayout LayoutOfScheme2(const SchemeSheet& sheet) {
   LayoutBuilder layout(sheet);
   layout.UpperChord();
   layout.DiagonalsToTheMiddle();
-  for (Long k = 1; k <= n - 1; ++k) {
-    layout.Vertical(k, sheet.NodeX(k));
-  }
-  for (Long k = 1; k <= n - 2; ++k) {
-    layout.LowerBar(k, sheet.NodeX(k), sheet.NodeX(k + 1), sheet.p / millimetresPerMetre);
-  }
+  layout.Verticals();
+  layout.LowerChord();
 
   // No lower node stands at the ends.
   const auto node = [&](Long k) {
@@ -200,31 +222,24 @@ SchemeLayout LayoutOfScheme2(const SchemeSheet& sheet) {
 
 SchemeLayout LayoutOfScheme3(const SchemeSheet& sheet) {
   const Long n = sheet.n;
-  const Real length = sheet.p / millimetresPerMetre;
-  const auto upper = [&](Long k) { return k * sheet.p; };
+  const auto upper = [&](Long k) { return sheet.NodeX(k); };
   // Between the upper nodes k and k + 1.
-  const auto lower = [&](Long k) { return (k + 0.5) * sheet.p; };
+  const auto lower = [&](Long k) { return sheet.LowerX(k); };
   LayoutBuilder layout(sheet);
   // One slope serves the whole lattice.
   DiagonalKind regular = layout.Regular();
   regular.Angle = sheet.AngleOporn;
 
-  for (Long k = 1; k <= n; ++k) {
-    layout.UpperBar(k, upper(k - 1), upper(k), length);
-  }
+  layout.UpperChord();
   for (Long k = 0; k <= n - 1; ++k) {
     layout.FallingDiagonal(k == 0 ? layout.Support() : regular, 2 * k + 1, upper(k), lower(k));
   }
   for (Long k = 1; k <= n; ++k) {
     layout.RisingDiagonal(k == n ? layout.Support() : regular, 2 * k, upper(k), lower(k - 1));
   }
-  for (Long k = 1; k <= n - 1; ++k) {
-    layout.LowerBar(k, lower(k - 1), lower(k), length);
-  }
+  layout.LowerChord();
 
-  for (Long k = 1; k <= n; ++k) {
-    layout.UpperChainLink(upper(k - 1), upper(k));
-  }
+  layout.UpperChain();
   layout.LowerChainLink({0, sheet.Upper}, {lower(0), sheet.Lower});
   for (Long k = 1; k <= n - 1; ++k) {
     layout.LowerChainLink({lower(k - 1), sheet.Lower}, {lower(k), sheet.Lower});
@@ -247,17 +262,10 @@ SchemeLayout LayoutOfScheme4(const SchemeSheet& sheet) {
     layout.RisingDiagonal(layout.Regular(), k, sheet.NodeX(k), sheet.NodeX(k - 1));
   }
   layout.RightSupportDiagonal();
-  for (Long k = 1; k <= n - 1; k += 2) {
-    layout.Vertical((k + 1) / 2, sheet.NodeX(k));
-  }
-  for (Long k = 1; k <= n - 3; k += 2) {
-    layout.LowerBar((k + 1) / 2, sheet.NodeX(k), sheet.NodeX(k + 2),
-                    2 * sheet.p / millimetresPerMetre);
-  }
+  layout.Verticals();
+  layout.LowerChord();
 
-  for (Long k = 1; k <= n; ++k) {
-    layout.UpperChainLink(sheet.NodeX(k - 1), sheet.NodeX(k));
-  }
+  layout.UpperChain();
   layout.Overall(sheet.Upper, sheet.Upper + 5 * sheet.t);
   layout.Height(sheet.L - sheet.d);
   return layout.Layout();

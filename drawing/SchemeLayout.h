@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "analysis/modDatatypes.h"
+#include "analysis/Scheme.h"
 #include "catalogue/SectionRecord.h"
 #include "platform/Arithmetic.h"
 
@@ -24,7 +24,7 @@ struct SchemeSheet {
   Long n = 0;           ///< number of panels
   Real L;               ///< span
   Real H;               ///< height
-  Real d;               ///< end panel; scheme 3 does not read it
+  Real d;               ///< end panel, where the scheme has one of its own
   Real p;               ///< regular panel
   Real t;               ///< text height and unit of every offset: follows the height, not the span
   Real Upper;           ///< level of the upper chord
@@ -34,8 +34,14 @@ struct SchemeSheet {
   Real LenOpornRaskos;  ///< metres
   Real LenRaskos;       ///< metres
 
-  /// Abscissa of node k, 0 to n, of the schemes with end panels of their own.
+  const Scheme* Of = nullptr;
+
+  /// Abscissa of the upper node k, 0 to n.
   Real NodeX(Long k) const;
+  /// Abscissa of a lower node, by its index from 0.
+  Real LowerX(Long joint) const;
+  /// Index of the last lower node.
+  Long LastLower() const;
 };
 
 /// The force scheme stands at the bottom of the sheet. Both raise 6 for sizes beyond the range of

@@ -17,7 +17,6 @@ namespace trelonit {
 
 namespace {
 
-constexpr Long schemeCount = 10;
 constexpr int schemesInRow = 5;
 constexpr QSize schemeSize{132, 66};
 

@@ -38,7 +38,7 @@ void ClearLoads(LoadArrays& loads, Long treloType, Long panelNum) {
     return;
   }
   LoadArrays cleared = ZeroLoads(*bounds);
-  if (treloType > 4) {
+  if (FindScheme(treloType)->Reserved) {
     cleared.DwnPForce = loads.DwnPForce;
     cleared.DwnDistForce = loads.DwnDistForce;
   }

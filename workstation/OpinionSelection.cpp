@@ -53,8 +53,7 @@ class SearchByBoth {
     const bool onlyUp = proposal.Rounds >= lastFreeRound;
     bool changed = false;
     for (const ElementGroupRow& row : elementGroups) {
-      if (row.Group == ElementGroup::Stoyka &&
-          !FindScheme(design_.TreloData.TreloType)->HasVerticals) {
+      if (row.Group == ElementGroup::Stoyka && !HasVerticals(design_.TreloData.TreloType)) {
         continue;
       }
       SectionRec& section = design_.ElementSection[row.Place];

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "analysis/Scheme.h"
 #include "platform/Arithmetic.h"
 #include "workstation/ReportWriter.h"
 
@@ -72,7 +73,7 @@ class Report {
   }
 
  private:
-  bool HasVerticals() const { return model_.TreloData.TreloType != 3; }
+  bool HasVerticals() const { return trelonit::HasVerticals(model_.TreloData.TreloType); }
 
   void WriteInput() {
     const TreloData& data = model_.TreloData;
@@ -286,7 +287,7 @@ void WriteReportAdditional(const DesignModel& model, const NumberLocale& locale,
   ReportWriter out(locale, sink);
   const TreloResult& result = model.TreloResult;
   const CheckResult& check = model.CheckData;
-  const bool verticals = model.TreloData.TreloType != 3;
+  const bool verticals = HasVerticals(model.TreloData.TreloType);
   out.Line("  ");
   out.SpacedHeading("Дополнительная информация : ");
   out.Line("  ");

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "analysis/Scheme.h"
 #include "checks/ElementGroups.h"
 #include "platform/Arithmetic.h"
 
@@ -12,8 +13,9 @@ namespace {
 constexpr int forceDecimals = 4;
 constexpr int coefficientDecimals = 5;
 
-bool HasVerticals(Long treloType) {
-  return treloType == 1 || treloType == 2 || treloType == 4;
+bool ShowsVerticals(Long treloType) {
+  const Scheme* scheme = FindScheme(treloType);
+  return scheme != nullptr && scheme->ShowsVerticals();
 }
 
 class ForceList {
@@ -92,7 +94,7 @@ std::vector<UtilisationRow> UtilisationRows(Long treloType, const CheckResult& c
   AddGroup(rows, {ElementGroup::Raskos, "*** Раскосы", "раскосов"}, check);
   // A Latin p in this header and a Latin C in the next are the established texts.
   AddGroup(rows, {ElementGroup::OpornRaskos, "*** Опорные pаскосы", "опорных раскосов"}, check);
-  if (HasVerticals(treloType)) {
+  if (ShowsVerticals(treloType)) {
     AddGroup(rows, {ElementGroup::Stoyka, "*** Cтойки", "стоек"}, check);
   }
   return rows;
@@ -118,7 +120,7 @@ std::vector<std::string> BuildForceList(Long treloType, const TreloResult& resul
   list.Line(" Опорные раскосы :");
   list.Bar(1, diagonals[diagonals.LowerBound()]);
   list.Bar(2, diagonals[diagonals.UpperBound()]);
-  if (HasVerticals(treloType)) {
+  if (ShowsVerticals(treloType)) {
     list.Line(" ");
     list.Line(" Стойки :");
     list.AllBars(result.StoykaForce);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "analysis/Scheme.h"
 #include "checks/ElementGroups.h"
 #include "platform/Arithmetic.h"
 #include "workstation/modHelper.h"
@@ -45,7 +46,7 @@ class Search {
   SelectionProposal Run() {
     for (const GroupOption group :
          {optionUpPoyas, optionDwnPoyas, optionRaskos, optionStoyka, optionOpornRaskos}) {
-      if (group != optionStoyka || model_.TreloData.TreloType != 3) {
+      if (group != optionStoyka || HasVerticals(model_.TreloData.TreloType)) {
         Walk(group);
       }
     }

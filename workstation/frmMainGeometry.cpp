@@ -1,3 +1,4 @@
+#include "analysis/Scheme.h"
 #include "checks/CheckFormulas.h"
 #include "platform/Arithmetic.h"
 #include "platform/Guard.h"
@@ -7,9 +8,7 @@ namespace trelonit {
 
 namespace {
 
-constexpr Long greatestPanelNum = 30;
 constexpr Integer schemeBitmapBase = 100;
-constexpr Long schemeWithoutVerticals = 3;
 constexpr int hoptDecimals = 5;
 constexpr Long hoptPanel = 6;
 
@@ -25,21 +24,16 @@ void frmMain::imgTreloType_Click(Long scheme) {
     imgMain.Show(services_.Resources.Bitmap(static_cast<Integer>(schemeBitmapBase + scheme)));
     imgTreloType[scheme].SetMarked(true);
     Model.TreloData.TreloType = scheme;
-    if (scheme == schemeWithoutVerticals && old != schemeWithoutVerticals) {
+    const Scheme& now = *FindScheme(scheme);
+    const Scheme* before = FindScheme(old);
+    if (before == nullptr || now.OwnEndPanels != before->OwnEndPanels) {
       cmbPanelNum.Clear();
-      WritePanelNumAll(2);
+      FillPanelNum(now.FewestPanels, now.PanelStep);
       cmbPanelNum.Select(0);
-      txtLenOporn.SetEnabled(false);
-      txtLenOporn.SetBackColor(colorDisabledGrey);
-      ShowVerticals(false);
-    } else if (scheme != schemeWithoutVerticals && old == schemeWithoutVerticals) {
-      cmbPanelNum.Clear();
-      WritePanelNumEven(4);
-      cmbPanelNum.Select(0);
-      txtLenOporn.SetEnabled(true);
-      txtLenOporn.SetBackColor(colorWindowBackground);
-      ShowVerticals(true);
+      txtLenOporn.SetEnabled(now.OwnEndPanels);
+      txtLenOporn.SetBackColor(now.OwnEndPanels ? colorWindowBackground : colorDisabledGrey);
     }
+    ShowVerticals(now.HasVerticals);
     ReDimLoadArrays();
     txtProgib.SetText("");
     RefreshHopt();
@@ -89,8 +83,7 @@ void frmMain::chkProgib_Click() {
 }
 
 void frmMain::FillPanelNum(Long first, Long step) {
-  for (Long count = first < greatestPanelNum ? first : 2; count <= greatestPanelNum;
-       count += step) {
+  for (Long count = first < mostPanels ? first : 2; count <= mostPanels; count += step) {
     cmbPanelNum.AddItem(std::to_string(count));
   }
 }
@@ -133,7 +126,8 @@ void frmMain::CheckGeometry() {
   data.LengthF = L;
   data.Hight = H;
   data.PanelNum = n;
-  if (data.TreloType == schemeWithoutVerticals || !(a > 0.0)) {
+  const Scheme& scheme = *FindScheme(data.TreloType);
+  if (!scheme.OwnEndPanels || !(a > 0.0)) {
     a = L / n;
   }
   data.LenOporn = a;
@@ -145,11 +139,10 @@ void frmMain::CheckGeometry() {
                              .Style = MessageStyle::Information});
     return;
   }
-  // 2.2 is the tangent of about 65.6 degrees for a diagonal across one panel; in scheme 3 it runs
-  // across half a panel.
+  // 2.2 is the tangent of about 65.6 degrees for a diagonal across one panel, 4.4 across half a
+  // panel.
   const Real slope = H * n / L;
-  const bool steep =
-      data.TreloType == schemeWithoutVerticals ? slope > 4.4 : slope > 2.2 || H / a > 2.2;
+  const bool steep = scheme.DiagonalsSpanHalfPanels() ? slope > 4.4 : slope > 2.2 || H / a > 2.2;
   if (steep) {
     WarnProportions();
   }

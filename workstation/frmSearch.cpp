@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "analysis/Scheme.h"
 #include "workstation/ResultPicture.h"
 #include "workstation/WaitCaption.h"
 
@@ -25,7 +26,7 @@ void frmSearch::Fill(const SelectionOffer& offer, const BoundedArray<Image>& lay
     imgProfileSec[option].Show(layoutPictures[option].Shown());
   }
   ShowSizes();
-  const bool verticals = treloType != 3;
+  const bool verticals = HasVerticals(treloType);
   imgProfileSec[optionStoyka].SetVisible(verticals);
   lblProfilName[optionStoyka].SetVisible(verticals);
   lblWorry[optionStoyka].SetVisible(verticals);

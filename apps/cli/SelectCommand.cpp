@@ -1,3 +1,4 @@
+#include "analysis/Scheme.h"
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
 #include "apps/cli/OpinionOutput.h"
@@ -23,7 +24,7 @@ std::vector<SelectionRow> RowsOf(const SelectionProposal& proposal, Long treloTy
   add("UpPoyas", optionUpPoyas);
   add("DwnPoyas", optionDwnPoyas);
   add("Raskos", optionRaskos);
-  if (treloType != 3) {
+  if (HasVerticals(treloType)) {
     add("Stoyka", optionStoyka);
   }
   add("OpornRaskos", optionOpornRaskos);
