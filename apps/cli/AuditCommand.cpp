@@ -7,7 +7,15 @@ namespace trelonit::cli {
 
 namespace {
 
-/// What kept the design from being calculated has been told; what the opinion adds to it.
+/// What kept the design from being calculated has been told.
+Status Fail(const AuditOptions& options, const std::vector<Message>& messages) {
+  if (options.Json) {
+    Print(FailureJson(messages));
+  }
+  return Status::Failed;
+}
+
+/// The same with what the opinion adds to it.
 Status Refuse(const AuditOptions& options, ConsoleSession& session) {
   const Design& design = session.Main().Model;
   const CheckNumbers numbers = session.Main().ReadCheckNumbers();
@@ -21,18 +29,19 @@ Status Refuse(const AuditOptions& options, ConsoleSession& session) {
     messages.push_back({.Title = opinionTitle, .Text = opinion.Refusal});
     PrintRefusal(opinion);
   }
-  if (options.Json) {
-    Print(FailureJson(messages));
-  }
-  return Status::Failed;
+  return Fail(options, messages);
 }
 
 }  // namespace
 
 Status RunAudit(const AuditOptions& options) {
   ConsoleSession session;
-  if (!Calculate(session, options.Project, &frmMain::cmdCalculate_Click) ||
-      session.TheProgram().LastResults()->Opinion.Figures.HasRefused()) {
+  if (!Calculate(session, options.Project, &frmMain::cmdCalculate_Click)) {
+    // A run-time error's number says little; a project that is not there or not accepted has been
+    // told in words.
+    return session.MetRuntimeError() ? Refuse(options, session) : Fail(options, session.Messages());
+  }
+  if (session.TheProgram().LastResults()->Opinion.Figures.HasRefused()) {
     return Refuse(options, session);
   }
   const SecondOpinion& opinion = session.TheProgram().LastResults()->Opinion;

@@ -13,19 +13,20 @@ namespace trelonit::cli {
 
 namespace {
 
-std::string Figure(double value) {
-  constexpr int decimals = 5;
-  return FormatShown(value, decimals, SystemNumberLocale());
-}
-
 std::string Checks(const CheckResult& check, const Opinion& opinion) {
+  // Asking the system takes longer than forming the opinion: once for all figures.
+  const NumberLocale locale = SystemNumberLocale();
+  const auto shown = [&locale](double value) {
+    constexpr int decimals = 5;
+    return FormatShown(value, decimals, locale);
+  };
   std::vector<std::vector<std::string>> rows{{"Группа, проверка", "Расчет", "СНиП", ""}};
   for (const GroupJudgement& group : opinion.Groups) {
     const ElementGroupRow& row = RowOf(group.Group);
     for (const MemberCheckRow& member : memberChecks) {
       const double judged = group.Figure(member.Check);
       rows.push_back({std::string(row.Name) + ", " + member.Name,
-                      Figure(check.*row.Block.*member.Told), Figure(judged),
+                      shown(check.*row.Block.*member.Told), shown(judged),
                       judged > 1 ? "не выполнено" : ""});
     }
   }
