@@ -257,7 +257,8 @@ TEST_F(CalcJsonNumbers, FollowTheInputsOfTheFile) {
   EXPECT_EQ(before.at("Progib").at("Limit"), 24.0 / 250);
   EXPECT_EQ(before.at("CheckResult").at("UpPoyas").at("LimitX").at("Tension"), 400);
   // Dynamic loads; another limit of the deflection; four times the resistance.
-  EXPECT_EQ(Calculated(WithLine(project, 45, "1"))
+  Put("dynamic.tsav", WithLine(project, 45, "1"));
+  EXPECT_EQ(ParsedOutput(Run({"calc", "dynamic.tsav", "--json"}))
                 .at("CheckResult")
                 .at("UpPoyas")
                 .at("LimitX")

@@ -13,7 +13,7 @@ using Texts = std::vector<std::string>;
 
 const Texts topKeys{"TreloData",      "TreloResult",       "CheckResult", "ElementSection",
                     "OwnWeightAdded", "OwnWeightPerMetre", "Progib",      "lstForces",
-                    "MSFlexGKoefUse", "Messages"};
+                    "MSFlexGKoefUse", "Messages",          "Findings"};
 
 const Texts dataKeys{"TreloType",    "LengthF",      "Hight",         "LenOporn",
                      "PanelNum",     "UpPForce",     "UpDistForce",   "DwnPForce",
@@ -79,7 +79,7 @@ TEST_F(CalcJsonShape, HasTheFiveBlocksOfTheCheckWithTheVerticalsThird) {
 }
 
 TEST_F(CalcJsonShape, HasFiveSectionsInTheOrderOfStorage) {
-  const Json sections = Calculated(ExampleBytes(2)).at("ElementSection");
+  const Json sections = Calculated(ExampleBytes(4)).at("ElementSection");
   ASSERT_EQ(sections.size(), 5U);
   Texts sizes;
   for (const Json& section : sections) {
@@ -88,7 +88,7 @@ TEST_F(CalcJsonShape, HasFiveSectionsInTheOrderOfStorage) {
     sizes.push_back(section.at("Profile").at("Name"));
   }
   // Upper chord, lower chord, diagonals, support diagonals, verticals.
-  EXPECT_EQ(sizes, (Texts{"15ШТ1", "13ШТ1", "L100x7", "L100x7", "L90x7"}));
+  EXPECT_EQ(sizes, (Texts{"Тр426x7", "Тр273x5", "Тр159x5", "Тр159x5", "Тр102x4"}));
 }
 
 TEST_F(CalcJsonShape, PutsDiagonalsBeforeSupportDiagonalsUnlikeTheFile) {

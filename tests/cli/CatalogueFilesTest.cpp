@@ -146,11 +146,13 @@ TEST_F(CatalogueFiles, CutToAThousandRecordsCalculateWhatTheyStillHold) {
     whole.push_back(outcome.Out);
   }
   CutData(1000);
-  for (const int scheme : {1, 2, 4}) {
+  for (const int scheme : {1, 3}) {
     EXPECT_EQ(CalculatedExample(scheme).Out, whole.at(static_cast<std::size_t>(scheme - 1)));
   }
-  // The third is of tubes that are cut off; its check runs twice because of the own weight.
-  ExpectFailure(CalculatedExample(3), emptySection + emptySection);
+  // The others are of tubes that are cut off; the check runs twice because of the own weight.
+  for (const int scheme : {2, 4}) {
+    ExpectFailure(CalculatedExample(scheme), emptySection + emptySection);
+  }
 }
 
 TEST_F(CatalogueFiles, CutToAThousandRecordsHaveNoSizeBehindThem) {
@@ -183,7 +185,7 @@ TEST_F(CatalogueFiles, WithACutIndexHoldItsStandardsOnly) {
   EXPECT_EQ(Summary(Run({"catalogue", "verify"})), "Проверено типоразмеров: 504, отклонений: 3");
   EXPECT_EQ(Run({"catalogue", "show", "11"}).Status, failed);
   EXPECT_EQ(CalculatedExample(1).Status, done);
-  const Outcome tubes = CalculatedExample(3);
+  const Outcome tubes = CalculatedExample(2);
   EXPECT_EQ(tubes.Status, failed);
   EXPECT_EQ(tubes.Out, "");
   EXPECT_TRUE(

@@ -20,6 +20,7 @@ const std::vector<Arguments>& Commands() {
       {},
       {"new"},
       {"calc"},
+      {"audit"},
       {"select"},
       {"report"},
       {"draw"},
@@ -63,10 +64,11 @@ std::set<std::string> LatinWords(const std::string& text) {
 /// Names that stand in the help as they are typed or as the code has them.
 const std::set<std::string>& LatinNames() {
   static const std::set<std::string> names{
-      "trelonit", "cli",  "new",  "calc",     "select", "catalogue", "list",   "show", "verify",
-      "h",        "help", "o",    "version",  "output", "f",         "force",  "json", "bar",
-      "tsav",     "FILE", "JSON", "STANDARD", "SIZE",   "BarForce",  "report", "txt",  "rtf",
-      "pdf",      "html", "A",    "Jy",       "Jz",     "draw",      "dxf",    "svg",  "png"};
+      "trelonit", "cli",       "new",  "calc",     "audit",  "strict", "opinion", "appendix",
+      "select",   "catalogue", "list", "show",     "verify", "h",      "help",    "o",
+      "version",  "output",    "f",    "force",    "json",   "bar",    "tsav",    "FILE",
+      "JSON",     "STANDARD",  "SIZE", "BarForce", "report", "txt",    "rtf",     "pdf",
+      "html",     "A",         "Jy",   "Jz",       "draw",   "dxf",    "svg",     "png"};
   return names;
 }
 
@@ -114,6 +116,8 @@ TEST_F(CommandLine, IsRefusedWithoutAnArgumentThatTheCommandNeeds) {
   ExpectRefused({"new", "--force"}, "не указан аргумент «--output»");
   ExpectRefused({"calc"}, "не указан аргумент «FILE»");
   ExpectRefused({"calc", "--json"}, "не указан аргумент «FILE»");
+  ExpectRefused({"audit"}, "не указан аргумент «FILE»");
+  ExpectRefused({"audit", "--json", "--strict"}, "не указан аргумент «FILE»");
   ExpectRefused({"select"}, "не указан аргумент «FILE»");
   ExpectRefused({"select", "-o", "a.tsav", "--json"}, "не указан аргумент «FILE»");
   ExpectRefused({"catalogue", "show"}, "не указан аргумент «STANDARD»");
@@ -134,6 +138,7 @@ TEST_F(CommandLine, IsRefusedWithAnArgumentTooMany) {
   const std::string complaint = "лишний или неизвестный аргумент «лишний»";
   ExpectRefused({"new", "-o", "a.tsav", "лишний"}, complaint);
   ExpectRefused({"calc", "a.tsav", "лишний"}, complaint);
+  ExpectRefused({"audit", "a.tsav", "лишний"}, complaint);
   ExpectRefused({"select", "a.tsav", "лишний"}, complaint);
   ExpectRefused({"catalogue", "verify", "a.dat", "лишний"}, complaint);
   ExpectRefused({"catalogue", "list", "лишний"}, complaint);
@@ -152,6 +157,7 @@ TEST_F(CommandLine, IsRefusedWithAnUnknownOption) {
     const std::string complaint = "лишний или неизвестный аргумент «" + std::string(option) + "»";
     ExpectRefused({"new", "-o", "a.tsav", option}, complaint);
     ExpectRefused({"calc", "a.tsav", option}, complaint);
+    ExpectRefused({"audit", "a.tsav", option}, complaint);
     ExpectRefused({"select", "a.tsav", option}, complaint);
     ExpectRefused({"catalogue", "list", option}, complaint);
     ExpectRefused({"catalogue", "show", "1", option}, complaint);
@@ -238,11 +244,12 @@ TEST_F(CommandLine, NamesEveryCommandAndOptionInItsHelp) {
           << Typed(command) << ": " << name;
     }
   };
-  expectNamed({}, {"new", "calc", "select", "report", "draw", "catalogue"});
+  expectNamed({}, {"new", "calc", "audit", "select", "report", "draw", "catalogue"});
   expectNamed({"new"}, {"-o,--output", "-f,--force"});
   expectNamed({"calc"}, {"FILE", "--json", "--bar-force"});
-  expectNamed({"select"}, {"FILE", "-o,--output", "-f,--force", "--json"});
-  expectNamed({"report"}, {"FILE", "-o,--output"});
+  expectNamed({"audit"}, {"FILE", "--json", "--strict"});
+  expectNamed({"select"}, {"FILE", "-o,--output", "-f,--force", "--json", "--opinion"});
+  expectNamed({"report"}, {"FILE", "-o,--output", "--appendix"});
   expectNamed({"draw"}, {"FILE", "-o,--output"});
   expectNamed({"catalogue"}, {"list", "show", "verify"});
   expectNamed({"catalogue", "verify"}, {"[FILE]"});
@@ -295,6 +302,7 @@ TEST_F(FullOutput, KeepsAResultFromArrivingAndIsTold) {
   Put("a.tsav", ExampleBytes(1));
   ExpectTold({{"calc", "a.tsav"},
               {"calc", "a.tsav", "--json"},
+              {"audit", "a.tsav"},
               {"select", "a.tsav"},
               {"select", "a.tsav", "--json"},
               {"catalogue", "list"},

@@ -84,7 +84,7 @@ TEST_F(DrawCommandLine, DrawsBothSchemesOfEveryExample) {
 TEST_F(DrawCommandLine, WritesTheForcesOfTheCalculation) {
   const std::string dxf = Written("a.tsav", "a.dxf");
   for (const char* text :
-       {"-45.55", "42.70", "27.26", "Ra = 21.2568", "Rb = 21.2568", "L = 3.00 м ", "L = 2.80 м "}) {
+       {"-46.18", "43.30", "27.64", "Ra = 21.552", "Rb = 21.552", "L = 3.00 м ", "L = 2.80 м "}) {
     EXPECT_TRUE(HasText(dxf, text)) << text;
   }
 }

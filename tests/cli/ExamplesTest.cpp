@@ -125,6 +125,25 @@ TEST_F(ShippedExample, PassesEveryCheckWhereItStands) {
   EXPECT_TRUE(Names().empty());
 }
 
+TEST_F(ShippedExample, PassesTheSecondOpinionWhereItStands) {
+  for (const char* name : exampleNames) {
+    const std::string path = (fs::path(EXAMPLES_FOLDER) / name).string();
+    const Outcome outcome = Run({"audit", path, "--json", "--strict"});
+    EXPECT_EQ(outcome.Status, done) << name;
+    EXPECT_EQ(outcome.Err, "") << name;
+    const Json object = ParsedOutput(outcome);
+    for (const Json& finding : object.at("Findings")) {
+      EXPECT_NE(finding.at("Severity"), "danger") << name << finding;
+      EXPECT_NE(finding.at("Code"), "section-data") << name << finding;
+    }
+    for (const Json& group : object.at("Groups")) {
+      for (const auto& [check, figure] : group.at("Opinion").items()) {
+        EXPECT_LE(figure.get<double>(), 1) << name << group.at("Group") << check;
+      }
+    }
+  }
+}
+
 TEST_F(ShippedExample, AsksForItsOwnWeightWithoutHoldingItYet) {
   // Line 46 asks for it, line 53 tells whether it is inside the loads.
   for (int scheme = 1; scheme <= 4; ++scheme) {

@@ -70,7 +70,7 @@ TEST_F(InstalledProgram, CalculatesForAUserWithoutRights) {
   const Outcome outcome = RunProgram(AsUser({"calc", "a.tsav"}));
   EXPECT_EQ(outcome.Status, done);
   EXPECT_EQ(outcome.Err, "");
-  EXPECT_NE(outcome.Out.find(" Теоретическая масса фермы:\n2.1960 тонн\n"), std::string::npos);
+  EXPECT_NE(outcome.Out.find(" Теоретическая масса фермы:\n2.7849 тонн\n"), std::string::npos);
 }
 
 TEST_F(InstalledProgram, MakesTheUsersDataFolderWithItsParents) {

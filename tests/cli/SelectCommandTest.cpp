@@ -77,11 +77,12 @@ class SelectCommand : public CalcJsonTest {
   }
 };
 
-TEST_F(SelectCommand, AddsTheSelectionToTheKeysOfACalculation) {
+TEST_F(SelectCommand, HasTheSelectionInThePlaceOfTheFindingsOfACalculation) {
   for (int scheme = 1; scheme <= 4; ++scheme) {
     const std::string project = ExampleBytes(scheme);
     Texts keys = Keys(Calculated(project));
-    keys.emplace_back("Selection");
+    EXPECT_EQ(keys.back(), "Findings");
+    keys.back() = "Selection";
     const Json object = Object(project);
     EXPECT_EQ(Keys(object), keys);
     EXPECT_EQ(object.at("Messages"), Json::array());
