@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <numeric>
+#include <numbers>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -180,6 +180,7 @@ TEST_F(AuditJson, GoverningBarsHaveTheFiguresOfTheirGroup) {
   // Ry and E of the examples, whose gamma c is 0.9.
   constexpr double Ry = 240;
   constexpr double E = 210000;
+  using std::numbers::pi;
   for (const std::string& project : Projects()) {
     const Json object = Object(project);
     const Json check = ParsedOutput(Run({"calc", "project.tsav", "--json"})).at("CheckResult");
@@ -205,7 +206,7 @@ TEST_F(AuditJson, GoverningBarsHaveTheFiguresOfTheirGroup) {
           EXPECT_NEAR(figure, strength / governing.at("Phi").get<double>(), 1e-12);
           // Euler's curve lies above every buckling coefficient of the norm.
           const double lambda = governing.at("Slenderness");
-          EXPECT_LT(governing.at("Phi").get<double>() * Ry, M_PI * M_PI * E / (lambda * lambda));
+          EXPECT_LT(governing.at("Phi").get<double>() * Ry, pi * pi * E / (lambda * lambda));
           EXPECT_LT(governing.at("Phi").get<double>(), 1);
         } else {
           EXPECT_EQ(governing.at("Phi").is_null(), force >= 0);
