@@ -37,6 +37,8 @@ struct ResultLists {
   /// What the second opinion says of it, and its place beside the rows of the grid.
   SecondOpinion Opinion;
   std::vector<ResultRow> Rows;
+  /// How the numbers of the explanations are written.
+  NumberLocale Locale;
 };
 
 /// Bar forces by group, reactions and mass, line by line. Raises 9 for an empty result.

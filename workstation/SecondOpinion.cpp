@@ -15,6 +15,17 @@ bool SecondOpinion::HasDanger() const {
                      [](const Finding& finding) { return finding.Grade == Severity::Danger; });
 }
 
+std::optional<Explanation> SecondOpinion::FindExplanation(ExplanationSource source,
+                                                          std::optional<ElementGroup> group,
+                                                          const std::string& check) const {
+  const auto found =
+      std::find_if(Explanations.begin(), Explanations.end(), [&](const Explanation& explanation) {
+        return explanation.Source == source && explanation.Group == group &&
+               explanation.Check == check;
+      });
+  return found == Explanations.end() ? std::nullopt : std::optional(*found);
+}
+
 SecondOpinion FormSecondOpinion(const Design& design, const CheckNumbers& numbers,
                                 const std::optional<ProgibResult>& progib,
                                 const Circumstances& circumstances, const NumberLocale& locale) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "opinion/Explanation.h"
@@ -18,6 +19,11 @@ struct SecondOpinion {
   std::vector<Explanation> Explanations;  ///< of the told checks, then of the opinion's
 
   bool HasDanger() const;
+  /// How a check came to its figure; nothing where it has none. Without a group: a check of the
+  /// whole truss.
+  std::optional<Explanation> FindExplanation(ExplanationSource source,
+                                             std::optional<ElementGroup> group,
+                                             const std::string& check) const;
 };
 
 /// The opinion on the last calculation of a design.

@@ -18,6 +18,7 @@ void frmKoeffOfUse::Fill(const ResultLists& lists) {
   Picture = lists.Picture;
   Opinion = lists.Opinion;
   Rows = lists.Rows;
+  Locale = lists.Locale;
 }
 
 void frmKoeffOfUse::mnuAppendix_Click() {

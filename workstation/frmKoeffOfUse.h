@@ -24,6 +24,7 @@ class frmKoeffOfUse {
   /// The second opinion and its place beside the rows of the grid, its head not counted.
   SecondOpinion Opinion;
   std::vector<ResultRow> Rows;
+  NumberLocale Locale;
   /// Whether reports end with the opinion.
   MenuEntry mnuAppendix;
   Label framKoef;

@@ -145,6 +145,7 @@ void frmMain::ShowResults(const CheckNumbers& numbers) {
     ShowProgib(*lists.Progib);
   }
   lists.Opinion = OpinionOf(numbers, lists.Progib);
+  lists.Locale = services_.Locale;
   lists.Rows = BuildResultRows(scheme, Model.CheckData, lists.Opinion.Figures, services_.Locale);
   if (openers_.ShowKoeffOfUse) {
     openers_.ShowKoeffOfUse(lists);
