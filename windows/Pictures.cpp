@@ -43,6 +43,8 @@ QByteArray Themed(const QString& file, const QPalette& palette, bool enabled) {
     svg.replace("#c04000", LoadColor(palette).name().toLatin1());
     svg.replace("#9db4cc", "#4d6a88");
     svg.replace("#808080", QuietColor(palette).name().toLatin1());
+    svg.replace("#d00000", WarningColor(palette).name().toLatin1());
+    svg.replace("#a85a00", CautionColor(palette).name().toLatin1());
   }
   return svg;
 }
@@ -94,6 +96,14 @@ QColor WarningColor(const QPalette& palette) {
   return ByTheme(palette, "#d00000", "#ff6b6b");
 }
 
+QColor CautionColor(const QPalette& palette) {
+  return ByTheme(palette, "#a85a00", "#ffb74d");
+}
+
+QColor MarkColor(const QPalette& palette) {
+  return ByTheme(palette, "#ffc107", "#b8860b");
+}
+
 QColor TensionColor(const QPalette& palette) {
   return ByTheme(palette, "#1565c0", "#64b5f6");
 }
@@ -108,6 +118,10 @@ QColor LoadColor(const QPalette& palette) {
 
 QColor PassedColor(const QPalette& palette) {
   return ByTheme(palette, "#2e7d32", "#66bb6a");
+}
+
+QColor AsideColor(const QPalette& palette) {
+  return ByTheme(palette, "#5a5a5a", "#b4b4b4");
 }
 
 QColor QuietColor(const QPalette& palette) {

@@ -24,6 +24,10 @@ bool IsDark(const QPalette& palette);
 
 /// The red of selections and of what exceeds a limit, readable on the palette's base.
 QColor WarningColor(const QPalette& palette);
+/// What asks for care.
+QColor CautionColor(const QPalette& palette);
+/// Behind what the user has chosen in a picture.
+QColor MarkColor(const QPalette& palette);
 /// Bars in tension.
 QColor TensionColor(const QPalette& palette);
 /// Bars in compression.
@@ -32,6 +36,8 @@ QColor CompressionColor(const QPalette& palette);
 QColor LoadColor(const QPalette& palette);
 /// What keeps its limit.
 QColor PassedColor(const QPalette& palette);
+/// Words aside: paler than the others and still to be read.
+QColor AsideColor(const QPalette& palette);
 /// Axes, dimensions and bars without force.
 QColor QuietColor(const QPalette& palette);
 
