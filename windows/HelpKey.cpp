@@ -1,6 +1,7 @@
 #include "windows/HelpKey.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QTabWidget>
@@ -22,15 +23,26 @@ QString OwnPlace(const QWidget* widget) {
     return tabs->currentWidget() == nullptr ? QString() : OwnPlace(tabs->currentWidget());
   }
   if (const auto* window = qobject_cast<const QMainWindow*>(widget)) {
-    return window->centralWidget() == nullptr ? QString() : OwnPlace(window->centralWidget());
+    const auto* tabs = window->findChild<const QTabWidget*>();
+    return tabs == nullptr ? QString() : OwnPlace(tabs);
   }
   return {};
 }
 
 }  // namespace
 
-void SetHelpPlace(QWidget& widget, const char* place) {
-  widget.setProperty(placeProperty, QLatin1String(place));
+QString FindingPlace(FindingCode code) {
+  return QStringLiteral("finding-") + QLatin1String(KeyOf(code));
+}
+
+void SetHelpPlace(QWidget& widget, const QString& place) {
+  widget.setProperty(placeProperty, place);
+}
+
+void AskForHelp(QWidget& asking, const QString& place) {
+  // The toolkit's own event of a link that leads into a help.
+  QWhatsThisClickedEvent link(place);
+  QApplication::sendEvent(&asking, &link);
 }
 
 QString HelpPlaceOf(const QWidget* widget) {
@@ -49,6 +61,10 @@ HelpKey::HelpKey(std::function<void(const QString& place)> open) : open_(std::mo
 }
 
 bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WhatsThisClicked) {
+    open_(static_cast<QWhatsThisClickedEvent*>(event)->href());
+    return true;
+  }
   const bool asked = event->type() == QEvent::ShortcutOverride;
   if ((!asked && event->type() != QEvent::KeyPress) || !watched->isWidgetType()) {
     return false;

@@ -5,6 +5,8 @@
 #include <array>
 #include <functional>
 
+#include "opinion/Findings.h"
+
 class QWidget;
 
 namespace trelonit {
@@ -26,19 +28,28 @@ inline constexpr const char* Find = "find";
 inline constexpr const char* Date = "date";
 inline constexpr const char* Assoc = "assoc";
 inline constexpr const char* Drawing = "drawing";
+inline constexpr const char* Opinion = "opinion";
 
-inline constexpr std::array All{Scheme,  Sections, Loads,  Results, Search, Steel, Parameters,
-                                Manager, About,    Otchet, Find,    Date,   Assoc, Drawing};
+inline constexpr std::array All{Scheme, Sections,   Loads,   Results, Search,
+                                Steel,  Parameters, Manager, About,   Otchet,
+                                Find,   Date,       Assoc,   Drawing, Opinion};
 }  // namespace help_place
 
+/// The place of a finding: "finding-check-differs", ...
+QString FindingPlace(FindingCode code);
+
 /// Marks a window or the page of a tab as this place.
-void SetHelpPlace(QWidget& widget, const char* place);
+void SetHelpPlace(QWidget& widget, const QString& place);
 
 /// The place in which the widget is: its own, that of the tab in front of its window, or that of
 /// what it stands in; empty where none of them has one.
 QString HelpPlaceOf(const QWidget* widget);
 
-/// F1 anywhere in the program. It comes before the menu's own F1, which knows no place.
+/// Opens the page of a place, as F1 does, for a button that stands there.
+void AskForHelp(QWidget& asking, const QString& place);
+
+/// F1 anywhere in the program, and what buttons ask for. It comes before the menu's own F1, which
+/// knows no place.
 class HelpKey : public QObject {
  public:
   /// Open gets the place where the key was pressed.

@@ -31,10 +31,13 @@ class Pressed {
 
 TEST(HelpPlaces, HaveAPageEach) {
   const HelpPages pages;
-  std::set<std::string> named;
-  for (const char* place : help_place::All) {
-    named.insert(place);
-    const QString page = pages.PageOf(place);
+  std::set<std::string> named(help_place::All.begin(), help_place::All.end());
+  for (int code = 0; code <= static_cast<int>(FindingCode::SelectionOpen); ++code) {
+    named.insert(FromQt(FindingPlace(static_cast<FindingCode>(code))));
+  }
+  EXPECT_EQ(named.size(), help_place::All.size() + 9);
+  for (const std::string& place : named) {
+    const QString page = pages.PageOf(ToQt(place));
     EXPECT_NE(page, HelpPages::FirstPage()) << place;
     EXPECT_EQ(HelpPages::PageAt(HelpPages::UrlOf(page)), page) << place;
   }
@@ -115,6 +118,15 @@ TEST(HelpPlaces, OfABoxAreThoseOfTheWindowBelow) {
   ShowActive(box);
   QTest::keyClick(&box, Qt::Key_F1);
   EXPECT_EQ(pressed.Take(), Texts{"steel"});
+}
+
+TEST(HelpPlaces, AreAskedForByButtons) {
+  Pressed pressed;
+  QWidget window;
+  SetHelpPlace(window, help_place::Results);
+  QPushButton button(&window);
+  AskForHelp(button, FindingPlace(FindingCode::PhiGap));
+  EXPECT_EQ(pressed.Take(), Texts{"finding-phi-gap"});
 }
 
 TEST(HelpPlaces, CloseAnOpenList) {
