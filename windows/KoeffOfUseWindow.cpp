@@ -1,23 +1,33 @@
 #include "windows/KoeffOfUseWindow.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QHeaderView>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
+#include <algorithm>
 
 #include "windows/Binding.h"
+#include "windows/CopyAction.h"
+#include "windows/ExplanationView.h"
+#include "windows/FindingsStrip.h"
 #include "windows/Layouts.h"
-#include "windows/Pictures.h"
 #include "windows/ResultViews.h"
+#include "windows/UseGrid.h"
+#include "workstation/ElementGroups.h"
+#include "workstation/ReportAppendix.h"
 
 namespace trelonit {
 
 namespace {
 
-/// What a user expects of Ctrl+C in a list: the chosen lines, or all of them.
+constexpr QSize usualSize{1360, 840};
+/// Shares of the body: the lists over the explanation, the grid beside the pictures.
+constexpr int listShare = 54;
+constexpr int gridShare = 44;
+constexpr int whole = 100;
+
 void CopyLines(const QListWidget& list) {
   QStringList lines;
   for (int row = 0; row < list.count(); ++row) {
@@ -26,64 +36,6 @@ void CopyLines(const QListWidget& list) {
     }
   }
   QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-}
-
-void CopyRows(const QTableWidget& table) {
-  QStringList lines;
-  for (int row = 0; row < table.rowCount(); ++row) {
-    if (table.selectedItems().isEmpty() || table.item(row, 0)->isSelected()) {
-      lines << table.item(row, 0)->text() + QLatin1Char('\t') + table.item(row, 1)->text();
-    }
-  }
-  QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-}
-
-template <class Copy>
-void AddCopy(QWidget* widget, Copy copy) {
-  auto* action = new QAction(QStringLiteral("&Копировать"), widget);
-  action->setShortcut(QKeySequence::Copy);
-  action->setShortcutContext(Qt::WidgetShortcut);
-  widget->addAction(action);
-  widget->setContextMenuPolicy(Qt::ActionsContextMenu);
-  QObject::connect(action, &QAction::triggered, widget, copy);
-}
-
-/// Group heads stand out, and so does what exceeds the limit.
-void Emphasise(QTableWidget& table, const frmKoeffOfUse& form) {
-  for (int row = 0; row < table.rowCount(); ++row) {
-    const bool head = table.item(row, 1)->text() == QLatin1String("***");
-    const auto place = static_cast<std::size_t>(row);
-    const bool exceeded = place < form.Picture.OverLimit.size() && form.Picture.OverLimit[place];
-    for (int column = 0; column < table.columnCount(); ++column) {
-      QTableWidgetItem* item = table.item(row, column);
-      if (head || exceeded) {
-        QFont font = item->font();
-        font.setBold(true);
-        item->setFont(font);
-      }
-      if (exceeded) {
-        item->setForeground(WarningColor(table.palette()));
-      }
-    }
-  }
-}
-
-QTableWidget* MakeGrid(frmKoeffOfUse& form) {
-  auto* table = new QTableWidget;
-  table->setObjectName(QStringLiteral("MSFlexGKoefUse"));
-  table->setAccessibleName(ToQt(form.framKoef.Caption()));
-  table->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table->verticalHeader()->hide();
-  table->setAlternatingRowColors(true);
-  Bind(form.MSFlexGKoefUse, table);
-  table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-  table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-  Emphasise(*table, form);
-  // The longest checks take two lines in a narrow window.
-  table->verticalHeader()->setMinimumSectionSize(22);
-  table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  AddCopy(table, [table] { CopyRows(*table); });
-  return table;
 }
 
 QListWidget* MakeList(frmKoeffOfUse& form) {
@@ -97,49 +49,124 @@ QListWidget* MakeList(frmKoeffOfUse& form) {
   return list;
 }
 
+/// A part of a splitter with nothing round its groups.
+struct Side {
+  QWidget* Widget = new QWidget;
+  QVBoxLayout* Column = new QVBoxLayout(Widget);
+
+  Side() { Column->setContentsMargins(0, 0, 0, 0); }
+};
+
+QSplitter* NewSplitter(Qt::Orientation orientation, QWidget* first, QWidget* second, int share) {
+  auto* splitter = new QSplitter(orientation);
+  splitter->setChildrenCollapsible(false);
+  splitter->addWidget(first);
+  splitter->addWidget(second);
+  splitter->setStretchFactor(0, share);
+  splitter->setStretchFactor(1, whole - share);
+  // Only the ratio counts.
+  constexpr int large = 100;
+  splitter->setSizes({share * large, (whole - share) * large});
+  return splitter;
+}
+
 }  // namespace
 
 KoeffOfUseWindow::KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent), form_(form) {
   setWindowFlag(Qt::WindowMaximizeButtonHint);
-  resize(QSize(1120, 680).boundedTo(screen()->availableSize() * 9 / 10));
+  resize(usualSize.boundedTo(screen()->availableSize() * 9 / 10));
   auto* column = new QVBoxLayout(this);
-  auto* parts = new QSplitter;
-  parts->setChildrenCollapsible(false);
-  column->addWidget(parts, 1);
+  AddMenu(column);
+  column->addWidget(new FindingsStrip(form_.Opinion));
+  QWidget* lists = NewLists();
+  QWidget* pictures = NewPictures();
+  QWidget* upper = NewSplitter(Qt::Horizontal, lists, pictures, gridShare);
+  column->addWidget(NewSplitter(Qt::Vertical, upper, NewExplanation(), listShare), 1);
+  AddButtons(column);
+  ShowRow(nullptr);
+}
 
-  const auto addSide = [parts](int stretch) {
-    auto* side = new QWidget;
-    auto* layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    parts->addWidget(side);
-    parts->setStretchFactor(parts->count() - 1, stretch);
-    return layout;
-  };
-  auto* left = addSide(1);
-  AddGroup<QVBoxLayout>(left, ToQt(form_.framKoef.Caption()), 1)->addWidget(MakeGrid(form_));
+void KoeffOfUseWindow::AddMenu(QVBoxLayout* column) {
+  auto* bar = new QMenuBar;
+  column->setMenuBar(bar);
+  QMenu* view = bar->addMenu(QStringLiteral("&Вид"));
+  QAction* appendix = view->addAction(ToQt(form_.mnuAppendix.Caption()));
+  appendix->setObjectName(QStringLiteral("mnuAppendix"));
+  appendix->setCheckable(true);
+  Bind(form_.mnuAppendix, appendix);
+  QObject::connect(appendix, &QAction::triggered, this, [this] { form_.mnuAppendix_Click(); });
+}
+
+QWidget* KoeffOfUseWindow::NewLists() {
+  const Side side;
+  auto* grid = new UseGrid(form_);
+  grid->Chosen = [this](const ResultRow* row) { ShowRow(row); };
+  AddGroup<QVBoxLayout>(side.Column, ToQt(form_.framKoef.Caption()), 1)->addWidget(grid);
+  return side.Widget;
+}
+
+QWidget* KoeffOfUseWindow::NewPictures() {
+  const Side side;
+  truss_ = new TrussView(form_.Picture.Bars);
+  truss_->setObjectName(QStringLiteral("TrussView"));
+  truss_->setAccessibleName(QStringLiteral("Ферма с усилиями в стержнях"));
+  AddGroup<QVBoxLayout>(side.Column, QStringLiteral("Ферма"), 3)->addWidget(truss_);
+  auto* row = new QHBoxLayout;
+  side.Column->addLayout(row, 2);
   auto* chart = new UseChart(form_.Picture.Use);
   chart->setObjectName(QStringLiteral("UseChart"));
   chart->setAccessibleName(QStringLiteral("Наибольший коэффициент каждой группы"));
-  AddGroup<QVBoxLayout>(left, QStringLiteral("Наибольший коэффициент группы"))->addWidget(chart);
+  AddGroup<QVBoxLayout>(row, QStringLiteral("Наибольший коэффициент группы"), 3)->addWidget(chart);
+  AddGroup<QVBoxLayout>(row, ToQt(form_.framForces.Caption()), 4)->addWidget(MakeList(form_));
+  return side.Widget;
+}
 
-  auto* right = addSide(1);
-  auto* truss = new TrussView(form_.Picture.Bars);
-  truss->setObjectName(QStringLiteral("TrussView"));
-  truss->setAccessibleName(QStringLiteral("Ферма с усилиями в стержнях"));
-  AddGroup<QVBoxLayout>(right, QStringLiteral("Ферма"), 1)->addWidget(truss);
-  AddGroup<QVBoxLayout>(right, ToQt(form_.framForces.Caption()), 1)->addWidget(MakeList(form_));
+QWidget* KoeffOfUseWindow::NewExplanation() {
+  const Side side;
+  explanation_ = new ExplanationView(form_.Locale);
+  explanation_->setObjectName(QStringLiteral("Explanation"));
+  explanation_->setAccessibleName(QStringLiteral("Как получен коэффициент"));
+  AddGroup<QVBoxLayout>(side.Column, explanation_->accessibleName(), 1)->addWidget(explanation_);
+  return side.Widget;
+}
 
-  parts->setSizes({1, 1});
+void KoeffOfUseWindow::AddButtons(QVBoxLayout* column) {
   auto* close = new QPushButton(ToQt(form_.cmdClose.Caption()));
   close->setObjectName(QStringLiteral("cmdClose"));
-  close->setDefault(true);
   QObject::connect(close, &QPushButton::clicked, this, [this] { form_.cmdClose_Click(); });
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(close);
   column->addLayout(buttons);
+  // Only in its window is it the one that Enter presses wherever the focus is.
+  close->setDefault(true);
   close->setFocus();
+}
+
+void KoeffOfUseWindow::ShowRow(const ResultRow* row) {
+  const SecondOpinion& opinion = form_.Opinion;
+  if (row == nullptr || row->Checks.empty()) {
+    truss_->Mark(std::nullopt);
+    explanation_->Show(
+        {QStringLiteral("Выберите строку с коэффициентом: здесь появится, как он получен в расчете "
+                        "и по СНиП."),
+         ToQt(opinionLimits)},
+        {{.Told = opinion.FindExplanation(ExplanationSource::Told, std::nullopt, "Progib")}});
+    return;
+  }
+  truss_->Mark(row->Bar ? std::optional(MarkedBar{OptionOf(row->Group), *row->Bar}) : std::nullopt);
+  std::vector<ExplainedCheck> checks;
+  for (const std::string& check : row->Checks) {
+    checks.push_back(
+        {.Told = opinion.FindExplanation(ExplanationSource::Told, row->Group, check),
+         .Opinion = opinion.FindExplanation(ExplanationSource::Opinion, row->Group, check)});
+  }
+  // The one that rules comes first.
+  std::stable_sort(checks.begin(), checks.end(), [](const auto& one, const auto& other) {
+    return one.Greatest() > other.Greatest();
+  });
+  explanation_->Show({}, std::move(checks));
 }
 
 }  // namespace trelonit

@@ -16,6 +16,9 @@ namespace {
 
 constexpr double margin = 16;
 constexpr double legendHeight = 22;
+/// For the name of the marked bar, over the truss.
+constexpr double titleHeight = 20;
+constexpr double markMargin = 7;
 constexpr double thinnest = 1.2;
 constexpr double thickest = 7;
 constexpr double hintDistance = 8;
@@ -42,7 +45,7 @@ QString BarHint(const PictureBar& bar) {
 
 TrussView::TrussView(std::vector<PictureBar> bars, QWidget* parent)
     : QWidget(parent), bars_(std::move(bars)) {
-  setMinimumSize(320, 150);
+  setMinimumSize(320, 90);
   double left = 0;
   double right = 0;
   double top = 0;
@@ -57,12 +60,42 @@ TrussView::TrussView(std::vector<PictureBar> bars, QWidget* parent)
 
 QTransform TrussView::Placing() const {
   const double across = width() - 2 * margin;
-  const double down = height() - 2 * margin - legendHeight;
+  const double down = height() - 2 * margin - legendHeight - titleHeight;
   const double scale =
       std::min(across / std::max(bounds_.width(), 1e-9), down / std::max(bounds_.height(), 1e-9));
   const double x = (width() - bounds_.width() * scale) / 2 - bounds_.left() * scale;
-  const double y = margin + (down + bounds_.height() * scale) / 2;
+  const double y = margin + titleHeight + (down + bounds_.height() * scale) / 2;
   return QTransform(scale, 0, 0, -scale, x, y);
+}
+
+void TrussView::Mark(std::optional<MarkedBar> bar) {
+  marked_ = bar;
+  const PictureBar* marked = FindMarked();
+  setAccessibleDescription(marked == nullptr ? QString()
+                                             : QStringLiteral("Отмечен: ") + BarHint(*marked));
+  update();
+}
+
+const PictureBar* TrussView::FindMarked() const {
+  const auto found = std::find_if(bars_.begin(), bars_.end(), [this](const PictureBar& bar) {
+    return marked_ == MarkedBar{bar.Group, bar.Number};
+  });
+  return found == bars_.end() ? nullptr : &*found;
+}
+
+void TrussView::DrawMark(QPainter& painter, const QTransform& place) const {
+  const PictureBar* bar = FindMarked();
+  if (bar == nullptr) {
+    return;
+  }
+  // In a small picture it must not hide the bars beside it.
+  const double high = bounds_.height() * std::abs(place.m22());
+  const double wide = std::clamp(high / 2, thickest + markMargin, thickest + 2 * markMargin);
+  painter.setPen(QPen(MarkColor(palette()), wide, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(place.map(QPointF(bar->X1, bar->Y1)), place.map(QPointF(bar->X2, bar->Y2)));
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(QRectF(margin, 6, width() - 2 * margin, titleHeight), Qt::AlignCenter,
+                   BarHint(*bar));
 }
 
 void TrussView::paintEvent(QPaintEvent*) {
@@ -74,6 +107,7 @@ void TrussView::paintEvent(QPaintEvent*) {
     return;
   }
   const QTransform place = Placing();
+  DrawMark(painter, place);
   for (const PictureBar& bar : bars_) {
     const double share = greatest_ > 0 ? std::abs(bar.Force) / greatest_ : 0;
     QPen pen(bar.Force > 0   ? TensionColor(palette())
@@ -139,7 +173,7 @@ bool TrussView::event(QEvent* event) {
 
 UseChart::UseChart(std::vector<GroupUse> use, QWidget* parent)
     : QWidget(parent), use_(std::move(use)) {
-  setMinimumSize(sizeHint());
+  setMinimumSize(300, static_cast<int>(use_.size()) * 16 + 26);
 }
 
 QSize UseChart::sizeHint() const {

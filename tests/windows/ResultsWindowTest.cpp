@@ -4,6 +4,7 @@
 #include <QToolTip>
 #include <gtest/gtest.h>
 
+#include "tests/windows/FilledResults.h"
 #include "tests/windows/Pixels.h"
 #include "tests/windows/ResultsScreen.h"
 #include "windows/Pictures.h"
@@ -12,19 +13,9 @@ namespace trelonit::test {
 namespace {
 
 /// A results form, filled, with its window.
-class ResultsWindow : public ::testing::Test {
+class ResultsWindow : public ::testing::Test, public FilledResults {
  protected:
-  ResultsWindow() {
-    StartedDesk desk;
-    desk.Main.tabMain.SetTab(2);
-    // Enough for some groups to fail and for others to hold.
-    AddForce(desk.Main, 3, "1.2");
-    desk.Main.cmdCalculate_Click();
-    Form.Fill(desk.Results.at(0));
-    Lists = desk.Results.at(0);
-    Window = std::make_unique<KoeffOfUseWindow>(Form, nullptr);
-    Window->show();
-  }
+  ResultsWindow() { Open(); }
   QTableWidget& Table() { return Find<QTableWidget>(*Window, "MSFlexGKoefUse"); }
   QListWidget& List() { return Find<QListWidget>(*Window, "lstForces"); }
   static void Copy(QWidget& widget) {
@@ -34,10 +25,6 @@ class ResultsWindow : public ::testing::Test {
     widget.actions().front()->trigger();
   }
   static std::string Clipboard() { return FromQt(QApplication::clipboard()->text()); }
-
-  frmKoeffOfUse Form;
-  ResultLists Lists;
-  std::unique_ptr<KoeffOfUseWindow> Window;
 };
 
 TEST_F(ResultsWindow, HasItsCaptions) {
@@ -55,7 +42,7 @@ TEST_F(ResultsWindow, HasItsCaptions) {
 
 TEST_F(ResultsWindow, ShowsTheListsOfTheForm) {
   const SeenResults seen = Look(*Window);
-  EXPECT_EQ(seen.Heads, (std::vector<std::string>{"Проверка", "Коэффициент"}));
+  EXPECT_EQ(seen.Heads, (std::vector<std::string>{"Проверка", "Коэффициент", "СНиП"}));
   EXPECT_EQ(seen.Rows, Lists.MSFlexGKoefUse);
   EXPECT_EQ(seen.Lines, Lists.lstForces);
   EXPECT_GT(seen.Rows.size(), 10U);
@@ -101,7 +88,8 @@ TEST_F(ResultsWindow, CopiesTheChosenLinesInOrder) {
 TEST_F(ResultsWindow, CopiesTheChosenRows) {
   Table().selectRow(1);
   Copy(Table());
-  EXPECT_EQ(Clipboard(), Lists.MSFlexGKoefUse[1][0] + "\t" + Lists.MSFlexGKoefUse[1][1]);
+  EXPECT_EQ(Clipboard(), Lists.MSFlexGKoefUse[1][0] + "\t" + Lists.MSFlexGKoefUse[1][1] + "\t" +
+                             Lists.Rows[1].Opinion);
 }
 
 TEST_F(ResultsWindow, CopiesAllRowsWithoutASelection) {
@@ -109,7 +97,7 @@ TEST_F(ResultsWindow, CopiesAllRowsWithoutASelection) {
   const std::string text = Clipboard();
   EXPECT_EQ(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1,
             Lists.MSFlexGKoefUse.size());
-  EXPECT_EQ(text.substr(0, text.find('\n')), "*** Верхний пояс\t***");
+  EXPECT_EQ(text.substr(0, text.find('\n')), "*** Верхний пояс\t***\t");
 }
 
 TEST_F(ResultsWindow, CopiesByKeyInTheListThatHasTheFocus) {

@@ -69,7 +69,7 @@ TEST_P(WholeSession, IsEnteredCalculatedSavedAndRestored) {
   first.Press("cmdCalculate");
   EXPECT_EQ(first.Outside.Messages.Shown, Messages());
   ASSERT_EQ(first.Seen.size(), 1U);
-  EXPECT_EQ(first.Seen[0].Heads, (std::vector<std::string>{"Проверка", "Коэффициент"}));
+  EXPECT_EQ(first.Seen[0].Heads, (std::vector<std::string>{"Проверка", "Коэффициент", "СНиП"}));
   EXPECT_EQ(first.Tabs().currentIndex(), 0);
   const QString deflection = Find<QLineEdit>(*first.Window, "txtProgib").text();
   EXPECT_FALSE(deflection.isEmpty());
