@@ -10,6 +10,10 @@ namespace trelonit {
 
 namespace {
 
+// The settings of reports.
+constexpr const char* reportSection = "Report";
+constexpr const char* appendixKey = "SecondOpinion";
+
 /// A form is loaded, then shown until the user closes it; without a window for it there is no way
 /// to it either.
 template <class Form>
@@ -36,10 +40,20 @@ Program::Program(Services services, Windows windows)
       paramerty_(services, {.txtModulYung = main_.txtModulYung,
                             .txtDensitSteel = main_.txtDensitSteel,
                             .txtLimitFlex = main_.txtLimitFlex}) {
-  koeffOfUse_.AppendixChanged = [this](bool on) { main_.ReportAppendix = on; };
+  RestoreAppendix();
   if (windows_.Associations != nullptr) {
     assoc_.emplace(*windows_.Associations, services_.Messages);
   }
+}
+
+void Program::RestoreAppendix() {
+  main_.ReportAppendix = services_.Settings.Get(reportSection, appendixKey, BooleanToText(false)) ==
+                         BooleanToText(true);
+  koeffOfUse_.mnuAppendix.SetChecked(main_.ReportAppendix);
+  koeffOfUse_.AppendixChanged = [this](bool on) {
+    main_.ReportAppendix = on;
+    services_.Settings.Set(reportSection, appendixKey, BooleanToText(on));
+  };
 }
 
 frmMain::Openers Program::MakeOpeners() {

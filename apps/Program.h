@@ -65,6 +65,8 @@ class Program {
 
  private:
   frmMain::Openers MakeOpeners();
+  /// Whether reports end with the second opinion is kept between runs.
+  void RestoreAppendix();
   std::optional<SelectionProposal> OpenSearch(const SelectionOffer& offer);
   /// A document window as it opens, with an empty document.
   frmOtchetMain& NewOtchet(const std::string& commandLine);

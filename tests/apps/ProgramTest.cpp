@@ -179,5 +179,24 @@ TEST_F(WithoutHost, TellsThatNothingCanBeDrawn) {
   EXPECT_TRUE(host.Documents().empty());
 }
 
+TEST_F(WholeProgram, KeepsTheAppendixOfReportsUntilTheNextStart) {
+  EXPECT_FALSE(program.Main().ReportAppendix);
+  const auto start = [&](const std::function<void(frmKoeffOfUse&)>& inResults) {
+    Program next(world.Bundle(), {.ShowKoeffOfUse = inResults});
+    next.Main().Form_Load();
+    next.Main().tabMain.SetTab(calculateTab);
+    const bool atStart = next.Main().ReportAppendix;
+    next.Main().cmdCalculate_Click();
+    return std::pair(atStart, next.Main().ReportAppendix);
+  };
+  EXPECT_EQ(start([](frmKoeffOfUse& form) { form.mnuAppendix_Click(); }), std::pair(false, true));
+  EXPECT_EQ(start([](frmKoeffOfUse& form) {
+              EXPECT_TRUE(form.mnuAppendix.Checked());
+              form.mnuAppendix_Click();
+            }),
+            std::pair(true, false));
+  EXPECT_EQ(start([](frmKoeffOfUse&) {}), std::pair(false, false));
+}
+
 }  // namespace
 }  // namespace trelonit::test
