@@ -5,6 +5,8 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "windows/Pictures.h"
+
 namespace trelonit {
 
 namespace {
@@ -99,6 +101,16 @@ void ShowCommon(const ControlState& state, QWidget* widget) {
              widget->parentWidget() != nullptr) {
     widget->show();
   }
+}
+
+void ShowColoured(const Label& state, QLabel* label) {
+  label->setText(ToQt(state.Caption()));
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, state.ForeColor() == colorRed
+                                             ? WarningColor(palette)
+                                             : palette.color(QPalette::Text));
+  label->setPalette(palette);
+  ShowCommon(state, label);
 }
 
 void Bind(Label& state, QLabel* label) {

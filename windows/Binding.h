@@ -28,6 +28,8 @@ void Follow(ControlState& state, QObject* owner, std::function<void()> show);
 
 /// Shows what every control has: enabled and visible.
 void ShowCommon(const ControlState& state, QWidget* widget);
+/// Shows the text of a label in its colour: the usual one or red.
+void ShowColoured(const Label& state, QLabel* label);
 
 void Bind(Label& state, QLabel* label);
 /// Typing goes to the state at once.

@@ -7,26 +7,12 @@
 #include "windows/Binding.h"
 #include "windows/Layouts.h"
 #include "windows/PictureWidgets.h"
-#include "windows/Pictures.h"
 
 namespace trelonit {
 
 namespace {
 
 constexpr QSize pictureSize{56, 56};
-
-/// A name that the form turns red where no size passes.
-void BindColoured(Label& state, QLabel* label) {
-  Follow(state, label, [&state, label] {
-    label->setText(ToQt(state.Caption()));
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, state.ForeColor() == colorRed
-                                               ? WarningColor(label->palette())
-                                               : label->palette().color(QPalette::Text));
-    label->setPalette(palette);
-    ShowCommon(state, label);
-  });
-}
 
 }  // namespace
 
@@ -50,19 +36,32 @@ SearchWindow::SearchWindow(frmSearch& form, QWidget* parent)
     rows->addWidget(worry, row, 3);
     Bind(form.lblName[option - 1], name);
     Bind(form.imgProfileSec[option], picture);
-    BindColoured(form.lblProfilName[option], size);
+    Follow(form.lblProfilName[option], size,
+           [&sizeName = form.lblProfilName[option], size] { ShowColoured(sizeName, size); });
     Bind(form.lblWorry[option], worry);
     picture->setAccessibleName(name->text() + QStringLiteral(": сечение"));
   }
   rows->setColumnStretch(2, 1);
+  auto* opinion = new QCheckBox(QStringLiteral("и по &СНиП без отступлений"));
+  opinion->setObjectName(QStringLiteral("chkOpinion"));
+  SetHint(opinion,
+          QStringLiteral("Подбирать профили, которые проходят и проверки расчета, и второе "
+                         "мнение: по статике и по букве СНиП II-23-81*"));
+  Bind(form.chkOpinion, opinion);
+  column->addWidget(opinion);
+  auto* rounds = new QLabel;
+  rounds->setObjectName(QStringLiteral("lblRounds"));
+  Bind(form.lblRounds, rounds);
+  column->addWidget(rounds);
   auto* buttons = new QDialogButtonBox;
   auto* apply = buttons->addButton(QStringLiteral("&Применить"), QDialogButtonBox::ActionRole);
   apply->setObjectName(QStringLiteral("cmdApply"));
-  apply->setDefault(true);
   QObject::connect(apply, &QPushButton::clicked, this, [&form] { form.cmdApply_Click(); });
   auto* close = buttons->addButton(QDialogButtonBox::Close);
   QObject::connect(close, &QPushButton::clicked, this, &QDialog::reject);
   column->addWidget(buttons);
+  // Only in its window is it the one that Enter presses wherever the focus is.
+  apply->setDefault(true);
   apply->setFocus();
 }
 

@@ -1,65 +1,10 @@
-#include "tests/windows/DialogHands.h"
 #include "tests/windows/Pixels.h"
+#include "tests/windows/SearchScreen.h"
 #include "tests/workstation/Desk.h"
-#include "windows/PictureWidgets.h"
 #include "windows/Pictures.h"
-#include "windows/SearchWindow.h"
 
 namespace trelonit::test {
 namespace {
-
-/// A proposal that names its sizes after the groups.
-struct SearchScreen {
-  explicit SearchScreen(Long scheme = 1, std::set<GroupOption> impossible = {}) {
-    Proposal.Sections = SectionArray(1, sectionCount);
-    Proposal.Sections[sectionUpPoyas].Profile.Name = "up";
-    Proposal.Sections[sectionDwnPoyas].Profile.Name = "down";
-    Proposal.Sections[sectionRaskos].Profile.Name = "diagonal";
-    Proposal.Sections[sectionOpornRaskos].Profile.Name = "support";
-    Proposal.Sections[sectionStoyka].Profile.Name = "vertical";
-    Proposal.Impossible = std::move(impossible);
-    for (Long option = 1; option <= groupCount; ++option) {
-      Layouts[option].Show({Picture::Source::SectionLayout, static_cast<Integer>(option + 1)});
-    }
-    Form.Fill({.Proposal = Proposal}, Layouts, scheme);
-    Window = std::make_unique<SearchWindow>(Form, nullptr);
-    ShowActive(*Window);
-  }
-
-  QLabel& Size(Long option) {
-    return Find<QLabel>(*Window, "lblProfilName" + std::to_string(option));
-  }
-  QLabel& Worry(Long option) { return Find<QLabel>(*Window, "lblWorry" + std::to_string(option)); }
-  QPushButton& Apply() { return Find<QPushButton>(*Window, "cmdApply"); }
-  Texts Sizes() {
-    Texts texts;
-    for (Long option = 1; option <= groupCount; ++option) {
-      texts.push_back(FromQt(Size(option).text()));
-    }
-    return texts;
-  }
-  /// The colour in which the size of a group is written.
-  QColor Ink(Long option) { return Size(option).palette().color(QPalette::WindowText); }
-  std::vector<PictureView*> Pictures() { return FindAll<PictureView>(); }
-  bool Open() const { return Window->isVisible(); }
-
-  SelectionProposal Proposal;
-  BoundedArray<Image> Layouts{1, groupCount};
-  frmSearch Form;
-  std::unique_ptr<SearchWindow> Window;
-
- private:
-  template <class Widget>
-  std::vector<Widget*> FindAll() {
-    std::vector<Widget*> found;
-    for (QWidget* widget : Window->findChildren<QWidget*>()) {
-      if (auto* fitting = dynamic_cast<Widget*>(widget)) {
-        found.push_back(fitting);
-      }
-    }
-    return found;
-  }
-};
 
 const Texts groupNames{"Верхний пояс", "Нижний пояс", "Раскосы", "Стойки", "Опорные раскосы"};
 
@@ -179,7 +124,7 @@ TEST(SearchWindowApply, TakesTheProposal) {
   SearchScreen screen;
   Click(screen.Apply());
   EXPECT_TRUE(screen.Form.SearchApplied);
-  EXPECT_FALSE(screen.Open());
+  EXPECT_FALSE(screen.IsOpen());
   EXPECT_EQ(screen.Window->result(), QDialog::Accepted);
 }
 
@@ -187,11 +132,11 @@ TEST(SearchWindowApply, IsTheReturnKeyAndTheUnderlinedLetter) {
   SearchScreen byReturn;
   Press(Qt::Key_Return);
   EXPECT_TRUE(byReturn.Form.SearchApplied);
-  EXPECT_FALSE(byReturn.Open());
+  EXPECT_FALSE(byReturn.IsOpen());
 
   SearchScreen byLetter;
   PressMnemonic(byLetter.Apply().text());
-  EXPECT_TRUE(Soon([&] { return !byLetter.Open(); }));
+  EXPECT_TRUE(Soon([&] { return !byLetter.IsOpen(); }));
   EXPECT_TRUE(byLetter.Form.SearchApplied);
 }
 
@@ -203,7 +148,7 @@ TEST(SearchWindowLeft, LeavesTheProposal) {
   for (const auto& leave : ways) {
     SearchScreen screen;
     leave(screen);
-    EXPECT_FALSE(screen.Open());
+    EXPECT_FALSE(screen.IsOpen());
     EXPECT_FALSE(screen.Form.SearchApplied);
   }
 }
