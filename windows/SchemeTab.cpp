@@ -19,6 +19,22 @@ namespace {
 
 constexpr int schemesInRow = 5;
 constexpr QSize schemeSize{132, 66};
+/// The size of figures beside their option.
+constexpr double smallLetters = 0.9;
+
+const QString takenHead = QStringLiteral("расчет, м");
+const QString heldHead = QStringLiteral("по подписи, м");
+
+/// A place for a figure beside an option.
+QLabel* AddFigure(QGridLayout* rows, int row, int column) {
+  auto* label = new QLabel;
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  QFont small = label->font();
+  small.setPointSizeF(small.pointSizeF() * smallLetters);
+  label->setFont(small);
+  rows->addWidget(label, row, column);
+  return label;
+}
 
 /// Schemes 6 to 10 have no hint of their own.
 QString SchemeHint(Long scheme) {
@@ -44,16 +60,23 @@ SchemeTab::SchemeTab(frmMain& form, QWidget* parent) : QWidget(parent), form_(fo
   AddGeometry(inputs);
   // What each choice does to the slenderness out of the plane stands in the hint: the captions
   // tell where the chord is held, the calculation takes these lengths.
-  auto* bracing = new QHBoxLayout;
-  inputs->addLayout(bracing);
-  AddBracing(bracing, form_.optUpPoyas, QStringLiteral("Верхний пояс закреплен"),
-             QStringLiteral("Влияет на устойчивость верхнего пояса из плоскости фермы"),
-             {QStringLiteral("наибольшая панель"), QStringLiteral("наибольшая панель"),
-              QStringLiteral("половина пролета"), QStringLiteral("весь пролет")});
-  AddBracing(bracing, form_.optDownPoyas, QStringLiteral("Нижний пояс закреплен"),
-             QStringLiteral("Влияет на устойчивость нижнего пояса из плоскости фермы"),
-             {QStringLiteral("одна панель пояса"), QStringLiteral("до двух панелей пояса"),
-              QStringLiteral("половина пролета"), QStringLiteral("весь пролет")});
+  AddBracing(inputs,
+             {.Options = form_.optUpPoyas,
+              .Lengths = form_.lblUpPoyasLength,
+              .Name = QStringLiteral("lblUpPoyasLength"),
+              .Caption = QStringLiteral("Верхний пояс закреплен"),
+              .Hint = QStringLiteral("Влияет на устойчивость верхнего пояса из плоскости фермы"),
+              .Taken = {QStringLiteral("наибольшая панель"), QStringLiteral("наибольшая панель"),
+                        QStringLiteral("половина пролета"), QStringLiteral("весь пролет")}});
+  AddBracing(
+      inputs,
+      {.Options = form_.optDownPoyas,
+       .Lengths = form_.lblDownPoyasLength,
+       .Name = QStringLiteral("lblDownPoyasLength"),
+       .Caption = QStringLiteral("Нижний пояс закреплен"),
+       .Hint = QStringLiteral("Влияет на устойчивость нижнего пояса из плоскости фермы"),
+       .Taken = {QStringLiteral("одна панель пояса"), QStringLiteral("до двух панелей пояса"),
+                 QStringLiteral("половина пролета"), QStringLiteral("весь пролет")}});
   AddDeflection(inputs);
   inputs->addStretch();
 }
@@ -101,19 +124,52 @@ void SchemeTab::AddGeometry(QBoxLayout* column) {
   rows->addRow(LabelFor(panels, QStringLiteral("&Кол-во панелей фермы")), panels);
 }
 
-void SchemeTab::AddBracing(QBoxLayout* column, OptionGroup& options, const QString& title,
-                           const QString& hint, const QStringList& lengths) {
+void SchemeTab::AddBracing(QBoxLayout* column, const Bracing& bracing) {
   static constexpr std::array<const char*, 4> captions{
       "Только крайние", "Крайние и посредине пролета", "Через один", "Все узлы"};
-  auto* rows = AddGroup<QVBoxLayout>(column, title);
+  auto* rows = AddGroup<QGridLayout>(column, bracing.Caption);
+  rows->setColumnStretch(0, 1);
+  rows->setHorizontalSpacing(16);
+  rows->setVerticalSpacing(2);
+  QLabel* taken = AddFigure(rows, 0, 1);
+  taken->setText(takenHead);
+  SetHint(taken, QStringLiteral("Длина из плоскости фермы, которую берет расчет"));
+  QLabel* held = AddFigure(rows, 0, 2);
+  held->setText(heldHead);
+  SetHint(held, QStringLiteral("Расстояние между закрепленными узлами по смыслу подписи"));
   for (Long number = 1; number <= static_cast<Long>(captions.size()); ++number) {
     const QString caption = QString::fromUtf8(captions[static_cast<std::size_t>(number - 1)]);
     auto* option = new QRadioButton(caption);
-    option->setAccessibleName(title + QStringLiteral(": ") + caption);
-    SetHint(option, hint + QStringLiteral("\nРасчетная длина: ") + lengths[number - 1]);
-    Bind(options, number, option);
-    rows->addWidget(option);
+    option->setAccessibleName(bracing.Caption + QStringLiteral(": ") + caption);
+    SetHint(option,
+            bracing.Hint + QStringLiteral("\nРасчетная длина: ") + bracing.Taken[number - 1]);
+    Bind(bracing.Options, number, option);
+    rows->addWidget(option, static_cast<int>(number), 0);
+    AddLengths(rows, bracing, number, option);
   }
+}
+
+void SchemeTab::AddLengths(QGridLayout* rows, const Bracing& bracing, Long number,
+                           QWidget* option) {
+  frmMain::BracingLength& length = bracing.Lengths[number];
+  QLabel* taken = AddFigure(rows, static_cast<int>(number), 1);
+  taken->setObjectName(QStringLiteral("%1%2Taken").arg(bracing.Name).arg(number));
+  QLabel* held = AddFigure(rows, static_cast<int>(number), 2);
+  held->setObjectName(QStringLiteral("%1%2ByCaption").arg(bracing.Name).arg(number));
+  // Who hears the screen hears the lengths with the option.
+  const auto describe = [=, hint = option->toolTip()] {
+    option->setAccessibleDescription(
+        QStringLiteral("%1\n%2: %3\n%4: %5")
+            .arg(hint, takenHead, taken->text(), heldHead, held->text()));
+  };
+  Follow(length.Taken, taken, [&state = length.Taken, taken, describe] {
+    ShowColoured(state, taken);
+    describe();
+  });
+  Follow(length.ByCaption, held, [&state = length.ByCaption, held, describe] {
+    ShowColoured(state, held);
+    describe();
+  });
 }
 
 void SchemeTab::AddDeflection(QBoxLayout* column) {

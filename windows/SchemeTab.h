@@ -5,6 +5,7 @@
 #include "workstation/frmMain.h"
 
 class QBoxLayout;
+class QGridLayout;
 
 namespace trelonit {
 
@@ -16,8 +17,18 @@ class SchemeTab : public QWidget {
  private:
   void AddSchemes(QBoxLayout* column);
   void AddGeometry(QBoxLayout* column);
-  void AddBracing(QBoxLayout* column, OptionGroup& options, const QString& title,
-                  const QString& hint, const QStringList& lengths);
+  /// The bracing of one chord out of the plane.
+  struct Bracing {
+    OptionGroup& Options;
+    BoundedArray<frmMain::BracingLength>& Lengths;
+    QString Name;  ///< of the labels with the lengths
+    QString Caption;
+    QString Hint;
+    QStringList Taken;  ///< the length that the calculation takes, in words, by option
+  };
+  void AddBracing(QBoxLayout* column, const Bracing& bracing);
+  /// The lengths of one option, behind it.
+  void AddLengths(QGridLayout* rows, const Bracing& bracing, Long number, QWidget* option);
   void AddDeflection(QBoxLayout* column);
 
   frmMain& form_;
