@@ -8,6 +8,7 @@
 #include "catalogue/SectionLayouts.h"
 #include "windows/Binding.h"
 #include "windows/Layouts.h"
+#include "windows/NoticeViews.h"
 #include "windows/PictureWidgets.h"
 #include "windows/SmallSchemeView.h"
 #include "workstation/ResultPicture.h"
@@ -105,6 +106,10 @@ void SectionTab::AddLists(QBoxLayout* column) {
   list(form_.cmbKatalog, "cmbKatalog", QStringLiteral("&Каталог металлопроката"));
   list(form_.cmbTypeProfile, "cmbTypeProfile", QStringLiteral("&Тип и стандарт металлопроката"));
   list(form_.cmbSectType, "cmbSectType", QStringLiteral("Типо&размер металлопроката"));
+  auto* source = new NoticeLine(Severity::Warning);
+  source->setObjectName(QStringLiteral("lblSectionSource"));
+  Bind(form_.lblSectionSource, source);
+  rows->addRow(source);
   SetHint(list(form_.cmbGdist, "cmbGdist", QStringLiteral("&Зазор между профилями, мм"), true),
           QStringLiteral("Растояние между спаренными профилями - Не ограничивается програмой !!! "
                          "Контролируйте правильность выбора!"));

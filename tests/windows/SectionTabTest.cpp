@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "tests/windows/Pixels.h"
 #include "tests/windows/Screen.h"
+#include "windows/Pictures.h"
 
 namespace trelonit::test {
 namespace {
@@ -263,6 +265,50 @@ TEST_F(SectionInputs, TheCurrentGroupIsRedInTheSmallScheme) {
   PressGroup(2);
   EXPECT_FALSE(redAt(upper));
   EXPECT_TRUE(redAt(lower));
+}
+
+/// The mark of a section without a published table.
+class SectionSource : public ::testing::Test, public SectionScreen {
+ protected:
+  SectionSource() {
+    PressLayout(2);
+    PickIn("cmbTypeProfile", "Уголок равнополочный по ГОСТ 8509-93");
+  }
+  QWidget& Mark() { return Find<QWidget>(Window, "lblSectionSource"); }
+  QLabel& Text() { return *Mark().findChild<QLabel*>(); }
+};
+
+TEST_F(SectionSource, IsHiddenWhereTheFiguresArePublished) {
+  PickIn("cmbSectType", "L100x10");
+  EXPECT_FALSE(Mark().isVisible());
+}
+
+TEST_F(SectionSource, TellsWhereTheyAreNot) {
+  PickIn("cmbSectType", "L65x8");
+  EXPECT_TRUE(Mark().isVisible());
+  EXPECT_EQ(FromQt(Text().text()), Main.lblSectionSource.Caption());
+  EXPECT_TRUE(Text().text().startsWith(QStringLiteral("L65x8, ")));
+  EXPECT_GT(CountPixels(Mark(), CautionColor(Window.palette())), 20) << "its mark";
+  PickIn("cmbSectType", "L100x10");
+  EXPECT_FALSE(Mark().isVisible());
+}
+
+TEST_F(SectionSource, FollowsTheGroup) {
+  PickIn("cmbSectType", "L65x8");
+  PressGroup(2);
+  EXPECT_FALSE(Mark().isVisible());
+  PressGroup(1);
+  EXPECT_TRUE(Mark().isVisible());
+}
+
+TEST_F(SectionSource, StandsUnderTheSizeAndWraps) {
+  PickIn("cmbSectType", "L65x8");
+  QTest::qWait(1);
+  const QComboBox& size = Combo("cmbSectType");
+  EXPECT_GE(Mark().geometry().top(), size.geometry().bottom());
+  EXPECT_LT(Mark().geometry().bottom(), Combo("cmbGdist").geometry().top());
+  EXPECT_LE(Mark().geometry().right(), size.geometry().right() + 1);
+  EXPECT_GT(Text().height(), 1.5 * Text().fontMetrics().height());
 }
 
 }  // namespace
