@@ -6,13 +6,16 @@
 #include <QIcon>
 #include <QLocale>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
 #include "windows/Binding.h"
 #include "windows/HelpKey.h"
+#include "windows/Layouts.h"
 #include "windows/LoadTab.h"
 #include "windows/LockKeys.h"
+#include "windows/NoticeViews.h"
 #include "windows/SchemeTab.h"
 #include "windows/SectionTab.h"
 
@@ -50,7 +53,13 @@ QKeySequence ShortcutOf(const std::string& item) {
 MainWindow::MainWindow(frmMain& form, SettingsService& settings)
     : form_(form), settings_(settings) {
   setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
-  AddTabs();
+  auto* body = new QWidget;
+  auto* column = new QVBoxLayout(body);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(NewOwnWeightBanner());
+  column->addWidget(NewTabs(), 1);
+  setCentralWidget(body);
   AddMenus();
   AddStatusBar();
 
@@ -66,7 +75,38 @@ MainWindow::MainWindow(frmMain& form, SettingsService& settings)
   RestorePlace();
 }
 
-void MainWindow::AddTabs() {
+QWidget* MainWindow::NewOwnWeightBanner() {
+  auto* banner = new NoticeFrame(Severity::Warning);
+  banner->setObjectName(QStringLiteral("lblOwnWeightTwice"));
+  banner->setAccessibleName(QStringLiteral("Собственный вес в нагрузках"));
+  SetHelpPlace(*banner, FindingPlace(FindingCode::OwnWeightTwice));
+  auto* column = new QVBoxLayout(banner);
+  column->setContentsMargins(14, 6, 8, 6);
+  auto* line = new NoticeLine(Severity::Warning);
+  column->addWidget(line);
+  const auto button = [&](const char* name, const QString& caption, const QString& hint,
+                          void (frmMain::*click)()) {
+    auto* push = new QPushButton(caption);
+    push->setObjectName(QLatin1String(name));
+    SetHint(push, hint);
+    QObject::connect(push, &QPushButton::clicked, this, [this, click] { (form_.*click)(); });
+    line->Row().addWidget(push);
+  };
+  button("cmdTakeOwnWeightOut", QStringLiteral("Вы&честь"),
+         QStringLiteral("Убрать собственный вес из нагрузок проекта: расчет прибавит его сам"),
+         &frmMain::cmdTakeOwnWeightOut_Click);
+  button("cmdKeepOwnWeight", QStringLiteral("Остав&ить"),
+         QStringLiteral("Это нагрузка пользователя: оставить ее как есть"),
+         &frmMain::cmdKeepOwnWeight_Click);
+  Follow(form_.lblOwnWeightTwice, banner, [this, banner, line] {
+    line->Text().setText(ToQt(form_.lblOwnWeightTwice.Caption()));
+    banner->setAccessibleDescription(line->Text().text());
+    ShowCommon(form_.lblOwnWeightTwice, banner);
+  });
+  return banner;
+}
+
+QTabWidget* MainWindow::NewTabs() {
   auto* tabs = new QTabWidget;
   tabs->setObjectName(QStringLiteral("tabMain"));
   tabs->addTab(new SchemeTab(form_), QStringLiteral("Параметры фермы"));
@@ -77,7 +117,7 @@ void MainWindow::AddTabs() {
   SetHelpPlace(*loadPage_, help_place::Loads);
   QObject::connect(tabs, &QTabWidget::currentChanged, this, [this] { CompleteTabs(); });
   Bind(form_.tabMain, tabs);
-  setCentralWidget(tabs);
+  return tabs;
 }
 
 QWidget* MainWindow::AddPage(QTabWidget* tabs, const QString& caption) {

@@ -27,7 +27,9 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void AddTabs();
+  QTabWidget* NewTabs();
+  /// That own weight seems to be inside the loads already, over every tab, until the user decides.
+  QWidget* NewOwnWeightBanner();
   /// The empty page of a tab whose content comes later.
   QWidget* AddPage(QTabWidget* tabs, const QString& caption);
   void AddMenus();
