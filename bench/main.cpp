@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "analysis/modMaxProgib.h"
 #include "analysis/Scheme.h"
+#include "analysis/modMaxProgib.h"
 #include "analysis/modTrelo.h"
 #include "bench/Designs.h"
 #include "bench/DesktopCost.h"
@@ -20,6 +20,7 @@
 #include "drawing/host/BuiltInHost.h"
 #include "drawing/host/DxfWriter.h"
 #include "drawing/modACADExport.h"
+#include "opinion/Opinion.h"
 #include "workstation/Selection.h"
 
 namespace {
@@ -76,6 +77,26 @@ void MemberCheck(benchmark::State& state) {
     CheckResult check =
         CheckueStress(data, result, bench::OrdinarySteel(), sections, world.Messages);
     benchmark::DoNotOptimize(check);
+  }
+}
+
+/// The second opinion on a calculated design: statics, every bar judged, no findings.
+void SecondOpinion(benchmark::State& state, Long scheme) {
+  bench::World world;
+  const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
+  const SectionArray sections = bench::PairedAngles(catalogue);
+  const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
+  const TreloResult result = CalcTrelo(data, world.Messages);
+  const CheckNumbers numbers = bench::OrdinarySteel();
+  const CheckResult check = CheckueStress(data, result, numbers, sections, world.Messages);
+  const JudgedDesign design{
+      .Data = data, .Result = result, .Check = check, .Sections = sections, .Numbers = numbers};
+  for (auto _ : state) {
+    Opinion opinion = FormOpinion(design);
+    if (opinion.HasRefused()) {
+      state.SkipWithError("the opinion is refused");
+    }
+    benchmark::DoNotOptimize(opinion);
   }
 }
 
@@ -208,6 +229,7 @@ void Register() {
     add(Name("Solver", scheme), Solver, scheme);
     add(Name("UnitRuns", scheme), UnitRuns, scheme);
     add(Name("Deflection", scheme), Deflection, scheme);
+    add(Name("SecondOpinion", scheme), SecondOpinion, scheme);
     add(Name("DrawingExport", scheme), DrawingExport, scheme);
   }
   add("MemberCheck", MemberCheck);
@@ -239,6 +261,10 @@ int Measure(int argc, char** argv) {
               times[Name("Deflection", scheme)] / times[Name("UnitRuns", scheme)], 1.3, "x");
   }
   table.Row("member check n = 30", times["MemberCheck"] / 1e3, 1.5, "us");
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    table.Row("second opinion n = 30, scheme " + std::to_string(scheme),
+              times[Name("SecondOpinion", scheme)] / 1e3, 60, "us");
+  }
   table.Row("loading the catalogue", times["CatalogueLoad"] / 1e6, 3, "ms");
   table.Row("selection, five groups to the end of the largest standard", times["Selection"] / 1e6,
             20, "ms");
