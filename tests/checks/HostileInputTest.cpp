@@ -1,7 +1,5 @@
 #include <algorithm>
-#include <bit>
 #include <cmath>
-#include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
 #include <limits>
@@ -12,25 +10,10 @@
 
 #include "platform/RuntimeError.h"
 #include "tests/checks/DriverCase.h"
+#include "tests/support/AnyNumber.h"
 
 namespace trelonit::test {
 namespace {
-
-using Limits = std::numeric_limits<double>;
-
-/// Any finite Double: every exponent alike, the ends of the range, zeros and tame numbers.
-rc::Gen<double> AnyNumber() {
-  const auto word = rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<std::uint64_t>());
-  const auto bits = rc::gen::map(word, [](std::uint64_t pattern) {
-    const auto value = std::bit_cast<double>(pattern);
-    return std::isfinite(value) ? value : 1.0;
-  });
-  return rc::gen::weightedOneOf<double>(
-      {{6, bits},
-       {2, rc::gen::element(0.0, -0.0, Limits::max(), -Limits::max(), Limits::min(),
-                            Limits::denorm_min(), -1.0, 1.0)},
-       {3, rc::gen::map(rc::gen::inRange(-100000, 100001), [](int n) { return n / 1000.0; })}});
-}
 
 /// Every number that the driver reads, by reference.
 std::vector<std::reference_wrapper<double>> ReadNumbers(DriverCase& c) {
@@ -137,15 +120,6 @@ RC_GTEST_PROP(HostileInput, OfAnyBoundsGivesAFiniteRecordOrOneError, ()) {
 
 /// Each number alone, at each end of its range and at zero: nothing else hides what it does.
 TEST(HostileInput, OfOneExtremeNumberGivesAFiniteRecordOrOneError) {
-  const double extremes[] = {0.0,
-                             -0.0,
-                             Limits::max(),
-                             -Limits::max(),
-                             Limits::min(),
-                             -Limits::min(),
-                             Limits::denorm_min(),
-                             -Limits::denorm_min(),
-                             -1};
   int filled = 0;
   int failed = 0;
   for (Long scheme = 1; scheme <= 4; ++scheme) {
@@ -159,7 +133,7 @@ TEST(HostileInput, OfOneExtremeNumberGivesAFiniteRecordOrOneError) {
       for (double& number : ReadNumbers(c)) {
         ++place;
         const double kept = number;
-        for (const double extreme : extremes) {
+        for (const double extreme : extremeNumbers) {
           number = extreme;
           const Outcome outcome = c.Run();
           ASSERT_EQ(Complaint(outcome), "") << "scheme " << scheme << ", layout " << layout
