@@ -1,14 +1,14 @@
 #include "opinion/Buckling.h"
 
-#include <cmath>
+#include "platform/Arithmetic.h"
 
 namespace trelonit {
 
 Buckling BucklingCoefficient(double conditionalSlenderness, double Ry, double E) {
-  const double x = conditionalSlenderness;
-  const double q = Ry / E;
+  const Real x = conditionalSlenderness;
+  const Real q = Real(Ry) / E;
   if (x <= 2.5) {
-    return {1 - (0.073 - 5.53 * q) * x * std::sqrt(x), 8};
+    return {1 - (0.073 - 5.53 * q) * x * SquareRoot(x), 8};
   }
   if (x <= 4.5) {
     return {1.47 - 13 * q - (0.371 - 27.3 * q) * x + (0.0275 - 5.53 * q) * x * x, 9};

@@ -11,7 +11,8 @@ struct Buckling {
 };
 
 /// SNiP II-23-81*, clause 5.3, formulas (8) to (10), for the conditional slenderness lambda *
-/// sqrt(Ry / E). The bounds between the formulas belong to the lower one.
+/// sqrt(Ry / E). The bounds between the formulas belong to the lower one. Raises 11, 6 or 5 where
+/// the arithmetic does.
 Buckling BucklingCoefficient(double conditionalSlenderness, double Ry, double E);
 
 }  // namespace trelonit
