@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "catalogue/SectionComposition.h"
 #include "checks/ElementGroups.h"
@@ -171,7 +172,12 @@ class Objections {
   const Scheme* scheme_;
 };
 
-/// Whether the result has just the bars of this truss.
+bool HasBounds(const BoundedArray<double>& array, Long lower, std::size_t upper) {
+  return array.IsAllocated() && array.LowerBound() == lower &&
+         array.UpperBound() == static_cast<Long>(upper);
+}
+
+/// Whether the result has just the bars and joints of this truss.
 bool IsOfThisTruss(const Truss& truss, const TreloResult& result) {
   // The bars of an array end with its last one, wherever they stand in the list.
   for (const auto forces : {&TreloResult::UpPoyasForce, &TreloResult::DwnPoyasForce,
@@ -179,19 +185,42 @@ bool IsOfThisTruss(const Truss& truss, const TreloResult& result) {
     const auto count = std::count_if(truss.Bars.begin(), truss.Bars.end(),
                                      [&](const TrussBar& bar) { return bar.Forces == forces; });
     // Scheme 3 has an array of zeros for the verticals that it does not have.
-    if (count != 0 && (!(result.*forces).IsAllocated() || (result.*forces).UpperBound() != count)) {
+    if (count != 0 && !HasBounds(result.*forces, 1, static_cast<std::size_t>(count))) {
       return false;
     }
   }
-  return true;
+  return HasBounds(result.UpKnotLoad, 0, truss.Upper.size() - 1) &&
+         HasBounds(result.DwnKnotLoad, 0, truss.Lower.size() - 1);
+}
+
+/// Whether these are loads of all joints and panels of this truss.
+bool ReachAllJoints(const LoadArrays& loads, const Truss& truss) {
+  const auto reach = [](const BoundedArray<double>& array, std::size_t count) {
+    return array.IsAllocated() && array.LowerBound() <= 0 &&
+           array.UpperBound() >= static_cast<Long>(count) - 1;
+  };
+  return reach(loads.UpPForce, truss.Upper.size()) &&
+         reach(loads.UpDistForce, truss.Upper.size() - 1) &&
+         reach(loads.DwnPForce, truss.Lower.size()) &&
+         reach(loads.DwnDistForce, truss.Lower.size() - 1);
+}
+
+JudgedTruss Solved(Truss model, const TreloData& data) {
+  JudgedTruss truss{.Model = std::move(model)};
+  truss.Forces = SolveStatics(truss.Model, JointLoads(truss.Model, data));
+  truss.UpperHeld = LengthBetweenHeldPoints(truss.Model, Chord::Upper, data.UpPoyasBrace);
+  truss.LowerHeld = LengthBetweenHeldPoints(truss.Model, Chord::Lower, data.DownPoyasBrace);
+  return truss;
 }
 
 Statics ToldStatics(const Truss& truss, const std::vector<double>& loads,
                     const TreloResult& result) {
-  Statics told{.Loads = loads, .ReactLeft = result.ReactLeft, .ReactRight = result.ReactRight};
+  Statics told{.Loads = loads,
+               .ReactLeft = Finite(result.ReactLeft),
+               .ReactRight = Finite(result.ReactRight)};
   told.Forces.reserve(truss.Bars.size());
   for (const TrussBar& bar : truss.Bars) {
-    told.Forces.push_back((result.*bar.Forces)[bar.Subscript]);
+    told.Forces.push_back(Finite((result.*bar.Forces)[bar.Subscript]));
   }
   return told;
 }
@@ -206,10 +235,11 @@ Opinion Form(const JudgedDesign& design) {
   if (std::string objection = Objections(design).First(); !objection.empty()) {
     return Refused(std::move(objection));
   }
-  JudgedTruss truss = SolveTruss(design.Data);
-  if (!IsOfThisTruss(truss.Model, design.Result)) {
+  Truss model = TrussOf(design.Data);
+  if (!IsOfThisTruss(model, design.Result) || !ReachAllJoints(design.Data, model)) {
     return Refused("Результаты относятся к другой ферме: выполните расчет заново.");
   }
+  JudgedTruss truss = Solved(std::move(model), design.Data);
   Opinion opinion;
   opinion.Bars.resize(truss.Model.Bars.size());
   for (const ElementGroupRow& group : elementGroups) {
@@ -292,11 +322,7 @@ double Opinion::GreatestResidual() const {
 }
 
 JudgedTruss SolveTruss(const TreloData& data) {
-  JudgedTruss truss{.Model = TrussOf(data)};
-  truss.Forces = SolveStatics(truss.Model, JointLoads(truss.Model, data));
-  truss.UpperHeld = LengthBetweenHeldPoints(truss.Model, Chord::Upper, data.UpPoyasBrace);
-  truss.LowerHeld = LengthBetweenHeldPoints(truss.Model, Chord::Lower, data.DownPoyasBrace);
-  return truss;
+  return Solved(TrussOf(data), data);
 }
 
 GroupJudgement JudgeGroup(const JudgedTruss& truss, ElementGroup group, const SectionProps& section,

@@ -164,6 +164,9 @@ std::vector<Residual> Residuals(const Truss& truss, const Statics& statics) {
     b.Right -= right;
     b.Up -= up;
   }
+  for (const Residual& residual : residuals) {
+    Finite(residual.Size());
+  }
   return residuals;
 }
 

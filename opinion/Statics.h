@@ -34,6 +34,7 @@ struct Residual {
 };
 
 /// The residual of each joint; zero throughout is equilibrium. The horizontal reaction is none.
+/// Raises 6 beyond the range of Double.
 std::vector<Residual> Residuals(const Truss& truss, const Statics& statics);
 
 /// Movement of a joint, metres: to the right and downward.
