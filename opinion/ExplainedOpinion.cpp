@@ -3,6 +3,7 @@
 #include "opinion/BarLengths.h"
 #include "opinion/ExplanationBuilder.h"
 #include "opinion/NormTexts.h"
+#include "platform/Guard.h"
 
 namespace trelonit {
 
@@ -129,9 +130,12 @@ std::vector<Explanation> ExplainOpinion(const JudgedDesign& design, const Opinio
   for (const GroupJudgement& group : opinion.Groups) {
     const GroupExplainer explainer(design, opinion, group);
     for (const MemberCheckRow& row : memberChecks) {
-      if (std::optional<Explanation> explanation = explainer.Explain(row)) {
-        explanations.push_back(std::move(*explanation));
-      }
+      // Figures at the ends of the range of Double have no digits to show them with.
+      PassOver([&] {
+        if (std::optional<Explanation> explanation = explainer.Explain(row)) {
+          explanations.push_back(std::move(*explanation));
+        }
+      });
     }
   }
   return explanations;

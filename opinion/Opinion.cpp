@@ -28,16 +28,25 @@ double Greatest(const std::vector<double>& values) {
   return greatest;
 }
 
+/// With a negative area and negative coefficients a bar would pass everything.
+Real Positive(double value) {
+  if (!(value > 0)) {
+    throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+  }
+  return value;
+}
+
 /// Judges one bar after the other with the section of their group.
 class GroupJudge {
  public:
   GroupJudge(const JudgedTruss& truss, const SectionProps& section, const CheckNumbers& numbers)
       : truss_(truss),
         numbers_(numbers),
-        capacity_(Real(section.Area) * numbers.Ry * numbers.Yc),
-        radiusX_(SquareRoot(Real(section.Jin) / section.Area)),
-        radiusY_(SquareRoot(Real(section.Jout) / section.Area)),
-        toConditional_(SquareRoot(Real(numbers.Ry) / numbers.E)),
+        importance_(Positive(numbers.Gn)),
+        capacity_(Positive(section.Area) * Positive(numbers.Ry) * Positive(numbers.Yc)),
+        radiusX_(SquareRoot(Positive(section.Jin) / section.Area)),
+        radiusY_(SquareRoot(Positive(section.Jout) / section.Area)),
+        toConditional_(SquareRoot(Real(numbers.Ry) / Positive(numbers.E))),
         leastCompression_(noise * Greatest(truss.Forces.Forces)) {}
 
   BarJudgement Judge(std::size_t place) const {
@@ -45,7 +54,7 @@ class GroupJudge {
     BarJudgement judged{.Force = truss_.Forces.Forces[place]};
     judged.Compressed = judged.Force < 0 && -judged.Force >= leastCompression_;
     // SNiP II-23-81*, clause 5.1, formula (5).
-    judged.Strength = Magnitude(judged.Force) * numbers_.Gn * tonnesPerCm2 / capacity_;
+    judged.Strength = Magnitude(judged.Force) * importance_ * tonnesPerCm2 / capacity_;
     const BarLengths lengths =
         EffectiveLengthsOf(truss_.Model, bar, truss_.UpperHeld, truss_.LowerHeld);
     PutPlane(judged.X, bar, judged, lengths.X, radiusX_);
@@ -61,10 +70,7 @@ class GroupJudge {
     plane.FlexBar = plane.Slenderness * toConditional_;
     if (judged.Compressed) {
       const Buckling buckling = BucklingCoefficient(plane.FlexBar, numbers_.Ry, numbers_.E);
-      if (!(buckling.Phi > 0)) {
-        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
-      }
-      plane.Phi = buckling.Phi;
+      plane.Phi = Positive(buckling.Phi);
       plane.PhiFormula = buckling.Formula;
       // Clause 5.3, formula (7).
       plane.Stability = Real(judged.Strength) / buckling.Phi;
@@ -92,6 +98,7 @@ class GroupJudge {
 
   const JudgedTruss& truss_;
   const CheckNumbers& numbers_;
+  Real importance_;
   Real capacity_;
   Real radiusX_;
   Real radiusY_;

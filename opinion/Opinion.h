@@ -111,8 +111,8 @@ struct JudgedTruss {
 /// Raises 5 or 9 where the design is none, 11 or 6 where its geometry holds no forces.
 JudgedTruss SolveTruss(const TreloData& data);
 
-/// Judges the bars of one group with this section. Raises 11, 6 or 5 for a section or a coefficient
-/// that is not positive.
+/// Judges the bars of one group with this section. Raises 5 for a section, a coefficient or a
+/// buckling coefficient that is not positive, 11 or 6 beyond the range of Double.
 GroupJudgement JudgeGroup(const JudgedTruss& truss, ElementGroup group, const SectionProps& section,
                           const CheckNumbers& numbers, std::vector<BarJudgement>& bars);
 
