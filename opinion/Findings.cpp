@@ -60,6 +60,15 @@ class Search {
   std::string Shown(double value, int decimals) const {
     return FormatShown(value, decimals, locale_);
   }
+  /// A utilisation; next to 1 with the decimals that show which side of it.
+  std::string Use(double value) const {
+    constexpr int most = 12;
+    int decimals = 3;
+    while (decimals < most && (RoundToDecimals(value, decimals) <= 1) != (value <= 1)) {
+      ++decimals;
+    }
+    return Shown(value, decimals);
+  }
   std::string Metres(double value) const { return Shown(value, 3) + " м"; }
   /// Small differences keep their first digits.
   std::string Tonnes(double value) const {
@@ -96,9 +105,9 @@ class Search {
         found_.push_back(
             {.Code = FindingCode::CheckDiffers,
              .Grade = told <= 1 ? Severity::Danger : Severity::Note,
-             .Text = std::string(row.Name) + ", " + check.Name + ": в расчете " + Shown(told, 3) +
-                     ", " + Verdict(told) + "; по СНиП " + Shown(judged, 3) + ", " +
-                     Verdict(judged) + GoverningBar(group, check.Check) + ".",
+             .Text = std::string(row.Name) + ", " + check.Name + ": в расчете " + Use(told) + ", " +
+                     Verdict(told) + "; по СНиП " + Use(judged) + ", " + Verdict(judged) +
+                     GoverningBar(group, check.Check) + ".",
              .Group = group.Group,
              .Check = check.Check,
              .Bar = place ? std::optional(opinion_.Model.Bars[*place].Number) : std::nullopt,
@@ -247,7 +256,7 @@ class Search {
            .Grade = Severity::Warning,
            .Text = std::string(RowOf(failing.Group).Name) +
                    ": с принятыми профилями и их собственным весом наибольший коэффициент " +
-                   Shown(failing.Use, 3) + ". Повторите подбор.",
+                   Use(failing.Use) + ". Повторите подбор.",
            .Group = failing.Group,
            .Told = failing.Use});
     }

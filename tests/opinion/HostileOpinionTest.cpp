@@ -209,26 +209,24 @@ RC_GTEST_PROP(HostileOpinion, OfArraysOfAnyBoundsIsFiniteOrARefusal, ()) {
 TEST(HostileOpinion, OfOneExtremeNumberIsFiniteOrARefusal) {
   int formed = 0;
   int refused = 0;
-  for (Long scheme = 1; scheme <= 4; ++scheme) {
-    for (const Long layout : {1, 4, 10}) {
-      OpinionCase c(SnowyTruss(scheme), SameSections(Single(20, 500, 500, layout)));
-      Numbers numbers = InputsOf(c);
-      const Numbers results = ResultsOf(c);
-      numbers.insert(numbers.end(), results.begin(), results.end());
-      for (std::size_t place = 0; place < numbers.size(); ++place) {
-        const double kept = numbers[place];
-        for (const double extreme : extremeNumbers) {
-          numbers[place].get() = extreme;
-          ASSERT_EQ(Complaint(c), "") << "scheme " << scheme << ", layout " << layout << ", number "
-                                      << place << ": " << extreme;
-          ++(c.Form().HasRefused() ? refused : formed);
-        }
-        numbers[place].get() = kept;
+  for (const auto& [scheme, layout] : {std::pair<Long, Long>{1, 4}, {3, 10}}) {
+    OpinionCase c(SnowyTruss(scheme, 4), SameSections(Single(20, 500, 500, layout)));
+    Numbers numbers = InputsOf(c);
+    const Numbers results = ResultsOf(c);
+    numbers.insert(numbers.end(), results.begin(), results.end());
+    for (std::size_t place = 0; place < numbers.size(); ++place) {
+      const double kept = numbers[place];
+      for (const double extreme : extremeNumbers) {
+        numbers[place].get() = extreme;
+        ASSERT_EQ(Complaint(c), "")
+            << "scheme " << scheme << ", number " << place << ": " << extreme;
+        ++(c.Form().HasRefused() ? refused : formed);
       }
+      numbers[place].get() = kept;
     }
   }
   EXPECT_GT(formed, 1000);
-  EXPECT_GT(refused, 1000);
+  EXPECT_GT(refused, 300);
 }
 
 // Whoever tries sections one by one gets an error for what is none, never a figure that passes.
