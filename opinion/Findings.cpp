@@ -64,7 +64,8 @@ class Search {
   std::string Use(double value) const {
     constexpr int most = 12;
     int decimals = 3;
-    while (decimals < most && (RoundToDecimals(value, decimals) <= 1) != (value <= 1)) {
+    const bool close = value > 1 && value < 1.001;
+    while (close && decimals < most && RoundToDecimals(value, decimals) <= 1) {
       ++decimals;
     }
     return Shown(value, decimals);
