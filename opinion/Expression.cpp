@@ -17,7 +17,7 @@ using Kind = Expression::Kind;
 
 constexpr std::string_view rootName = "sqrt";
 
-bool IsDigit(char character) {
+bool IsOfNumber(char character) {
   return (character >= '0' && character <= '9') || character == '.';
 }
 
@@ -70,11 +70,17 @@ class Parser {
     return joined;
   }
 
+  static Expression Wrapped(Kind kind, Expression part) {
+    Expression wrapped{.Is = kind};
+    wrapped.Parts.push_back(std::move(part));
+    return wrapped;
+  }
+
   Expression Sum() {
     if (++depth_ > deepest) {
       Refuse();
     }
-    Expression left = Product();
+    Expression left = Take('-') ? Wrapped(Kind::Negation, Product()) : Product();
     for (;;) {
       if (Take('+')) {
         left = Join(Kind::Sum, std::move(left), Product());
@@ -101,8 +107,7 @@ class Parser {
   }
 
   Expression Enclosed(Kind kind) {
-    Expression enclosed{.Is = kind};
-    enclosed.Parts.push_back(Sum());
+    Expression enclosed = Wrapped(kind, Sum());
     if (!Take(')')) {
       Refuse();
     }
@@ -113,7 +118,11 @@ class Parser {
     if (Take('(')) {
       return Enclosed(Kind::Brackets);
     }
-    if (std::string number = Run(IsDigit); !number.empty()) {
+    if (std::string number = Run(IsOfNumber); !number.empty()) {
+      const auto points = std::count(number.begin(), number.end(), '.');
+      if (points > 1 || number == ".") {
+        Refuse();
+      }
       return {.Is = Kind::Number, .Text = std::move(number)};
     }
     std::string name = Run(IsLetter);
@@ -143,6 +152,8 @@ Real Value(const Expression& expression, const SymbolValues& symbols) {
       }
       return found->second;
     }
+    case Kind::Negation:
+      return -part(0);
     case Kind::Sum:
       return part(0) + part(1);
     case Kind::Difference:
@@ -196,6 +207,8 @@ std::string WithNumbers(const Expression& expression, const SymbolValues& symbol
       const auto found = symbols.find(expression.Text);
       return found == symbols.end() ? expression.Text : PlainNumber(found->second, digits);
     }
+    case Kind::Negation:
+      return '-' + part(0);
     case Kind::Sum:
       return part(0) + '+' + part(1);
     case Kind::Difference:

@@ -8,13 +8,13 @@
 namespace trelonit {
 
 /// A formula in plain arithmetic, as a tree: numbers with a point, symbols, + - * /, brackets and
-/// sqrt(...). A symbol is a run of letters; what follows its first letter is its index ("Ry",
-/// "γn").
+/// sqrt(...). A minus may stand before the first term, of the whole or in brackets. A symbol is a
+/// run of letters; what follows its first letter is its index ("Ry", "γn").
 struct Expression {
-  enum class Kind { Number, Symbol, Sum, Difference, Product, Quotient, Root, Brackets };
+  enum class Kind { Number, Symbol, Negation, Sum, Difference, Product, Quotient, Root, Brackets };
   Kind Is = Kind::Number;
   std::string Text;               ///< of a number or a symbol
-  std::vector<Expression> Parts;  ///< two of an operation, one of a root or of brackets
+  std::vector<Expression> Parts;  ///< two of an operation, one of a negation, a root or brackets
 };
 
 using SymbolValues = std::map<std::string, double, std::less<>>;
