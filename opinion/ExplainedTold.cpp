@@ -133,6 +133,16 @@ class GroupExplainer {
     return IsChord() || row_.Group == ElementGroup::OpornRaskos;
   }
 
+  /// Whether this chord has end panels, and of another length than the others.
+  bool HasTwoPanelLengths() const {
+    const Scheme& scheme = *FindScheme(design_.Data.TreloType);
+    const bool hasEndPanels = scheme.OwnEndPanels && (row_.Group == ElementGroup::UpPoyas ||
+                                                      scheme.LowerHalfColumn(0) == 0);
+    constexpr double rounding = 1e-9;
+    const double regular = design_.Result.LenPanel;
+    return hasEndPanels && std::abs(design_.Data.LenOporn - regular) > rounding * regular;
+  }
+
   void PutForce(ExplanationBuilder& builder, const ForceExtreme& force) const {
     const std::string bar = std::to_string(force.Index);
     if (row_.Group == ElementGroup::OpornRaskos) {
@@ -164,6 +174,10 @@ class GroupExplainer {
                                          ? design_.Data.UpPoyasBrace
                                          : design_.Data.DownPoyasBrace) +
                       "», а не по расстоянию между закрепленными точками.");
+    } else if (HasTwoPanelLengths()) {
+      builder.OwnRule(
+          "Расчетная длина в плоскости взята по панели стержня с наибольшим усилием, одна на весь "
+          "пояс.");
     }
   }
 

@@ -114,7 +114,10 @@ bool AllFinite(const std::vector<double>& numbers) {
 std::string Complaint(const OpinionCase& c) {
   const Opinion opinion = c.Form();
   if (opinion.HasRefused()) {
-    return opinion.Bars.empty() ? "" : "a refusal with bars";
+    const std::vector<Explanation> explanations = Explain(c.Judged(), opinion, std::nullopt);
+    const bool ofOpinion =
+        !explanations.empty() && explanations.back().Source == ExplanationSource::Opinion;
+    return opinion.Bars.empty() && !ofOpinion ? "" : "a refusal with figures";
   }
   if (!AllFinite(NumbersOf(opinion))) {
     return "an opinion without bounds";

@@ -39,6 +39,8 @@ std::string RefusalAfter(Long scheme, const Change& change) {
   if (opinion.HasRefused()) {
     EXPECT_TRUE(design.Find().empty());
     EXPECT_TRUE(ExplainOpinion(design.Judged(), opinion).empty());
+    // The figures of the program's own check are there all the same.
+    EXPECT_NO_THROW(ExplainTold(design.Judged(), std::nullopt));
     EXPECT_TRUE(opinion.UnbalancedJoints().empty());
     EXPECT_EQ(opinion.FindGroup(ElementGroup::UpPoyas), nullptr);
   }
