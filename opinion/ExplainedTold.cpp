@@ -136,8 +136,9 @@ class GroupExplainer {
   /// Whether this chord has end panels, and of another length than the others.
   bool HasTwoPanelLengths() const {
     const Scheme& scheme = *FindScheme(design_.Data.TreloType);
-    const bool hasEndPanels = scheme.OwnEndPanels && (row_.Group == ElementGroup::UpPoyas ||
-                                                      scheme.LowerHalfColumn(0) == 0);
+    const bool hasEndPanels =
+        !scheme.Reserved && scheme.OwnEndPanels &&
+        (row_.Group == ElementGroup::UpPoyas || scheme.LowerHalfColumn(0) == 0);
     constexpr double rounding = 1e-9;
     const double regular = design_.Result.LenPanel;
     return hasEndPanels && std::abs(design_.Data.LenOporn - regular) > rounding * regular;

@@ -1,5 +1,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 #include <map>
 #include <optional>
 #include <rapidcheck/gtest.h>
@@ -110,6 +111,11 @@ struct Made {
   double Value = 0;
 };
 
+/// What has no value once has none in whatever it is part of.
+double Sound(double value) {
+  return std::isfinite(value) ? value : std::numeric_limits<double>::quiet_NaN();
+}
+
 Made MakeSum(int depth);
 
 Made MakeFactor(int depth) {
@@ -143,7 +149,7 @@ Made MakeProduct(int depth) {
     const Made next = MakeFactor(depth);
     const bool times = *rc::gen::arbitrary<bool>();
     made.Text += (times ? "*" : "/") + next.Text;
-    made.Value = times ? made.Value * next.Value : made.Value / next.Value;
+    made.Value = Sound(times ? made.Value * next.Value : made.Value / next.Value);
   }
   return made;
 }
@@ -155,7 +161,7 @@ Made MakeSum(int depth) {
     const Made next = MakeProduct(depth);
     const bool plus = *rc::gen::arbitrary<bool>();
     made.Text += (plus ? "+" : "-") + next.Text;
-    made.Value = plus ? made.Value + next.Value : made.Value - next.Value;
+    made.Value = Sound(plus ? made.Value + next.Value : made.Value - next.Value);
   }
   return made;
 }
