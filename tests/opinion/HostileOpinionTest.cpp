@@ -36,6 +36,35 @@ Numbers InputsOf(OpinionCase& c) {
   return numbers;
 }
 
+Numbers FieldsOf(GroupCheck& group) {
+  return {group.AlphaX,
+          group.AlphaY,
+          group.FlexX,
+          group.FlexY,
+          group.FlexBarX,
+          group.FlexBarY,
+          group.PhiX,
+          group.PhiY,
+          group.Area,
+          group.Jin,
+          group.Jout,
+          group.KStrength,
+          group.KStabX,
+          group.KStabY,
+          group.KFlexX,
+          group.KFlexY,
+          group.LenX,
+          group.LenY,
+          group.KUserX,
+          group.KUserY,
+          group.NMax.Value,
+          group.NComp.Value,
+          group.LimitX.Compress,
+          group.LimitX.Tension,
+          group.LimitY.Compress,
+          group.LimitY.Tension};
+}
+
 /// What the program's own calculation found.
 Numbers ResultsOf(OpinionCase& c) {
   Numbers numbers{c.Result.ReactLeft, c.Result.ReactRight, c.Result.LenPanel, c.Check.Mass};
@@ -45,32 +74,8 @@ Numbers ResultsOf(OpinionCase& c) {
   }
   for (GroupCheck* group : {&c.Check.UpPoyas, &c.Check.DwnPoyas, &c.Check.Stoyka, &c.Check.Raskos,
                             &c.Check.OpornRaskos}) {
-    numbers.insert(numbers.end(), {group->AlphaX,
-                                   group->AlphaY,
-                                   group->FlexX,
-                                   group->FlexY,
-                                   group->FlexBarX,
-                                   group->FlexBarY,
-                                   group->PhiX,
-                                   group->PhiY,
-                                   group->Area,
-                                   group->Jin,
-                                   group->Jout,
-                                   group->KStrength,
-                                   group->KStabX,
-                                   group->KStabY,
-                                   group->KFlexX,
-                                   group->KFlexY,
-                                   group->LenX,
-                                   group->LenY,
-                                   group->KUserX,
-                                   group->KUserY,
-                                   group->NMax.Value,
-                                   group->NComp.Value,
-                                   group->LimitX.Compress,
-                                   group->LimitX.Tension,
-                                   group->LimitY.Compress,
-                                   group->LimitY.Tension});
+    const Numbers more = FieldsOf(*group);
+    numbers.insert(numbers.end(), more.begin(), more.end());
   }
   return numbers;
 }
@@ -212,24 +217,24 @@ RC_GTEST_PROP(HostileOpinion, OfArraysOfAnyBoundsIsFiniteOrARefusal, ()) {
 TEST(HostileOpinion, OfOneExtremeNumberIsFiniteOrARefusal) {
   int formed = 0;
   int refused = 0;
-  for (const auto& [scheme, layout] : {std::pair<Long, Long>{1, 4}, {3, 10}}) {
-    OpinionCase c(SnowyTruss(scheme, 4), SameSections(Single(20, 500, 500, layout)));
-    Numbers numbers = InputsOf(c);
-    const Numbers results = ResultsOf(c);
-    numbers.insert(numbers.end(), results.begin(), results.end());
-    for (std::size_t place = 0; place < numbers.size(); ++place) {
-      const double kept = numbers[place];
-      for (const double extreme : extremeNumbers) {
-        numbers[place].get() = extreme;
-        ASSERT_EQ(Complaint(c), "")
-            << "scheme " << scheme << ", number " << place << ": " << extreme;
-        ++(c.Form().HasRefused() ? refused : formed);
-      }
-      numbers[place].get() = kept;
+  OpinionCase c(SnowyTruss(1, 4), SameSections(Single(20, 500, 500, 4)));
+  Numbers numbers = InputsOf(c);
+  // The records of the groups are alike: one of them will do.
+  const Numbers record = FieldsOf(c.Check.UpPoyas);
+  numbers.insert(numbers.end(), record.begin(), record.end());
+  Add(numbers, c.Result.RaskosForce);
+  Add(numbers, c.Result.UpKnotLoad);
+  for (std::size_t place = 0; place < numbers.size(); ++place) {
+    const double kept = numbers[place];
+    for (const double extreme : extremeNumbers) {
+      numbers[place].get() = extreme;
+      ASSERT_EQ(Complaint(c), "") << "number " << place << ": " << extreme;
+      ++(c.Form().HasRefused() ? refused : formed);
     }
+    numbers[place].get() = kept;
   }
-  EXPECT_GT(formed, 1000);
-  EXPECT_GT(refused, 300);
+  EXPECT_GT(formed, 300);
+  EXPECT_GT(refused, 100);
 }
 
 // Whoever tries sections one by one gets an error for what is none, never a figure that passes.
