@@ -76,6 +76,8 @@ class Typesetter {
                     font_);
       case Kind::Symbol:
         return Symbol(ToQt(expression.Text));
+      case Kind::Negation:
+        return Negated(expression.Parts[0]);
       case Kind::Sum:
         return Operation(expression, QStringLiteral("+"), sumGap);
       case Kind::Difference:
@@ -113,6 +115,13 @@ class Typesetter {
     box.Ascent = std::max(0.0, -ink.top());
     box.Descent = std::max(0.0, ink.bottom());
     box.Texts.push_back({text, font, {}, ink});
+    return box;
+  }
+
+  /// A sign stands nearer to what it turns round than one between two terms.
+  FormulaBox Negated(const Expression& term) const {
+    FormulaBox box = Text(QStringLiteral("−"), font_);
+    Append(box, Set(term), productGap * unit_);
     return box;
   }
 

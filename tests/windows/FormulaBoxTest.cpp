@@ -114,6 +114,14 @@ TEST(FormulaBoxOperation, HasADotForTheProductAndAMinusForTheDifference) {
   }
 }
 
+TEST(FormulaBoxNegation, HasItsSignNearerThanADifference) {
+  const FormulaBox negation = Set("-5*A");
+  EXPECT_EQ(Texts(negation), "− 5 · A");
+  const FormulaBox difference = Set("A-5");
+  EXPECT_LT(Find(negation, "5").Place.x() - Find(negation, "−").Place.x(),
+            Find(difference, "5").Place.x() - Find(difference, "−").Place.x());
+}
+
 TEST(FormulaBoxRoot, CoversWhatIsUnderIt) {
   const FormulaBox box = Set("sqrt(J/A)");
   ASSERT_EQ(box.Strokes.size(), 1U);
