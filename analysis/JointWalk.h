@@ -6,7 +6,7 @@
 
 #include "analysis/modDatatypes.h"
 #include "platform/Arithmetic.h"
-#include "platform/Guard.h"
+#include "platform/Outcome.h"
 
 namespace trelonit {
 
@@ -83,10 +83,9 @@ void PutPanels(TreloResult& result, const PanelGeometry& panels);
 
 /// Runs a solver's body under its title. The result is taken whole or not at all.
 template <class Body>
-TreloResult Solve(MessageService& messages, std::string_view title, Body&& body) {
-  TreloResult result;
-  Guard(messages, title, [&] { result = std::forward<Body>(body)(); });
-  return result;
+Outcome<TreloResult> Solve(std::string_view title, Body&& body) {
+  return Attempt<TreloResult>(
+      title, [&](Outcome<TreloResult>& outcome) { outcome.Value = std::forward<Body>(body)(); });
 }
 
 }  // namespace trelonit

@@ -80,26 +80,27 @@ Real Deflection(const TreloData& data, const TreloResult& real, const CheckResul
 
 }  // namespace
 
-double CalcProgib(const TreloData& data, const TreloResult& res, const CheckResult& check,
-                  bool upChord, double E, MessageService& messages) {
+Outcome<double> CalcProgib(const TreloData& data, const TreloResult& res, const CheckResult& check,
+                           bool upChord, double E) {
+  Outcome<double> progib;
   TreloData unitData = data;
   const auto bounds = BoundsOfLoads(data.TreloType, data.PanelNum);
   if (!bounds || !PassOver([&] { static_cast<LoadArrays&>(unitData) = ZeroLoads(*bounds); })) {
-    return 0;
+    return progib;
   }
   BoundedArray<double>& pointLoads = upChord ? unitData.UpPForce : unitData.DwnPForce;
 
-  double greatest = 0;
+  double& greatest = progib.Value;
   for (Long joint = pointLoads.LowerBound(); joint <= pointLoads.UpperBound(); ++joint) {
     pointLoads[joint] = 1;
-    const TreloResult unit = CalcTrelo(unitData, messages);
+    const TreloResult unit = TakeValue(CalcTrelo(unitData), progib.Told);
     const WorkSums sums = SumWork(data, res, unit);
     double deflection = 0;
     PassOver([&] { deflection = Deflection(data, res, check, sums, E); });
     greatest = joint == pointLoads.LowerBound() ? deflection : std::max(greatest, deflection);
     pointLoads[joint] = 0;
   }
-  return greatest;
+  return progib;
 }
 
 }  // namespace trelonit

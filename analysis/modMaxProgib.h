@@ -2,7 +2,7 @@
 
 #include "analysis/CheckRecord.h"
 #include "analysis/modDatatypes.h"
-#include "platform/Message.h"
+#include "platform/Outcome.h"
 
 namespace trelonit {
 
@@ -15,7 +15,7 @@ namespace trelonit {
 /// @param E elastic modulus, MPa
 /// Shows nothing of its own: what fails is passed over, a joint that cannot be computed counts 0.
 /// The unit runs show their failures as any analysis does.
-double CalcProgib(const TreloData& data, const TreloResult& res, const CheckResult& check,
-                  bool upChord, double E, MessageService& messages);
+Outcome<double> CalcProgib(const TreloData& data, const TreloResult& res, const CheckResult& check,
+                           bool upChord, double E);
 
 }  // namespace trelonit

@@ -2,34 +2,32 @@
 
 #include <array>
 
-#include "platform/Guard.h"
+#include "analysis/Scheme.h"
 
 namespace trelonit {
 
 namespace {
 
-using Solver = TreloResult (*)(const TreloData&, MessageService&);
+using Solver = Outcome<TreloResult> (*)(const TreloData&);
 
-constexpr std::array<Solver, 10> solvers{CalcTrelo1, CalcTrelo2, CalcTrelo3, CalcTrelo4,
-                                         CalcTrelo5, CalcTrelo6, CalcTrelo7, CalcTrelo8,
-                                         CalcTrelo9, CalcTrelo10};
+constexpr std::array<Solver, schemeCount> solvers{CalcTrelo1, CalcTrelo2, CalcTrelo3, CalcTrelo4,
+                                                  CalcTrelo5, CalcTrelo6, CalcTrelo7, CalcTrelo8,
+                                                  CalcTrelo9, CalcTrelo10};
 
 constexpr const char* title = "Trelo's error";
 
 }  // namespace
 
-TreloResult CalcTrelo(const TreloData& data, MessageService& messages) {
-  TreloResult result;
-  Guard(messages, title, [&] {
-    if (data.TreloType < 1 || data.TreloType > static_cast<Long>(solvers.size())) {
-      messages.Show({.Title = title,
-                     .Text = "Неизвестный тип фермы, расчет не возможен ",
-                     .Style = MessageStyle::Critical});
+Outcome<TreloResult> CalcTrelo(const TreloData& data) {
+  return Attempt<TreloResult>(title, [&](Outcome<TreloResult>& outcome) {
+    if (FindScheme(data.TreloType) == nullptr) {
+      outcome.Told.push_back({.Title = title,
+                              .Text = "Неизвестный тип фермы, расчет не возможен ",
+                              .Style = MessageStyle::Critical});
       return;
     }
-    result = solvers[static_cast<std::size_t>(data.TreloType - 1)](data, messages);
+    outcome = solvers[static_cast<std::size_t>(data.TreloType - 1)](data);
   });
-  return result;
 }
 
 }  // namespace trelonit

@@ -92,8 +92,8 @@ TreloResult SolveScheme(const TreloData& data) {
 
 }  // namespace
 
-TreloResult CalcTrelo1(const TreloData& data, MessageService& messages) {
-  return Solve(messages, "CalcTrelo1", [&] { return SolveScheme(data); });
+Outcome<TreloResult> CalcTrelo1(const TreloData& data) {
+  return Solve("CalcTrelo1", [&] { return SolveScheme(data); });
 }
 
 }  // namespace trelonit

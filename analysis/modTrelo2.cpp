@@ -101,8 +101,8 @@ TreloResult SolveScheme(const TreloData& data) {
 
 }  // namespace
 
-TreloResult CalcTrelo2(const TreloData& data, MessageService& messages) {
-  return Solve(messages, "CalcTrelo2", [&] { return SolveScheme(data); });
+Outcome<TreloResult> CalcTrelo2(const TreloData& data) {
+  return Solve("CalcTrelo2", [&] { return SolveScheme(data); });
 }
 
 }  // namespace trelonit

@@ -82,8 +82,8 @@ TreloResult SolveScheme(const TreloData& data) {
 
 }  // namespace
 
-TreloResult CalcTrelo3(const TreloData& data, MessageService& messages) {
-  return Solve(messages, "CalcTrelo3", [&] { return SolveScheme(data); });
+Outcome<TreloResult> CalcTrelo3(const TreloData& data) {
+  return Solve("CalcTrelo3", [&] { return SolveScheme(data); });
 }
 
 }  // namespace trelonit

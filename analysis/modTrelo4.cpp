@@ -82,8 +82,8 @@ TreloResult SolveScheme(const TreloData& data) {
 
 }  // namespace
 
-TreloResult CalcTrelo4(const TreloData& data, MessageService& messages) {
-  return Solve(messages, "CalcTrelo4", [&] { return SolveScheme(data); });
+Outcome<TreloResult> CalcTrelo4(const TreloData& data) {
+  return Solve("CalcTrelo4", [&] { return SolveScheme(data); });
 }
 
 }  // namespace trelonit

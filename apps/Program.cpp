@@ -73,7 +73,7 @@ frmMain::Openers Program::MakeOpeners() {
     openers.ShowSearch = [this](const SelectionOffer& offer) { return OpenSearch(offer); };
   }
   if (windows_.ShowOtchet) {
-    openers.BeginOtchet = [this](const ReportSnapshot& snapshot) {
+    openers.BeginOtchet = [this](const Calculation& snapshot) {
       snapshot_ = snapshot;
       report_.clear();
       NewOtchet({}).BeginReport();

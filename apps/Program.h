@@ -55,7 +55,7 @@ class Program {
   /// What automatic selection proposed last; nothing before it did.
   const std::optional<SelectionProposal>& LastProposal() const { return lastProposal_; }
   /// The design of the last report, which its drawings show too; nothing before one was begun.
-  const std::optional<ReportSnapshot>& Snapshot() const { return snapshot_; }
+  const std::optional<Calculation>& Snapshot() const { return snapshot_; }
   /// The pieces of the last report, in order.
   const std::vector<ReportPiece>& Report() const { return report_; }
 
@@ -79,7 +79,7 @@ class Program {
   Windows windows_;
   std::optional<ResultLists> lastResults_;
   std::optional<SelectionProposal> lastProposal_;
-  std::optional<ReportSnapshot> snapshot_;
+  std::optional<Calculation> snapshot_;
   std::vector<ReportPiece> report_;
   NoCommonDialogs noDialogs_;
   std::unique_ptr<RichTextBox> richText_;

@@ -27,7 +27,7 @@ std::shared_ptr<Drawing> LargestTruss(BuiltInHost& host) {
   const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
   const SectionArray sections = bench::PairedAngles(catalogue);
   const TreloData data = bench::LoadedTruss(1, bench::largestPanelNum);
-  const TreloResult result = CalcTrelo(data, world.Messages);
+  const TreloResult result = CalcTrelo(data).Value;
   BuiltInHostAutomation automation(host);
   Label panel;
   ACADExport(automation, world.Messages, {}, {data, result, sections}, panel)

@@ -21,6 +21,7 @@
 #include "drawing/host/DxfWriter.h"
 #include "drawing/modACADExport.h"
 #include "opinion/Opinion.h"
+#include "workstation/DesignModel.h"
 #include "workstation/Selection.h"
 
 namespace {
@@ -47,9 +48,7 @@ struct ArraysOnly {
 };
 
 void Arrays(benchmark::State& state, Long scheme) {
-  bench::World world;
-  const TreloResult sizes =
-      CalcTrelo(bench::LoadedTruss(scheme, bench::largestPanelNum), world.Messages);
+  const TreloResult sizes = CalcTrelo(bench::LoadedTruss(scheme, bench::largestPanelNum)).Value;
   for (auto _ : state) {
     ArraysOnly arrays(sizes);
     benchmark::DoNotOptimize(arrays);
@@ -59,10 +58,9 @@ void Arrays(benchmark::State& state, Long scheme) {
 }
 
 void Solver(benchmark::State& state, Long scheme) {
-  bench::World world;
   const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
   for (auto _ : state) {
-    TreloResult result = CalcTrelo(data, world.Messages);
+    TreloResult result = CalcTrelo(data).Value;
     benchmark::DoNotOptimize(result);
   }
 }
@@ -72,10 +70,9 @@ void MemberCheck(benchmark::State& state) {
   const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
   const SectionArray sections = bench::PairedAngles(catalogue);
   const TreloData data = bench::LoadedTruss(1, bench::largestPanelNum);
-  const TreloResult result = CalcTrelo(data, world.Messages);
+  const TreloResult result = CalcTrelo(data).Value;
   for (auto _ : state) {
-    CheckResult check =
-        CheckueStress(data, result, bench::OrdinarySteel(), sections, world.Messages);
+    CheckResult check = CheckueStress(data, result, bench::OrdinarySteel(), sections).Value;
     benchmark::DoNotOptimize(check);
   }
 }
@@ -86,9 +83,9 @@ void SecondOpinion(benchmark::State& state, Long scheme) {
   const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
   const SectionArray sections = bench::PairedAngles(catalogue);
   const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
-  const TreloResult result = CalcTrelo(data, world.Messages);
+  const TreloResult result = CalcTrelo(data).Value;
   const CheckNumbers numbers = bench::OrdinarySteel();
-  const CheckResult check = CheckueStress(data, result, numbers, sections, world.Messages);
+  const CheckResult check = CheckueStress(data, result, numbers, sections).Value;
   const JudgedDesign design{
       .Data = data, .Result = result, .Check = check, .Sections = sections, .Numbers = numbers};
   for (auto _ : state) {
@@ -102,13 +99,12 @@ void SecondOpinion(benchmark::State& state, Long scheme) {
 
 /// The unit runs alone, as the deflection makes them: one joint of the upper chord after another.
 void UnitRuns(benchmark::State& state, Long scheme) {
-  bench::World world;
   TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
   static_cast<LoadArrays&>(data) = ZeroLoads(*BoundsOfLoads(scheme, bench::largestPanelNum));
   for (auto _ : state) {
     for (Long joint = 0; joint <= bench::largestPanelNum; ++joint) {
       data.UpPForce[joint] = 1;
-      TreloResult result = CalcTrelo(data, world.Messages);
+      TreloResult result = CalcTrelo(data).Value;
       benchmark::DoNotOptimize(result);
       data.UpPForce[joint] = 0;
     }
@@ -119,12 +115,12 @@ void Deflection(benchmark::State& state, Long scheme) {
   bench::World world;
   const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
   const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
-  const TreloResult result = CalcTrelo(data, world.Messages);
+  const TreloResult result = CalcTrelo(data).Value;
   const CheckNumbers numbers = bench::OrdinarySteel();
   const CheckResult check =
-      CheckueStress(data, result, numbers, bench::PairedAngles(catalogue), world.Messages);
+      CheckueStress(data, result, numbers, bench::PairedAngles(catalogue)).Value;
   for (auto _ : state) {
-    benchmark::DoNotOptimize(CalcProgib(data, result, check, true, numbers.E, world.Messages));
+    benchmark::DoNotOptimize(CalcProgib(data, result, check, true, numbers.E));
   }
 }
 
@@ -159,15 +155,14 @@ void Selection(benchmark::State& state) {
                .Layout = roundTube};
   }
   model.TreloData = bench::LoadedTruss(1, bench::largestPanelNum);
-  for (double& force : model.TreloData.UpPForce) {
+  model.Loads = model.TreloData;
+  for (double& force : model.Loads.UpPForce) {
     force = 1e5;
   }
-  const CheckNumbers numbers = bench::OrdinarySteel();
-  model.TreloResult = CalcTrelo(model.TreloData, world.Messages);
-  model.CheckData = CheckueStress(model.TreloData, model.TreloResult, numbers, model.ElementSection,
-                                  world.Messages);
+  model.Last = Calculate(model, bench::OrdinarySteel()).Value;
+  Messages told;
   for (auto _ : state) {
-    const SelectionProposal proposal = SelectSections(model, numbers, world.Messages);
+    const SelectionProposal proposal = SelectSections(model.Last, model.ProfileTypes, told);
     if (proposal.Impossible.size() != groupCount) {
       state.SkipWithError("a size carries the forces");
     }
@@ -180,7 +175,7 @@ void DrawingExport(benchmark::State& state, Long scheme) {
   const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
   const SectionArray sections = bench::PairedAngles(catalogue);
   const TreloData data = bench::LoadedTruss(scheme, bench::largestPanelNum);
-  const TreloResult result = CalcTrelo(data, world.Messages);
+  const TreloResult result = CalcTrelo(data).Value;
   for (auto _ : state) {
     BuiltInHost host;
     BuiltInHostAutomation automation(host);

@@ -53,9 +53,9 @@ double CalcAlpha(double N, double Ry, double Area, double Phi, double Yc) {
   return alpha > 1.0 ? Real(1) : alpha;
 }
 
-LimitFlex CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len, bool Dynamic,
-                        MessageService& messages) {
-  LimitFlex limit;
+Outcome<LimitFlex> CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len, bool Dynamic) {
+  Outcome<LimitFlex> outcome;
+  LimitFlex& limit = outcome.Value;
   // Intended: the choice hangs on the layout, not on the group, and 50 is compared with metres.
   if (Sec.Layout == layoutSingleAngle) {
     limit.Compress = 210 - 60 * Real(Alpha);
@@ -64,13 +64,13 @@ LimitFlex CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len, bool Dy
   } else if (Len > 50) {
     limit.Compress = 120;
   } else {
-    messages.Show({.Title = warningTitle,
-                   .Text = "Ошибочное значение длинны стержня (<=0)!",
-                   .Style = MessageStyle::Critical});
+    outcome.Told.push_back({.Title = warningTitle,
+                            .Text = "Ошибочное значение длинны стержня (<=0)!",
+                            .Style = MessageStyle::Critical});
   }
   limit.Tension = Dynamic ? 250 : 400;
   limit.Tension2 = Dynamic ? 350 : 400;
-  return limit;
+  return outcome;
 }
 
 double CalcMass(const TreloResult& Res, double Density, const SectionArray& Sections) {

@@ -3,7 +3,7 @@
 #include "analysis/CheckRecord.h"
 #include "analysis/modDatatypes.h"
 #include "catalogue/SectionRecord.h"
-#include "platform/Message.h"
+#include "platform/Outcome.h"
 
 namespace trelonit {
 
@@ -35,10 +35,9 @@ double CalcPhi(double FlexBar, double Ry, double E);
 double CalcAlpha(double N, double Ry, double Area, double Phi, double Yc);
 
 /// Limit slenderness of one plane of a group (tables 19 and 20 of the norm). A length that is not
-/// positive shows a message and gives a compression limit of 0, except for a single angle, whose
+/// positive tells a message and gives a compression limit of 0, except for a single angle, whose
 /// length is not looked at.
-LimitFlex CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len, bool Dynamic,
-                        MessageService& messages);
+Outcome<LimitFlex> CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len, bool Dynamic);
 
 /// Mass of the truss, tonnes: composed areas by the length totals of the groups and the density in
 /// t/m3. A result that is not positive is returned as 0.

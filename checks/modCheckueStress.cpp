@@ -8,7 +8,6 @@
 #include "checks/EffectiveLengths.h"
 #include "checks/ElementGroups.h"
 #include "platform/Arithmetic.h"
-#include "platform/Guard.h"
 
 namespace trelonit {
 
@@ -17,8 +16,8 @@ namespace {
 class Check {
  public:
   Check(const TreloData& data, const TreloResult& res, const CheckNumbers& numbers,
-        const SectionArray& sections, MessageService& messages)
-      : data_(data), res_(res), numbers_(numbers), sections_(sections), messages_(messages) {}
+        const SectionArray& sections, Messages& told)
+      : data_(data), res_(res), numbers_(numbers), sections_(sections), told_(told) {}
 
   CheckResult Run() {
     Compose();
@@ -52,9 +51,9 @@ class Check {
   void PutMass() {
     check_.Mass = CalcMass(res_, numbers_.Density, sections_);
     if (!(check_.Mass > 0)) {
-      messages_.Show({.Title = warningTitle,
-                      .Text = "Не правильно расчитана масса фермы !",
-                      .Style = MessageStyle::Critical});
+      told_.push_back({.Title = warningTitle,
+                       .Text = "Не правильно расчитана масса фермы !",
+                       .Style = MessageStyle::Critical});
     }
   }
 
@@ -122,8 +121,11 @@ class Check {
     for (const ElementGroupRow& group : elementGroups) {
       GroupCheck& block = check_.*group.Block;
       const SectionRec& section = sections_[group.Place];
-      block.LimitX = CalcLimitFlex(section, block.AlphaX, block.LenX, numbers_.Dynamic, messages_);
-      block.LimitY = CalcLimitFlex(section, block.AlphaY, block.LenY, numbers_.Dynamic, messages_);
+      const auto limit = [&](double alpha, double length) {
+        return TakeValue(CalcLimitFlex(section, alpha, length, numbers_.Dynamic), told_);
+      };
+      block.LimitX = limit(block.AlphaX, block.LenX);
+      block.LimitY = limit(block.AlphaY, block.LenY);
     }
   }
 
@@ -153,19 +155,17 @@ class Check {
   const TreloResult& res_;
   const CheckNumbers& numbers_;
   const SectionArray& sections_;
-  MessageService& messages_;
+  Messages& told_;
   CheckResult check_;
 };
 
 }  // namespace
 
-CheckResult CheckueStress(const TreloData& data, const TreloResult& res,
-                          const CheckNumbers& numbers, const SectionArray& sections,
-                          MessageService& messages) {
-  CheckResult result;
-  Guard(messages, warningTitle,
-        [&] { result = Check(data, res, numbers, sections, messages).Run(); });
-  return result;
+Outcome<CheckResult> CheckueStress(const TreloData& data, const TreloResult& res,
+                                   const CheckNumbers& numbers, const SectionArray& sections) {
+  return Attempt<CheckResult>(warningTitle, [&](Outcome<CheckResult>& outcome) {
+    outcome.Value = Check(data, res, numbers, sections, outcome.Told).Run();
+  });
 }
 
 }  // namespace trelonit

@@ -4,16 +4,15 @@
 #include "analysis/modDatatypes.h"
 #include "catalogue/SectionRecord.h"
 #include "checks/CheckNumbers.h"
-#include "platform/Message.h"
+#include "platform/Outcome.h"
 
 namespace trelonit {
 
 /// Judges a solved truss: sections, governing forces, effective lengths, slenderness and
-/// utilisation of the five element groups, and the mass. Pure but for its message boxes. A run-time
-/// error is shown and the record returned is empty; the messages on a mass or a bar length that is
+/// utilisation of the five element groups, and the mass. A pure function. A run-time error
+/// is told and the record returned is empty; the messages on a mass or a bar length that is
 /// not positive do not stop the run.
-CheckResult CheckueStress(const TreloData& data, const TreloResult& res,
-                          const CheckNumbers& numbers, const SectionArray& sections,
-                          MessageService& messages);
+Outcome<CheckResult> CheckueStress(const TreloData& data, const TreloResult& res,
+                                   const CheckNumbers& numbers, const SectionArray& sections);
 
 }  // namespace trelonit

@@ -1,18 +1,14 @@
 #include "platform/Message.h"
 
+#include <algorithm>
+
 namespace trelonit {
-
-namespace {
-
-constexpr std::string_view errorPrefix = " Err # ";
-
-}  // namespace
 
 Message ErrorMessage(std::string_view title, int number, std::string_view description) {
   return {.Title = std::string(title),
-          .Text = std::string(errorPrefix) + std::to_string(number) +
-                  " Discription : " + std::string(description),
-          .Style = MessageStyle::Critical};
+          .Text = " Err # " + std::to_string(number) + " Discription : " + std::string(description),
+          .Style = MessageStyle::Critical,
+          .Failure = true};
 }
 
 bool IsQuestion(const Message& message) {
@@ -20,8 +16,15 @@ bool IsQuestion(const Message& message) {
          message.Style == MessageStyle::QuestionYesNoCancel;
 }
 
-bool TellsRuntimeError(const Message& message) {
-  return message.Text.starts_with(errorPrefix);
+bool TellFailure(const Messages& messages) {
+  return std::any_of(messages.begin(), messages.end(),
+                     [](const Message& message) { return message.Failure; });
+}
+
+void ShowAll(MessageService& messages, const Messages& told) {
+  for (const Message& message : told) {
+    messages.Show(message);
+  }
 }
 
 }  // namespace trelonit

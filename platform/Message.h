@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace trelonit {
 
@@ -23,9 +24,17 @@ struct Message {
   std::string Title;
   std::string Text;
   MessageStyle Style = MessageStyle::Plain;
+  /// It tells that a run-time error has ended a routine.
+  bool Failure = false;
 
-  friend bool operator==(const Message&, const Message&) = default;
+  /// Equal to the user's eye.
+  friend bool operator==(const Message& a, const Message& b) {
+    return a.Title == b.Title && a.Text == b.Text && a.Style == b.Style;
+  }
 };
+
+/// What is to be told to the user, in its order.
+using Messages = std::vector<Message>;
 
 /// Shows message boxes one after the other and waits for the answer.
 class MessageService {
@@ -40,7 +49,10 @@ Message ErrorMessage(std::string_view title, int number, std::string_view descri
 /// Whether the box asks something, so that its answer counts.
 bool IsQuestion(const Message& message);
 
-/// Whether the box tells a run-time error, as ErrorMessage makes it.
-bool TellsRuntimeError(const Message& message);
+/// Whether one of the boxes tells that a run-time error has ended a routine.
+bool TellFailure(const Messages& messages);
+
+/// Shows one box after the other.
+void ShowAll(MessageService& messages, const Messages& told);
 
 }  // namespace trelonit

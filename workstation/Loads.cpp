@@ -54,20 +54,6 @@ void AddToDistributedLoads(LoadArrays& loads, double perMetre) {
   }
 }
 
-void WithdrawOwnWeight(Design& model, const NumberLocale& locale, MessageService& messages) {
-  if (model.OwnWeightPerMetre > 0) {
-    AddToDistributedLoads(model.Loads, -model.OwnWeightPerMetre);
-  } else {
-    messages.Show({.Title = "chkOwnWeight_Click",
-                   .Text = "Некорректная погонная масса фермы ! \nqMass = " +
-                           NumberToText(model.OwnWeightPerMetre, locale) +
-                           "\n Собственный вес фермы не вычтен из общей нагрузки",
-                   .Style = MessageStyle::Critical});
-    model.OwnWeightPerMetre = 0;
-  }
-  model.OwnWeightAdded = false;
-}
-
 Long LastKnotNum(bool upper, Long treloType, Long panelNum) {
   if (upper) {
     return panelNum;

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "analysis/modDatatypes.h"
-#include "platform/Message.h"
-#include "platform/NumberText.h"
-#include "workstation/DesignModel.h"
 
 namespace trelonit {
 
@@ -18,11 +15,6 @@ void ClearLoads(LoadArrays& loads, Long treloType, Long panelNum);
 
 /// Adds this much, tonnes per metre, to every panel of both chords; negative to subtract.
 void AddToDistributedLoads(LoadArrays& loads, double perMetre);
-
-/// Takes own weight out of the master loads: the amount that is inside is subtracted. An amount
-/// that is not positive is told to the user and nothing is subtracted. Either way own weight counts
-/// as not added from then on.
-void WithdrawOwnWeight(Design& model, const NumberLocale& locale, MessageService& messages);
 
 /// Highest joint and panel number of a chord, from 0; -1 for a scheme that has no table.
 Long LastKnotNum(bool upper, Long treloType, Long panelNum);

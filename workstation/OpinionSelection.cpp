@@ -5,10 +5,9 @@
 
 #include "catalogue/SectionComposition.h"
 #include "checks/ElementGroups.h"
+#include "checks/modCheckueStress.h"
 #include "opinion/Opinion.h"
 #include "platform/Guard.h"
-#include "workstation/CalculationChain.h"
-#include "workstation/SilentMessages.h"
 #include "workstation/modHelper.h"
 
 namespace trelonit {
@@ -21,8 +20,13 @@ constexpr int lastFreeRound = 10;
 
 class SearchByBoth {
  public:
-  SearchByBoth(const DesignModel& model, const CheckNumbers& numbers, bool ownWeight)
-      : model_(model), numbers_(numbers), ownWeight_(ownWeight), design_(model) {}
+  SearchByBoth(const Design& design, const ProfileTypeArray& catalogue, const CheckNumbers& numbers,
+               bool ownWeight)
+      : catalogue_(catalogue),
+        numbers_(numbers),
+        ownWeight_(ownWeight),
+        given_(design.ElementSection),
+        design_(design) {}
 
   SelectionProposal Run() {
     SelectionProposal proposal;
@@ -33,22 +37,20 @@ class SearchByBoth {
     } while (ChooseSizes(proposal) && ownWeight_);
     Calculate();
     proposal.Sections = design_.ElementSection;
-    proposal.Check = design_.CheckData;
-    proposal.Settled = std::move(design_);
+    proposal.Check = calculation_.CheckData;
+    proposal.Settled = {std::move(design_), std::move(calculation_)};
     return proposal;
   }
 
  private:
   void Calculate() {
-    AnalyseAndCheck(design_, numbers_, silent_);
-    if (ownWeight_) {
-      ApplyOwnWeight(design_, numbers_, silent_);
-    }
+    calculation_ = ownWeight_ ? CalculateWithOwnWeight(design_, numbers_)
+                              : trelonit::Calculate(design_, numbers_).Value;
   }
 
   /// Whether a group has changed.
   bool ChooseSizes(SelectionProposal& proposal) {
-    const JudgedTruss truss = SolveTruss(design_.TreloData);
+    const JudgedTruss truss = SolveTruss(calculation_.TreloData);
     std::vector<BarJudgement> bars(truss.Model.Bars.size());
     const bool onlyUp = proposal.Rounds >= lastFreeRound;
     bool changed = false;
@@ -69,8 +71,8 @@ class SearchByBoth {
   /// Leaves the first size from this one on that passes, or the last of the standard.
   bool ChooseSize(const ElementGroupRow& row, SectionRec& section, Long first,
                   const JudgedTruss& truss, std::vector<BarJudgement>& bars) {
-    const BoundedArray<ProfileRec>& sizes = model_.ProfileTypes[section.TypeIdx].Rec;
-    const double gap = model_.ElementSection[row.Place].Gdist;
+    const BoundedArray<ProfileRec>& sizes = catalogue_[section.TypeIdx].Rec;
+    const double gap = given_[row.Place].Gdist;
     for (Long size = first; size <= sizes.UpperBound(); ++size) {
       section.SizeIdx = size;
       section.Profile = sizes[size];
@@ -85,8 +87,9 @@ class SearchByBoth {
   }
 
   bool PassesTold(const ElementGroupRow& row) {
-    const CheckResult check = CheckueStress(design_.TreloData, design_.TreloResult, numbers_,
-                                            design_.ElementSection, silent_);
+    const CheckResult check = CheckueStress(calculation_.TreloData, calculation_.TreloResult,
+                                            numbers_, design_.ElementSection)
+                                  .Value;
     const GroupCheck& group = check.*row.Block;
     // A check that broke off has an empty record.
     return group.Area > 0 && LargestUse(group) <= 1;
@@ -102,18 +105,19 @@ class SearchByBoth {
     return passes;
   }
 
-  const DesignModel& model_;
+  const ProfileTypeArray& catalogue_;
   const CheckNumbers& numbers_;
   bool ownWeight_;
+  SectionArray given_;
   Design design_;
-  SilentMessages silent_;
+  Calculation calculation_;
 };
 
 }  // namespace
 
-SelectionProposal SelectByOpinion(const DesignModel& model, const CheckNumbers& numbers,
-                                  bool ownWeight) {
-  return SearchByBoth(model, numbers, ownWeight).Run();
+SelectionProposal SelectByOpinion(const Design& design, const ProfileTypeArray& catalogue,
+                                  const CheckNumbers& numbers, bool ownWeight) {
+  return SearchByBoth(design, catalogue, numbers, ownWeight).Run();
 }
 
 }  // namespace trelonit

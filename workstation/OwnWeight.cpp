@@ -8,6 +8,8 @@
 #include "checks/ElementGroups.h"
 #include "platform/Arithmetic.h"
 #include "platform/Guard.h"
+#include "platform/NumberText.h"
+#include "workstation/Loads.h"
 
 namespace trelonit {
 
@@ -30,8 +32,8 @@ std::optional<double> CommonLoad(const LoadArrays& loads) {
   return found ? std::optional(common) : std::nullopt;
 }
 
-}  // namespace
-
+/// The mass of the truss over the length of both its chords, tonnes per metre, from the geometry of
+/// the scheme. Raises 5 for a truss that is none.
 double WeightPerMetre(const TreloData& data, const SectionArray& sections, double density) {
   Real mass;
   Real chords;
@@ -44,6 +46,45 @@ double WeightPerMetre(const TreloData& data, const SectionArray& sections, doubl
     }
   }
   return mass / chords;
+}
+
+}  // namespace
+
+double OwnWeightPerMetreOf(const Calculation& calculation) {
+  constexpr int decimals = 4;
+  const TreloResult& result = calculation.TreloResult;
+  return RoundToDecimals(
+      Real(calculation.CheckData.Mass) / (Real(result.SumLenDwnPoyas) + result.SumLenUpPoyas),
+      decimals);
+}
+
+bool PutOwnWeight(Design& design, double perMetre) {
+  if (design.OwnWeightAdded) {
+    if (design.OwnWeightPerMetre == perMetre) {
+      return false;
+    }
+    AddToDistributedLoads(design.Loads, -design.OwnWeightPerMetre);
+  }
+  AddToDistributedLoads(design.Loads, perMetre);
+  design.OwnWeightAdded = true;
+  design.OwnWeightPerMetre = perMetre;
+  return true;
+}
+
+bool WithdrawOwnWeight(Design& design) {
+  const bool inside = design.OwnWeightPerMetre > 0;
+  if (inside) {
+    AddToDistributedLoads(design.Loads, -design.OwnWeightPerMetre);
+  } else {
+    design.OwnWeightPerMetre = 0;
+  }
+  design.OwnWeightAdded = false;
+  return inside;
+}
+
+void ForgetOwnWeight(Design& design) {
+  design.OwnWeightAdded = false;
+  design.OwnWeightPerMetre = 0;
 }
 
 std::optional<double> OwnWeightInside(const TreloData& data, const SectionArray& sections,

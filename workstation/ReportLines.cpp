@@ -58,9 +58,9 @@ bool HasGap(Long layout) {
 
 class Report {
  public:
-  Report(const DesignModel& model, const ReportInputs& inputs, const NumberLocale& locale,
+  Report(const Calculation& calculation, const ReportInputs& inputs, const NumberLocale& locale,
          const ReportSink& sink)
-      : model_(model), inputs_(inputs), out_(locale, sink) {}
+      : calculation_(calculation), inputs_(inputs), out_(locale, sink) {}
 
   void Write() {
     WriteInput();
@@ -73,10 +73,10 @@ class Report {
   }
 
  private:
-  bool HasVerticals() const { return trelonit::HasVerticals(model_.TreloData.TreloType); }
+  bool HasVerticals() const { return trelonit::HasVerticals(calculation_.TreloData.TreloType); }
 
   void WriteInput() {
-    const TreloData& data = model_.TreloData;
+    const TreloData& data = calculation_.TreloData;
     out_.Heading("Расчет фермы");
     out_.Heading("Входные данные :");
     out_.Line("Тип расчетной схемы № " + std::to_string(data.TreloType));
@@ -98,12 +98,12 @@ class Report {
   void WriteMaterial() {
     out_.Heading("Материал фермы : ");
     out_.Line(inputs_.SteelName);
-    out_.Value("Расчетное сопротивление стали Ry = ", inputs_.Numbers.Ry);
-    out_.Value("Коэффициент надежности по ответственности Gn = ", inputs_.Numbers.Gn);
-    out_.Value("Коэффициент условий работы Yc = ", inputs_.Numbers.Yc);
-    out_.Value("Плотность материала p = ", inputs_.Numbers.Density);
+    out_.Value("Расчетное сопротивление стали Ry = ", calculation_.Numbers.Ry);
+    out_.Value("Коэффициент надежности по ответственности Gn = ", calculation_.Numbers.Gn);
+    out_.Value("Коэффициент условий работы Yc = ", calculation_.Numbers.Yc);
+    out_.Value("Плотность материала p = ", calculation_.Numbers.Density);
     out_.Value("Предельная гибкость сжатого элемента, заданая пользователем Flim = ",
-               inputs_.Numbers.LimitUser);
+               calculation_.Numbers.LimitUser);
     if (inputs_.ProgibOn) {
       out_.Line("Предельно допустимый прогиб = L * " + inputs_.LenLim);
       out_.Line(inputs_.ProgibUpper ? "Расчет прогиба по верхнему поясу "
@@ -113,7 +113,7 @@ class Report {
 
   void WriteSections() {
     out_.Heading("Cечение стержней фермы : ");
-    const CheckResult& check = model_.CheckData;
+    const CheckResult& check = calculation_.CheckData;
     WriteSection("Верхний пояс : ", sectionUpPoyas, check.UpPoyas);
     WriteSection("Нижний пояс : ", sectionDwnPoyas, check.DwnPoyas);
     WriteSection("Раскосы : ", sectionRaskos, check.Raskos);
@@ -124,7 +124,7 @@ class Report {
   }
 
   void WriteSection(const std::string& title, SectionPlace place, const GroupCheck& check) {
-    const SectionRec& section = model_.ElementSection[place];
+    const SectionRec& section = calculation_.ElementSection[place];
     out_.Line(title);
     out_.Line("Тип металлопроката " + section.Profile.Type.Padded());
     out_.Line("Типоразмер металлопроката " + section.Profile.Name.Padded());
@@ -141,7 +141,7 @@ class Report {
   }
 
   void WriteLoads() {
-    const LoadArrays& loads = model_.Loads;
+    const LoadArrays& loads = calculation_.TreloData;
     out_.Heading("Загружения на ферму : ");
     WriteLoadRows("Загружения на узлы верхнего пояса с лева на право : ", " узел № ",
                   loads.UpPForce);
@@ -151,8 +151,8 @@ class Report {
                   loads.DwnPForce);
     WriteLoadRows("Загружения на панели нижнего пояса с лева на право : ", " панель № ",
                   loads.DwnDistForce);
-    out_.Line(inputs_.Numbers.Dynamic ? "Учет динамических нагрузок включен "
-                                      : "Учет динамических нагрузок отключен ");
+    out_.Line(calculation_.Numbers.Dynamic ? "Учет динамических нагрузок включен "
+                                           : "Учет динамических нагрузок отключен ");
   }
 
   void WriteLoadRows(const std::string& heading, const std::string& place,
@@ -169,7 +169,7 @@ class Report {
   }
 
   void WriteForces() {
-    const TreloResult& result = model_.TreloResult;
+    const TreloResult& result = calculation_.TreloResult;
     out_.Heading("Результаты расчета фермы : ");
     out_.Heading("Усилия в стержнях : ");
     out_.Line("Усилия записаны для каждой группы стержней слева на право ");
@@ -191,7 +191,7 @@ class Report {
   }
 
   void WriteUtilisation() {
-    const CheckResult& check = model_.CheckData;
+    const CheckResult& check = calculation_.CheckData;
     out_.Heading("Коэффициенты использования : ");
     WriteCoefficients("*** Верхний пояс : ", check.UpPoyas);
     WriteCoefficients("*** Нижний пояс : ", check.DwnPoyas);
@@ -224,8 +224,8 @@ class Report {
   }
 
   void WriteReactions() {
-    const TreloResult& result = model_.TreloResult;
-    const Real mass = model_.CheckData.Mass;
+    const TreloResult& result = calculation_.TreloResult;
+    const Real mass = calculation_.CheckData.Mass;
     out_.Heading("Реакции опор, масса фермы : ");
     out_.Value("Теоретическая масса профильного проката фермы : ", mass);
     out_.Value("Реакция левой опоры фермы : ", result.ReactLeft);
@@ -237,7 +237,7 @@ class Report {
                mass / 2 + Real(result.ReactRight));
   }
 
-  const DesignModel& model_;
+  const Calculation& calculation_;
   const ReportInputs& inputs_;
   ReportWriter out_;
 };
@@ -265,9 +265,9 @@ void WriteSlenderness(ReportWriter& out, const SlendernessWords& group) {
 
 }  // namespace
 
-void WriteReport(const DesignModel& model, const ReportInputs& inputs, const NumberLocale& locale,
-                 const ReportSink& sink) {
-  Report(model, inputs, locale, sink).Write();
+void WriteReport(const Calculation& calculation, const ReportInputs& inputs,
+                 const NumberLocale& locale, const ReportSink& sink) {
+  Report(calculation, inputs, locale, sink).Write();
 }
 
 void WriteReportProgib(const ProgibResult& progib, const NumberLocale& locale,
@@ -282,12 +282,12 @@ void WriteReportProgib(const ProgibResult& progib, const NumberLocale& locale,
   out.Five("Допустимый прогиб фермы : ", progib.Limit, " м ");
 }
 
-void WriteReportAdditional(const DesignModel& model, const NumberLocale& locale,
+void WriteReportAdditional(const Calculation& calculation, const NumberLocale& locale,
                            const ReportSink& sink) {
   ReportWriter out(locale, sink);
-  const TreloResult& result = model.TreloResult;
-  const CheckResult& check = model.CheckData;
-  const bool verticals = HasVerticals(model.TreloData.TreloType);
+  const TreloResult& result = calculation.TreloResult;
+  const CheckResult& check = calculation.CheckData;
+  const bool verticals = HasVerticals(calculation.TreloData.TreloType);
   out.Line("  ");
   out.SpacedHeading("Дополнительная информация : ");
   out.Line("  ");

@@ -13,8 +13,8 @@ namespace {
 constexpr int forceDecimals = 4;
 constexpr int coefficientDecimals = 5;
 
-bool ShowsVerticals(Long treloType) {
-  const Scheme* scheme = FindScheme(treloType);
+bool ShowsVerticals(const Calculation& calculation) {
+  const Scheme* scheme = FindScheme(calculation.TreloData.TreloType);
   return scheme != nullptr && scheme->ShowsVerticals();
 }
 
@@ -87,14 +87,15 @@ void AddGroup(std::vector<UtilisationRow>& rows, const GroupTexts& group,
       std::max(check.KUserX, check.KUserY), {"UserX", "UserY"});
 }
 
-std::vector<UtilisationRow> UtilisationRows(Long treloType, const CheckResult& check) {
+std::vector<UtilisationRow> UtilisationRows(const Calculation& calculation) {
+  const CheckResult& check = calculation.CheckData;
   std::vector<UtilisationRow> rows;
   AddGroup(rows, {ElementGroup::UpPoyas, "*** Верхний пояс", "верхнего пояса"}, check);
   AddGroup(rows, {ElementGroup::DwnPoyas, "*** Нижний пояс", "нижнего пояса"}, check);
   AddGroup(rows, {ElementGroup::Raskos, "*** Раскосы", "раскосов"}, check);
   // A Latin p in this header and a Latin C in the next are the established texts.
   AddGroup(rows, {ElementGroup::OpornRaskos, "*** Опорные pаскосы", "опорных раскосов"}, check);
-  if (ShowsVerticals(treloType)) {
+  if (ShowsVerticals(calculation)) {
     AddGroup(rows, {ElementGroup::Stoyka, "*** Cтойки", "стоек"}, check);
   }
   return rows;
@@ -102,8 +103,10 @@ std::vector<UtilisationRow> UtilisationRows(Long treloType, const CheckResult& c
 
 }  // namespace
 
-std::vector<std::string> BuildForceList(Long treloType, const TreloResult& result, double mass,
+std::vector<std::string> BuildForceList(const Calculation& calculation,
                                         const NumberLocale& locale) {
+  const TreloResult& result = calculation.TreloResult;
+  const double mass = calculation.CheckData.Mass;
   ForceList list(locale);
   list.Line(" Усилия в стержнях фермы даны с лева на право");
   list.Line(" ");
@@ -120,7 +123,7 @@ std::vector<std::string> BuildForceList(Long treloType, const TreloResult& resul
   list.Line(" Опорные раскосы :");
   list.Bar(1, diagonals[diagonals.LowerBound()]);
   list.Bar(2, diagonals[diagonals.UpperBound()]);
-  if (ShowsVerticals(treloType)) {
+  if (ShowsVerticals(calculation)) {
     list.Line(" ");
     list.Line(" Стойки :");
     list.AllBars(result.StoykaForce);
@@ -143,10 +146,10 @@ std::vector<std::string> BuildForceList(Long treloType, const TreloResult& resul
   return list.Take();
 }
 
-std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& check,
+std::vector<Grid::Row> BuildUtilisationGrid(const Calculation& calculation,
                                             const NumberLocale& locale) {
   std::vector<Grid::Row> grid;
-  for (UtilisationRow& row : UtilisationRows(treloType, check)) {
+  for (UtilisationRow& row : UtilisationRows(calculation)) {
     grid.push_back({std::move(row.Text),
                     row.Coefficient ? FormatShown(*row.Coefficient, coefficientDecimals, locale)
                                     : std::string("***")});
@@ -154,10 +157,10 @@ std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& c
   return grid;
 }
 
-std::vector<ResultRow> BuildResultRows(Long treloType, const CheckResult& check,
-                                       const Opinion& opinion, const NumberLocale& locale) {
+std::vector<ResultRow> BuildResultRows(const Calculation& calculation, const Opinion& opinion,
+                                       const NumberLocale& locale) {
   std::vector<ResultRow> results;
-  for (UtilisationRow& row : UtilisationRows(treloType, check)) {
+  for (UtilisationRow& row : UtilisationRows(calculation)) {
     ResultRow result{.Group = row.Group, .Checks = std::move(row.Checks)};
     const GroupJudgement* group = opinion.FindGroup(row.Group);
     std::optional<double> greatest;
@@ -179,9 +182,9 @@ std::vector<ResultRow> BuildResultRows(Long treloType, const CheckResult& check,
   return results;
 }
 
-std::vector<bool> RowsOverLimit(Long treloType, const CheckResult& check) {
+std::vector<bool> RowsOverLimit(const Calculation& calculation) {
   std::vector<bool> over;
-  for (const UtilisationRow& row : UtilisationRows(treloType, check)) {
+  for (const UtilisationRow& row : UtilisationRows(calculation)) {
     over.push_back(row.Coefficient > 1);
   }
   return over;

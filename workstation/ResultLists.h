@@ -4,11 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "analysis/CheckRecord.h"
-#include "analysis/modDatatypes.h"
 #include "platform/Controls.h"
 #include "platform/NumberText.h"
-#include "workstation/ProgibResult.h"
+#include "workstation/Calculation.h"
 #include "workstation/ResultPicture.h"
 #include "workstation/SecondOpinion.h"
 
@@ -26,12 +24,11 @@ struct ResultRow {
   std::optional<Long> Bar;
 };
 
-/// What the results window shows.
+/// What the results window shows, made from one calculation.
 struct ResultLists {
   std::vector<std::string> lstForces;
   /// Rows of two texts, without the head row.
   std::vector<Grid::Row> MSFlexGKoefUse;
-  std::optional<ProgibResult> Progib;
   /// The same as a drawing.
   ResultPicture Picture;
   /// What the second opinion says of it, and its place beside the rows of the grid.
@@ -39,22 +36,22 @@ struct ResultLists {
   std::vector<ResultRow> Rows;
   /// How the numbers of the explanations are written.
   NumberLocale Locale;
+  Calculation Of;
 };
 
 /// Bar forces by group, reactions and mass, line by line. Raises 9 for an empty result.
-std::vector<std::string> BuildForceList(Long treloType, const TreloResult& result, double mass,
-                                        const NumberLocale& locale);
+std::vector<std::string> BuildForceList(const Calculation& calculation, const NumberLocale& locale);
 
 /// The utilisation coefficients by group. Strength and stability that are not above 0 have no row.
-std::vector<Grid::Row> BuildUtilisationGrid(Long treloType, const CheckResult& check,
+std::vector<Grid::Row> BuildUtilisationGrid(const Calculation& calculation,
                                             const NumberLocale& locale);
 
 /// By row of that grid: its checks and the opinion's figure.
-std::vector<ResultRow> BuildResultRows(Long treloType, const CheckResult& check,
-                                       const Opinion& opinion, const NumberLocale& locale);
+std::vector<ResultRow> BuildResultRows(const Calculation& calculation, const Opinion& opinion,
+                                       const NumberLocale& locale);
 
 /// By row of that grid: whether its coefficient is above 1.
-std::vector<bool> RowsOverLimit(Long treloType, const CheckResult& check);
+std::vector<bool> RowsOverLimit(const Calculation& calculation);
 
 /// The lines on the deflection that follow the forces.
 std::vector<std::string> ProgibLines(const ProgibResult& progib, const NumberLocale& locale);

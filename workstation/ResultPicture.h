@@ -3,8 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/CheckRecord.h"
-#include "analysis/modDatatypes.h"
+#include "workstation/Calculation.h"
 #include "workstation/ElementGroups.h"
 
 namespace trelonit {
@@ -32,12 +31,11 @@ struct ResultPicture {
   std::vector<bool> OverLimit;
 };
 
-/// The bars of schemes 1 to 4; nothing for a reserved scheme or where the forces are not those of
-/// this truss.
-std::vector<PictureBar> BuildBars(const TreloData& data, const TreloResult& result);
+/// The bars of a calculated truss; nothing for a reserved scheme or a failed calculation.
+std::vector<PictureBar> BuildBars(const Calculation& calculation);
 
 /// The groups in the order of the results; no verticals where the scheme has none.
-std::vector<GroupUse> BuildUse(Long treloType, const CheckResult& check);
+std::vector<GroupUse> BuildUse(const Calculation& calculation);
 
 /// The name of a group for the user.
 std::string GroupName(GroupOption group);

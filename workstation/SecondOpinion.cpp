@@ -2,10 +2,7 @@
 
 #include <algorithm>
 
-#include "analysis/Scheme.h"
 #include "checks/ElementGroups.h"
-#include "workstation/CalculationChain.h"
-#include "workstation/SilentMessages.h"
 #include "workstation/modHelper.h"
 
 namespace trelonit {
@@ -26,14 +23,18 @@ std::optional<Explanation> SecondOpinion::FindExplanation(ExplanationSource sour
   return found == Explanations.end() ? std::nullopt : std::optional(*found);
 }
 
-SecondOpinion FormSecondOpinion(const Design& design, const CheckNumbers& numbers,
-                                const std::optional<ProgibResult>& progib,
-                                const Circumstances& circumstances, const NumberLocale& locale) {
-  const JudgedDesign judged{.Data = design.TreloData,
-                            .Result = design.TreloResult,
-                            .Check = design.CheckData,
-                            .Sections = design.ElementSection,
-                            .Numbers = numbers};
+JudgedDesign Judged(const Calculation& calculation) {
+  return {.Data = calculation.TreloData,
+          .Result = calculation.TreloResult,
+          .Check = calculation.CheckData,
+          .Sections = calculation.ElementSection,
+          .Numbers = calculation.Numbers};
+}
+
+SecondOpinion FormSecondOpinion(const Calculation& calculation, const Circumstances& circumstances,
+                                const NumberLocale& locale) {
+  const JudgedDesign judged = Judged(calculation);
+  const std::optional<ProgibResult>& progib = calculation.Progib;
   const auto deflection = progib ? std::optional(ToldDeflection{progib->Value, progib->Limit})
                                  : std::optional<ToldDeflection>();
   SecondOpinion opinion{.Figures = FormOpinion(judged)};
@@ -44,14 +45,11 @@ SecondOpinion FormSecondOpinion(const Design& design, const CheckNumbers& number
 
 std::vector<Circumstances::FailingGroup> GroupsThatFail(Design design, const CheckNumbers& numbers,
                                                         bool ownWeight) {
-  SilentMessages silent;
-  AnalyseAndCheck(design, numbers, silent);
-  if (ownWeight) {
-    ApplyOwnWeight(design, numbers, silent);
-  }
+  const Calculation calculation =
+      ownWeight ? CalculateWithOwnWeight(design, numbers) : Calculate(design, numbers).Value;
   std::vector<Circumstances::FailingGroup> failing;
   for (const ElementGroupRow& row : elementGroups) {
-    const double use = LargestUse(design.CheckData.*row.Block);
+    const double use = LargestUse(calculation.CheckData.*row.Block);
     if (use > 1) {
       failing.push_back({row.Group, use});
     }

@@ -7,8 +7,7 @@
 #include "opinion/Explanation.h"
 #include "opinion/Findings.h"
 #include "platform/NumberText.h"
-#include "workstation/DesignModel.h"
-#include "workstation/ProgibResult.h"
+#include "workstation/Calculation.h"
 
 namespace trelonit {
 
@@ -26,13 +25,14 @@ struct SecondOpinion {
                                              const std::string& check) const;
 };
 
-/// The opinion on the last calculation of a design.
-SecondOpinion FormSecondOpinion(const Design& design, const CheckNumbers& numbers,
-                                const std::optional<ProgibResult>& progib,
-                                const Circumstances& circumstances, const NumberLocale& locale);
+SecondOpinion FormSecondOpinion(const Calculation& calculation, const Circumstances& circumstances,
+                                const NumberLocale& locale);
+
+/// A calculation as the opinion reads it; it keeps nothing of its own.
+JudgedDesign Judged(const Calculation& calculation);
 
 /// The groups that do not pass once the design is calculated with the sections that it has, own
-/// weight included where it is asked for. The design itself stays; nothing is shown.
+/// weight included where it is asked for. Tells nothing.
 std::vector<Circumstances::FailingGroup> GroupsThatFail(Design design, const CheckNumbers& numbers,
                                                         bool ownWeight);
 

@@ -1,10 +1,11 @@
 #include "workstation/Selection.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 #include "analysis/Scheme.h"
 #include "checks/ElementGroups.h"
+#include "checks/modCheckueStress.h"
 #include "platform/Arithmetic.h"
 #include "workstation/modHelper.h"
 
@@ -12,41 +13,22 @@ namespace trelonit {
 
 namespace {
 
-/// Passes each box on the first time only: a search tries hundreds of sizes, and what is wrong with
-/// the truss is wrong at each of them.
-class OnceMessages : public MessageService {
- public:
-  explicit OnceMessages(MessageService& messages) : messages_(messages) {}
-
-  MessageAnswer Show(const Message& message) override {
-    if (std::find(shown_.begin(), shown_.end(), message) != shown_.end()) {
-      return MessageAnswer::Ok;
-    }
-    shown_.push_back(message);
-    return messages_.Show(message);
-  }
-
- private:
-  MessageService& messages_;
-  std::vector<Message> shown_;
-};
-
 const GroupCheck& CheckOf(const CheckResult& check, GroupOption group) {
   return check.*RowOf(GroupOfOption(group)).Block;
 }
 
 class Search {
  public:
-  Search(const DesignModel& model, const CheckNumbers& numbers, MessageService& messages)
-      : model_(model), numbers_(numbers), messages_(messages) {
-    proposal_.Sections = model.ElementSection;
-    proposal_.Check = model.CheckData;
+  Search(const Calculation& calculation, const ProfileTypeArray& catalogue, Messages& told)
+      : calculation_(calculation), catalogue_(catalogue), told_(told) {
+    proposal_.Sections = calculation.ElementSection;
+    proposal_.Check = calculation.CheckData;
   }
 
   SelectionProposal Run() {
     for (const GroupOption group :
          {optionUpPoyas, optionDwnPoyas, optionRaskos, optionStoyka, optionOpornRaskos}) {
-      if (group != optionStoyka || HasVerticals(model_.TreloData.TreloType)) {
+      if (group != optionStoyka || HasVerticals(calculation_.TreloData.TreloType)) {
         Walk(group);
       }
     }
@@ -58,7 +40,7 @@ class Search {
 
   void PutRecord(SectionRec& section, Long size) const {
     section.SizeIdx = size;
-    section.Profile = model_.ProfileTypes[section.TypeIdx].Rec[size];
+    section.Profile = catalogue_[section.TypeIdx].Rec[size];
   }
 
   void Try(SectionRec& section, Long size) {
@@ -66,8 +48,19 @@ class Search {
     if (section.Paired) {
       section.Gdist = GapForThickness(section.Gdist, section.Profile.s);
     }
-    proposal_.Check = CheckueStress(model_.TreloData, model_.TreloResult, numbers_,
-                                    proposal_.Sections, messages_);
+    Outcome<CheckResult> check = CheckueStress(calculation_.TreloData, calculation_.TreloResult,
+                                               calculation_.Numbers, proposal_.Sections);
+    proposal_.Check = std::move(check.Value);
+    TellOnce(check.Told);
+  }
+
+  /// A search tries hundreds of sizes, and what is wrong with the truss is wrong at each of them.
+  void TellOnce(const Messages& messages) {
+    for (const Message& message : messages) {
+      if (std::find(told_.begin(), told_.end(), message) == told_.end()) {
+        told_.push_back(message);
+      }
+    }
   }
 
   void Walk(GroupOption group) {
@@ -80,7 +73,7 @@ class Search {
   }
 
   void WalkUp(GroupOption group, SectionRec& section) {
-    const Long last = model_.ProfileTypes[section.TypeIdx].Rec.UpperBound();
+    const Long last = catalogue_[section.TypeIdx].Rec.UpperBound();
     while (Use(group) > 1 && section.SizeIdx < last) {
       Try(section, section.SizeIdx + 1);
     }
@@ -98,22 +91,22 @@ class Search {
     }
     if (section.SizeIdx > 1) {
       // Above the last size, where only exactly 1 leads, there is none.
-      const Long last = model_.ProfileTypes[section.TypeIdx].Rec.UpperBound();
+      const Long last = catalogue_[section.TypeIdx].Rec.UpperBound();
       PutRecord(section, std::min(section.SizeIdx + 1, last));
     }
   }
 
-  const DesignModel& model_;
-  const CheckNumbers& numbers_;
-  OnceMessages messages_;
+  const Calculation& calculation_;
+  const ProfileTypeArray& catalogue_;
+  Messages& told_;
   SelectionProposal proposal_;
 };
 
 }  // namespace
 
-SelectionProposal SelectSections(const DesignModel& model, const CheckNumbers& numbers,
-                                 MessageService& messages) {
-  return Search(model, numbers, messages).Run();
+SelectionProposal SelectSections(const Calculation& calculation, const ProfileTypeArray& catalogue,
+                                 Messages& told) {
+  return Search(calculation, catalogue, told).Run();
 }
 
 double GapForThickness(double gap, double thickness) {

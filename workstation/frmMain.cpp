@@ -4,6 +4,7 @@
 #include "platform/Guard.h"
 #include "platform/Text.h"
 #include "workstation/ApplicationInfo.h"
+#include "workstation/OwnWeight.h"
 #include "workstation/WaitCaption.h"
 #include "workstation/modUtility.h"
 
@@ -66,9 +67,8 @@ void frmMain::Form_Load() {
     txtForceVal.SetText("0");
     chkDinloadEnable.SetChecked(false);
     ReDimLoadArrays();
-    Model.OwnWeightAdded = false;
+    ForgetOwnWeight(Model);
     chkOwnWeight.SetChecked(false);
-    Model.OwnWeightPerMetre = 0;
     chkAllPanels.SetChecked(false);
     tmrRuningString.SetInterval(captionInterval);
     tmrRuningString.SetEnabled(true);

@@ -36,7 +36,7 @@ class frmMain {
     std::function<std::optional<SelectionProposal>(const SelectionOffer&)> ShowSearch;
     /// The report: a new one begins with what drawings are made from, its pieces follow, then its
     /// editor is shown.
-    std::function<void(const ReportSnapshot&)> BeginOtchet;
+    std::function<void(const Calculation&)> BeginOtchet;
     ReportSink AppendOtchet;
     std::function<void()> ShowOtchet;
     std::function<void()> EndProgram;
@@ -239,8 +239,7 @@ class frmMain {
   void RefreshOwnWeightTwice();
   /// The own weight that would be counted twice, tonnes per metre.
   std::optional<double> DoubledOwnWeight() const;
-  SecondOpinion OpinionOf(const CheckNumbers& numbers,
-                          const std::optional<ProgibResult>& progib) const;
+  SecondOpinion OpinionOfLast() const;
   void MarkLayout(Long layout);
   void ShowLayout(const SectionLayout& layout);
   void FillSizes(Long typeIdx);
@@ -248,6 +247,8 @@ class frmMain {
 
   void FillKnotList(bool upper);
   void FillList(Long last);
+  /// Takes own weight out of the loads; false, with a message, where no amount is inside.
+  bool TakeOwnWeightOut();
   /// Marks the tool; its picture and the box that only counts with the other one follow it.
   void ChooseLoadTool(bool nodal);
   void BuildChord(bool upper);
@@ -257,15 +258,15 @@ class frmMain {
 
   /// On the tab with the commands; false where the geometry was refused on the way.
   bool GoToCommands();
-  /// Analysis, check and the own weight; what both commands begin with.
-  void AnalyseWithOwnWeight(const CheckNumbers& numbers);
-  /// The lists, the deflection and the results window; what both end with.
-  void ShowResults(const CheckNumbers& numbers);
+  /// Analysis, check and the own weight; what all three commands begin with.
+  void CalculateModel();
+  /// The deflection of the last calculation where it is asked for.
+  void CalculateProgib();
+  /// The lists, the deflection and the results window; what the first two end with.
+  void ShowResults();
   /// All pieces of the report in order, into its editor.
-  void FillOtchet(const CheckNumbers& numbers);
-  /// The deflection where it is asked for.
-  std::optional<ProgibResult> Progib(const CheckNumbers& numbers);
-  std::optional<SelectionProposal> ProposeByOpinion(const CheckNumbers& numbers);
+  void FillOtchet();
+  std::optional<SelectionProposal> ProposeByOpinion();
   void TakeProposal(const SelectionProposal& proposal);
   void ShowProgib(const ProgibResult& progib);
 

@@ -1,6 +1,7 @@
+#include "analysis/modMaxProgib.h"
 #include "platform/Guard.h"
-#include "workstation/CalculationChain.h"
 #include "workstation/OpinionSelection.h"
+#include "workstation/OwnWeight.h"
 #include "workstation/ReportAppendix.h"
 #include "workstation/frmMain.h"
 
@@ -25,39 +26,36 @@ CheckNumbers frmMain::ReadCheckNumbers() const {
 
 void frmMain::cmdCalculate_Click() {
   Guard(services_.Messages, "cmdCalculate_Click", [&] {
-    const CheckNumbers numbers = ReadCheckNumbers();
-    AnalyseWithOwnWeight(numbers);
-    ShowResults(numbers);
+    CalculateModel();
+    ShowResults();
   });
 }
 
 void frmMain::cmdCalcAndSelect_Click() {
   Guard(services_.Messages, "cmdCalcAndSelect_Click", [&] {
-    const CheckNumbers numbers = ReadCheckNumbers();
-    AnalyseWithOwnWeight(numbers);
-    const SelectionOffer offer{.Proposal = SelectSections(Model, numbers, services_.Messages),
-                               .ByOpinion = [this, &numbers] { return ProposeByOpinion(numbers); }};
+    CalculateModel();
+    const SelectionOffer offer{
+        .Proposal = ShowTold(
+            services_.Messages,
+            [&](Messages& told) { return SelectSections(Model.Last, Model.ProfileTypes, told); }),
+        .ByOpinion = [this] { return ProposeByOpinion(); }};
     if (openers_.ShowSearch) {
       if (const std::optional<SelectionProposal> taken = openers_.ShowSearch(offer)) {
         TakeProposal(*taken);
       }
     }
-    ShowResults(numbers);
+    ShowResults();
   });
 }
 
 void frmMain::cmdShowResults_Click() {
   Guard(services_.Messages, "cmdShowResults_Click", [&] {
-    const CheckNumbers numbers = ReadCheckNumbers();
-    AnalyseWithOwnWeight(numbers);
+    CalculateModel();
     if (openers_.BeginOtchet) {
-      openers_.BeginOtchet({.TreloData = Model.TreloData,
-                            .TreloResult = Model.TreloResult,
-                            .CheckData = Model.CheckData,
-                            .ElementSection = Model.ElementSection});
+      openers_.BeginOtchet(Model.Last);
     }
     if (openers_.AppendOtchet) {
-      FillOtchet(numbers);
+      FillOtchet();
     }
     if (openers_.ShowOtchet) {
       openers_.ShowOtchet();
@@ -65,60 +63,69 @@ void frmMain::cmdShowResults_Click() {
   });
 }
 
-void frmMain::FillOtchet(const CheckNumbers& numbers) {
+void frmMain::FillOtchet() {
   const NumberLocale& locale = services_.Locale;
-  WriteReport(Model,
+  WriteReport(Model.Last,
               {.SteelName = lblStillName.Caption(),
-               .Numbers = numbers,
                .ProgibOn = chkProgib.Checked(),
                .ProgibUpper = optBP.Value(),
                .LenLim = cmbLenlim.Text()},
               locale, openers_.AppendOtchet);
-  const std::optional<ProgibResult> progib = Progib(numbers);
-  if (progib) {
+  CalculateProgib();
+  if (const std::optional<ProgibResult>& progib = Model.Last.Progib) {
     WriteReportProgib(*progib, locale, openers_.AppendOtchet);
     txtProgib.SetText(FormatShown(progib->Value, progibDecimals, locale));
   }
-  WriteReportAdditional(Model, locale, openers_.AppendOtchet);
+  WriteReportAdditional(Model.Last, locale, openers_.AppendOtchet);
   if (ReportAppendix) {
-    WriteReportAppendix(Model.CheckData, OpinionOf(numbers, progib), locale, openers_.AppendOtchet);
+    WriteReportAppendix(Model.Last.CheckData, OpinionOfLast(), locale, openers_.AppendOtchet);
   }
 }
 
-std::optional<ProgibResult> frmMain::Progib(const CheckNumbers& numbers) {
-  if (!chkProgib.Checked()) {
-    return std::nullopt;
-  }
-  return CheckProgib(Model, optBP.Value(), numbers.E, cmbLenlim.Text(), services_.Locale,
-                     services_.Messages);
-}
-
-std::optional<SelectionProposal> frmMain::ProposeByOpinion(const CheckNumbers& numbers) {
-  const SecondOpinion opinion = OpinionOf(numbers, std::nullopt);
-  if (opinion.Figures.HasRefused()) {
-    services_.Messages.Show({.Title = "Подбор по СНиП",
-                             .Text = opinion.Figures.Refusal,
-                             .Style = MessageStyle::Exclamation});
-    return std::nullopt;
-  }
-  return SelectByOpinion(Model, numbers, chkOwnWeight.Checked());
-}
-
-void frmMain::AnalyseWithOwnWeight(const CheckNumbers& numbers) {
-  AnalyseAndCheck(Model, numbers, services_.Messages);
-  if (chkOwnWeight.Checked() && ApplyOwnWeight(Model, numbers, services_.Messages)) {
+void frmMain::CalculateModel() {
+  const CheckNumbers numbers = ReadCheckNumbers();
+  const auto calculate = [&] {
+    Model.Last = ShowTold(services_.Messages, Calculate(Model, numbers));
+  };
+  calculate();
+  // There is one re-analysis a command: the mass does not depend on the forces.
+  if (chkOwnWeight.Checked() && PutOwnWeight(Model, OwnWeightPerMetreOf(Model.Last))) {
+    calculate();
     RefreshLoadPreview();
   }
+}
+
+void frmMain::CalculateProgib() {
+  Calculation& last = Model.Last;
+  last.Progib.reset();
+  if (chkProgib.Checked()) {
+    const double progib =
+        ShowTold(services_.Messages, CalcProgib(last.TreloData, last.TreloResult, last.CheckData,
+                                                optBP.Value(), last.Numbers.E));
+    last.Progib = JudgeProgib(progib, last.TreloData.LengthF, cmbLenlim.Text(), services_.Locale);
+  }
+}
+
+std::optional<SelectionProposal> frmMain::ProposeByOpinion() {
+  const Opinion opinion = FormOpinion(Judged(Model.Last));
+  if (opinion.HasRefused()) {
+    services_.Messages.Show(
+        {.Title = "Подбор по СНиП", .Text = opinion.Refusal, .Style = MessageStyle::Exclamation});
+    return std::nullopt;
+  }
+  return SelectByOpinion(Model, Model.ProfileTypes, Model.Last.Numbers, chkOwnWeight.Checked());
 }
 
 void frmMain::TakeProposal(const SelectionProposal& proposal) {
   if (proposal.Settled) {
-    static_cast<Design&>(Model) = *proposal.Settled;
+    static_cast<Design&>(Model) = proposal.Settled->Inputs;
+    Model.Last = proposal.Settled->Result;
     RefreshLoadPreview();
   } else {
     // Loads and forces stay: the changed mass reaches them with the next calculation.
     Model.ElementSection = proposal.Sections;
-    Model.CheckData = proposal.Check;
+    Model.Last.ElementSection = proposal.Sections;
+    Model.Last.CheckData = proposal.Check;
   }
   takenSections_ = Model.ElementSection;
   RefreshSectionSource(SelectedSection());
@@ -128,25 +135,23 @@ void frmMain::TakeProposal(const SelectionProposal& proposal) {
   }
 }
 
-void frmMain::ShowResults(const CheckNumbers& numbers) {
-  const Long scheme = Model.TreloData.TreloType;
-  ResultLists lists{
-      .lstForces =
-          BuildForceList(scheme, Model.TreloResult, Model.CheckData.Mass, services_.Locale),
-      .MSFlexGKoefUse = BuildUtilisationGrid(scheme, Model.CheckData, services_.Locale),
-      .Picture = {.Bars = BuildBars(Model.TreloData, Model.TreloResult),
-                  .Use = BuildUse(scheme, Model.CheckData),
-                  .OverLimit = RowsOverLimit(scheme, Model.CheckData)}};
-  lists.Progib = Progib(numbers);
-  if (lists.Progib) {
-    for (std::string& line : ProgibLines(*lists.Progib, services_.Locale)) {
+void frmMain::ShowResults() {
+  ResultLists lists{.lstForces = BuildForceList(Model.Last, services_.Locale),
+                    .MSFlexGKoefUse = BuildUtilisationGrid(Model.Last, services_.Locale),
+                    .Picture = {.Bars = BuildBars(Model.Last),
+                                .Use = BuildUse(Model.Last),
+                                .OverLimit = RowsOverLimit(Model.Last)}};
+  CalculateProgib();
+  if (const std::optional<ProgibResult>& progib = Model.Last.Progib) {
+    for (std::string& line : ProgibLines(*progib, services_.Locale)) {
       lists.lstForces.push_back(std::move(line));
     }
-    ShowProgib(*lists.Progib);
+    ShowProgib(*progib);
   }
-  lists.Opinion = OpinionOf(numbers, lists.Progib);
+  lists.Opinion = OpinionOfLast();
+  lists.Rows = BuildResultRows(Model.Last, lists.Opinion.Figures, services_.Locale);
   lists.Locale = services_.Locale;
-  lists.Rows = BuildResultRows(scheme, Model.CheckData, lists.Opinion.Figures, services_.Locale);
+  lists.Of = Model.Last;
   if (openers_.ShowKoeffOfUse) {
     openers_.ShowKoeffOfUse(lists);
   }

@@ -2,6 +2,7 @@
 #include "platform/Arithmetic.h"
 #include "platform/Guard.h"
 #include "workstation/Loads.h"
+#include "workstation/OwnWeight.h"
 #include "workstation/frmMain.h"
 
 namespace trelonit {
@@ -174,12 +175,24 @@ void frmMain::cmdClearLoads_Click() {
   Guard(services_.Messages, "cmdClearLoads_Click", [&] {
     ClearLoads(Model.Loads, Model.TreloData.TreloType, PanelNum());
     Preview.ClearLoadMarks();
-    Model.OwnWeightAdded = false;
-    Model.OwnWeightPerMetre = 0;
+    ForgetOwnWeight(Model);
     chkOwnWeight.SetChecked(false);
     SetOwnWeightInside(std::nullopt);
     NotifyPreview();
   });
+}
+
+bool frmMain::TakeOwnWeightOut() {
+  const double perMetre = Model.OwnWeightPerMetre;
+  const bool inside = WithdrawOwnWeight(Model);
+  if (!inside) {
+    services_.Messages.Show({.Title = "chkOwnWeight_Click",
+                             .Text = "Некорректная погонная масса фермы ! \nqMass = " +
+                                     NumberToText(perMetre, services_.Locale) +
+                                     "\n Собственный вес фермы не вычтен из общей нагрузки",
+                             .Style = MessageStyle::Critical});
+  }
+  return inside;
 }
 
 void frmMain::chkOwnWeight_Click() {
@@ -189,9 +202,7 @@ void frmMain::chkOwnWeight_Click() {
     if (chkOwnWeight.Checked() || !Model.OwnWeightAdded) {
       return;
     }
-    const bool inside = Model.OwnWeightPerMetre > 0;
-    WithdrawOwnWeight(Model, services_.Locale, services_.Messages);
-    if (inside) {
+    if (TakeOwnWeightOut()) {
       RefreshLoadPreview();
     }
   });

@@ -118,18 +118,18 @@ void frmMain::cmdKeepOwnWeight_Click() {
 
 void frmMain::WithdrawOwnWeightFromLoads() {
   if (Model.OwnWeightAdded) {
-    WithdrawOwnWeight(Model, services_.Locale, services_.Messages);
+    TakeOwnWeightOut();
     RefreshLoadPreview();
   }
 }
 
-SecondOpinion frmMain::OpinionOf(const CheckNumbers& numbers,
-                                 const std::optional<ProgibResult>& progib) const {
+SecondOpinion frmMain::OpinionOfLast() const {
   Circumstances circumstances{.DoubledOwnWeight = DoubledOwnWeight()};
   if (takenSections_ && *takenSections_ == Model.ElementSection) {
-    circumstances.AfterSelection = GroupsThatFail(Model, numbers, chkOwnWeight.Checked());
+    circumstances.AfterSelection =
+        GroupsThatFail(Model, Model.Last.Numbers, chkOwnWeight.Checked());
   }
-  return FormSecondOpinion(Model, numbers, progib, circumstances, services_.Locale);
+  return FormSecondOpinion(Model.Last, circumstances, services_.Locale);
 }
 
 }  // namespace trelonit

@@ -107,8 +107,7 @@ void frmMain::ApplyProject(const ProjectRecord& record) {
   chkOwnWeight.SetChecked(record.OwnWeightOn != 0);
   Model.Loads = record;
   // Own weight that was saved inside the loads stays there as if the user had entered it.
-  Model.OwnWeightAdded = false;
-  Model.OwnWeightPerMetre = 0;
+  ForgetOwnWeight(Model);
   takenSections_.reset();
   ChooseLoadTool(record.PForceTool != 0);
   // Before the chord changes too: its click shows loads for which there must be marks.

@@ -1,7 +1,6 @@
 #include "catalogue/modProfileData.h"
 #include "checks/CheckFormulas.h"
 #include "platform/Guard.h"
-#include "workstation/Loads.h"
 #include "workstation/frmMain.h"
 
 namespace trelonit {
@@ -171,7 +170,7 @@ void frmMain::cmbGdist_Click() {
 void frmMain::WithdrawOwnWeightOfOldSection() {
   // The weight in the loads belongs to the sections before the change.
   if (Model.OwnWeightAdded) {
-    WithdrawOwnWeight(Model, services_.Locale, services_.Messages);
+    TakeOwnWeightOut();
   }
 }
 

@@ -17,13 +17,7 @@ Status Fail(const AuditOptions& options, const std::vector<Message>& messages) {
 
 /// The same with what the opinion adds to it.
 Status Refuse(const AuditOptions& options, ConsoleSession& session) {
-  const Design& design = session.Main().Model;
-  const CheckNumbers numbers = session.Main().ReadCheckNumbers();
-  const Opinion opinion = FormOpinion({.Data = design.TreloData,
-                                       .Result = design.TreloResult,
-                                       .Check = design.CheckData,
-                                       .Sections = design.ElementSection,
-                                       .Numbers = numbers});
+  const Opinion opinion = FormOpinion(Judged(session.Main().Model.Last));
   std::vector<Message> messages = session.Messages();
   if (opinion.HasRefused()) {
     messages.push_back({.Title = opinionTitle, .Text = opinion.Refusal});
@@ -45,7 +39,7 @@ Status RunAudit(const AuditOptions& options) {
     return Refuse(options, session);
   }
   const SecondOpinion& opinion = session.TheProgram().LastResults()->Opinion;
-  const CheckResult& check = session.Main().Model.CheckData;
+  const CheckResult& check = session.Main().Model.Last.CheckData;
   const Status printed =
       Print(options.Json ? OpinionJson(check, opinion) : OpinionText(check, opinion));
   if (printed != Status::Done) {

@@ -15,9 +15,8 @@ Status RunCalc(const CalcOptions& options) {
   }
   const ResultLists& lists = *session.TheProgram().LastResults();
   PrintDangers(lists.Opinion);
-  return Print(options.Json
-                   ? CalcJson(session.Main().Model, lists, session.Messages(), options.BarForce)
-                   : ListsAsText(lists));
+  return Print(options.Json ? CalcJson(lists, session.Messages(), options.BarForce)
+                            : ListsAsText(lists));
 }
 
 }  // namespace trelonit::cli

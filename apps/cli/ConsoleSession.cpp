@@ -34,7 +34,7 @@ bool ConsoleSession::Start() {
 }
 
 bool ConsoleSession::MetRuntimeError() const {
-  return std::any_of(Messages().begin(), Messages().end(), TellsRuntimeError);
+  return TellFailure(Messages());
 }
 
 void ConsoleSession::SetSaveName(const std::string& name) {

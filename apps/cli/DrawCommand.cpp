@@ -36,7 +36,7 @@ std::optional<DrawingForm> FormOf(const std::string& output, const Paper& paper)
 }
 
 /// Both schemes of the design; null where a message told why not all of it could be drawn.
-std::shared_ptr<Drawing> Drawn(const ReportSnapshot& design) {
+std::shared_ptr<Drawing> Drawn(const Calculation& design) {
   BuiltInHost host;
   BuiltInHostAutomation automation(host);
   ConsoleMessages messages(std::cerr);
@@ -56,7 +56,7 @@ std::shared_ptr<Drawing> DrawnProject(const std::string& project) {
     return nullptr;
   }
   session.Main().cmdShowResults_Click();
-  const std::optional<ReportSnapshot>& design = session.TheProgram().Snapshot();
+  const std::optional<Calculation>& design = session.TheProgram().Snapshot();
   return shown && !session.MetRuntimeError() && design ? Drawn(*design) : nullptr;
 }
 

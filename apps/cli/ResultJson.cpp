@@ -163,19 +163,19 @@ Json ToJson(const SelectionRow& row) {
           {"Possible", row.Possible}};
 }
 
-Json ToJson(const DesignModel& model, const ResultLists& lists,
-            const std::vector<Message>& messages, bool barForce) {
+Json ToJson(const ResultLists& lists, const std::vector<Message>& messages, bool barForce) {
+  const Calculation& calculation = lists.Of;
   Json sections = Json::array();
-  for (const SectionRec& section : model.ElementSection) {
+  for (const SectionRec& section : calculation.ElementSection) {
     sections.push_back(ToJson(section));
   }
-  return {{"TreloData", ToJson(model.TreloData)},
-          {"TreloResult", ToJson(model.TreloResult, barForce)},
-          {"CheckResult", ToJson(model.CheckData)},
+  return {{"TreloData", ToJson(calculation.TreloData)},
+          {"TreloResult", ToJson(calculation.TreloResult, barForce)},
+          {"CheckResult", ToJson(calculation.CheckData)},
           {"ElementSection", std::move(sections)},
-          {"OwnWeightAdded", model.OwnWeightAdded},
-          {"OwnWeightPerMetre", model.OwnWeightPerMetre},
-          {"Progib", ToJson(lists.Progib)},
+          {"OwnWeightAdded", calculation.OwnWeightAdded},
+          {"OwnWeightPerMetre", calculation.OwnWeightPerMetre},
+          {"Progib", ToJson(calculation.Progib)},
           {"lstForces", lists.lstForces},
           {"MSFlexGKoefUse", lists.MSFlexGKoefUse},
           {"Messages", ToJson(messages)}};
@@ -183,17 +183,16 @@ Json ToJson(const DesignModel& model, const ResultLists& lists,
 
 }  // namespace
 
-std::string CalcJson(const DesignModel& model, const ResultLists& lists,
-                     const std::vector<Message>& messages, bool barForce) {
-  Json object = ToJson(model, lists, messages, barForce);
+std::string CalcJson(const ResultLists& lists, const std::vector<Message>& messages,
+                     bool barForce) {
+  Json object = ToJson(lists, messages, barForce);
   object["Findings"] = FindingsJson(lists.Opinion.Findings);
   return JsonText(object);
 }
 
-std::string SelectJson(const DesignModel& model, const ResultLists& lists,
-                       const std::vector<Message>& messages,
+std::string SelectJson(const ResultLists& lists, const std::vector<Message>& messages,
                        const std::vector<SelectionRow>& selection, int rounds) {
-  Json object = ToJson(model, lists, messages, false);
+  Json object = ToJson(lists, messages, false);
   Json rows = Json::array();
   for (const SelectionRow& row : selection) {
     rows.push_back(ToJson(row));

@@ -4,15 +4,13 @@
 #include <vector>
 
 #include "platform/Message.h"
-#include "workstation/DesignModel.h"
 #include "workstation/ResultLists.h"
 
 namespace trelonit::cli {
 
 /// One object with the whole result of Calculate; its keys are the names in the code. Numbers have
 /// full precision and a point.
-std::string CalcJson(const DesignModel& model, const ResultLists& lists,
-                     const std::vector<Message>& messages, bool barForce);
+std::string CalcJson(const ResultLists& lists, const std::vector<Message>& messages, bool barForce);
 
 /// What automatic selection found for a group.
 struct SelectionRow {
@@ -26,8 +24,7 @@ struct SelectionRow {
 
 /// The same, without the findings, with the proposal's rows and, of a selection by both, its
 /// rounds.
-std::string SelectJson(const DesignModel& model, const ResultLists& lists,
-                       const std::vector<Message>& messages,
+std::string SelectJson(const ResultLists& lists, const std::vector<Message>& messages,
                        const std::vector<SelectionRow>& selection, int rounds);
 
 /// The object of a command that came to no result: the messages alone.

@@ -81,7 +81,7 @@ Status RunSelect(const SelectOptions& options) {
     }
   }
   return Print(options.Json
-                   ? SelectJson(form.Model, lists, session.Messages(), selection, proposal.Rounds)
+                   ? SelectJson(lists, session.Messages(), selection, proposal.Rounds)
                    : RowsAsText(selection) + RoundsAsText(proposal.Rounds) + ListsAsText(lists));
 }
 

@@ -177,10 +177,10 @@ bool Make(const Example& example, const std::string& folder) {
   }
   form.cmdCalculate_Click();
   const auto& results = session.TheProgram().LastResults();
-  if (!results || session.MetRuntimeError() || !results->Progib->Satisfied) {
+  if (!results || session.MetRuntimeError() || !results->Of.Progib->Satisfied) {
     return false;
   }
-  return Report(example.File, form.Model.CheckData, results->Opinion.Figures);
+  return Report(example.File, form.Model.Last.CheckData, results->Opinion.Figures);
 }
 
 }  // namespace

@@ -40,12 +40,11 @@ CheckResult PickAreas() {
 /// CalcProgib where nothing may be shown.
 double Progib(const TreloData& data, const TreloResult& result, const CheckResult& check,
               bool upChord, double E = modulus) {
-  RecordingMessages messages;
-  const double value = CalcProgib(data, result, check, upChord, E, messages);
-  if (!messages.Shown.empty()) {
-    throw std::logic_error(messages.Shown.front().Text);
+  const Outcome<double> progib = CalcProgib(data, result, check, upChord, E);
+  if (!progib.Told.empty()) {
+    throw std::logic_error(progib.Told.front().Text);
   }
-  return value;
+  return progib.Value;
 }
 
 TreloData Unloaded(TreloData data) {
@@ -262,12 +261,12 @@ TEST_P(DeflectionOfScheme, ShowsTheFailuresOfTheUnitRunsAndCountsThemZero) {
   const TreloResult result = Solved(data);
   data.Hight = 0;
   for (const bool upChord : {true, false}) {
-    RecordingMessages messages;
-    EXPECT_EQ(CalcProgib(data, result, Areas(), upChord, modulus, messages), 0);
+    const Outcome<double> progib = CalcProgib(data, result, Areas(), upChord, modulus);
+    EXPECT_EQ(progib.Value, 0);
     const LoadArrays loads = Unloaded(data);
     const Long last = (upChord ? loads.UpPForce : loads.DwnPForce).UpperBound();
-    ASSERT_EQ(static_cast<Long>(messages.Shown.size()), last + 1);
-    for (const Message& message : messages.Shown) {
+    ASSERT_EQ(static_cast<Long>(progib.Told.size()), last + 1);
+    for (const Message& message : progib.Told) {
       EXPECT_EQ(message.Title, "CalcTrelo" + std::to_string(GetParam()));
     }
   }

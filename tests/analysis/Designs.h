@@ -70,12 +70,11 @@ inline void Clear(BoundedArray<double>& loads) {
 
 /// The analysis of a design that must be solved in silence.
 inline TreloResult Solved(const TreloData& data) {
-  RecordingMessages messages;
-  TreloResult result = CalcTrelo(data, messages);
-  if (!messages.Shown.empty()) {
-    throw std::logic_error(messages.Shown.front().Title + ": " + messages.Shown.front().Text);
+  Outcome<TreloResult> outcome = CalcTrelo(data);
+  if (!outcome.Told.empty()) {
+    throw std::logic_error(outcome.Told.front().Title + ": " + outcome.Told.front().Text);
   }
-  return result;
+  return outcome.Value;
 }
 
 inline std::vector<double> Values(const BoundedArray<double>& array) {

@@ -41,9 +41,8 @@ const std::string subscript = "9 Discription : Subscript out of range";
 const std::string divisionByZero = "11 Discription : Division by zero";
 
 void ExpectFailure(const TreloData& data, const std::string& numberAndDescription) {
-  RecordingMessages messages;
-  const TreloResult result = CalcTrelo(data, messages);
-  EXPECT_EQ(messages.Shown, std::vector{SolverError(data.TreloType, numberAndDescription)});
+  const auto [result, told] = CalcTrelo(data);
+  EXPECT_EQ(told, std::vector{SolverError(data.TreloType, numberAndDescription)});
   ExpectEmpty(result);
 }
 
@@ -59,12 +58,11 @@ TEST(Dispatch, RefusesASchemeThatDoesNotExist) {
     SCOPED_TRACE(scheme);
     TreloData data = Loaded(1);
     data.TreloType = scheme;
-    RecordingMessages messages;
-    ExpectEmpty(CalcTrelo(data, messages));
-    EXPECT_EQ(messages.Shown,
-              std::vector({Message{.Title = "Trelo's error",
-                                   .Text = "Неизвестный тип фермы, расчет не возможен ",
-                                   .Style = MessageStyle::Critical}}));
+    const auto [result, told] = CalcTrelo(data);
+    ExpectEmpty(result);
+    EXPECT_EQ(told, std::vector({Message{.Title = "Trelo's error",
+                                         .Text = "Неизвестный тип фермы, расчет не возможен ",
+                                         .Style = MessageStyle::Critical}}));
   }
 }
 
@@ -73,20 +71,20 @@ TEST(Dispatch, ReservedSchemesGiveAnEmptyResultInSilence) {
     SCOPED_TRACE(scheme);
     TreloData data = Loaded(1);
     data.TreloType = scheme;
-    RecordingMessages messages;
-    ExpectEmpty(CalcTrelo(data, messages));
-    EXPECT_TRUE(messages.Shown.empty());
+    const auto [result, told] = CalcTrelo(data);
+    ExpectEmpty(result);
+    EXPECT_TRUE(told.empty());
   }
 }
 
 TEST(Dispatch, ReservedSolversGiveAnEmptyResultInSilence) {
-  RecordingMessages messages;
   const TreloData data = Loaded(1);
   for (const auto solver :
        {CalcTrelo5, CalcTrelo6, CalcTrelo7, CalcTrelo8, CalcTrelo9, CalcTrelo10}) {
-    ExpectEmpty(solver(data, messages));
+    const auto [result, told] = solver(data);
+    ExpectEmpty(result);
+    EXPECT_TRUE(told.empty());
   }
-  EXPECT_TRUE(messages.Shown.empty());
 }
 
 TEST(Dispatch, CallsTheSolverOfTheScheme) {
@@ -94,10 +92,9 @@ TEST(Dispatch, CallsTheSolverOfTheScheme) {
   for (Long scheme = 1; scheme <= 4; ++scheme) {
     SCOPED_TRACE(scheme);
     const TreloData data = Loaded(scheme);
-    RecordingMessages messages;
-    const TreloResult direct = solvers[static_cast<std::size_t>(scheme - 1)](data, messages);
-    const TreloResult dispatched = CalcTrelo(data, messages);
-    EXPECT_TRUE(messages.Shown.empty());
+    const TreloResult direct = solvers[static_cast<std::size_t>(scheme - 1)](data).Value;
+    const auto [dispatched, told] = CalcTrelo(data);
+    EXPECT_TRUE(told.empty());
     EXPECT_NE(dispatched.KnotNum, 0);
     EXPECT_EQ(dispatched.KnotNum, direct.KnotNum);
     EXPECT_EQ(dispatched.BarForce, direct.BarForce);
@@ -244,13 +241,11 @@ TEST(Dispatch, LatticeOfOnePanelOrNoneFails) {
 }
 
 TEST(Dispatch, WorksOnAfterAFailure) {
-  RecordingMessages messages;
   TreloData data = Loaded(1);
   data.Hight = 0;
-  CalcTrelo(data, messages);
+  EXPECT_EQ(CalcTrelo(data).Told.size(), 1u);
   data.Hight = 1.5;
-  EXPECT_EQ(CalcTrelo(data, messages).KnotNum, 22);
-  EXPECT_EQ(messages.Shown.size(), 1u);
+  EXPECT_EQ(CalcTrelo(data).Value.KnotNum, 22);
 }
 
 }  // namespace

@@ -49,9 +49,8 @@ struct DriverCase {
   }
 
   Outcome Run() const {
-    RecordingMessages messages;
-    const CheckResult check = CheckueStress(Data, Res, Numbers, Sections, messages);
-    return {check, messages.Shown};
+    auto [check, told] = CheckueStress(Data, Res, Numbers, Sections);
+    return {check, told};
   }
 
   TreloData Data;

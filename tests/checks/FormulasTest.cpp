@@ -135,11 +135,10 @@ TEST(Alpha, HasNoLowerBound) {
 }
 
 LimitFlex Limit(Long layout, double alpha, double length, bool dynamic = false) {
-  RecordingMessages messages;
-  const LimitFlex limit =
-      CalcLimitFlex(Single(10, 40, 90, layout), alpha, length, dynamic, messages);
-  EXPECT_TRUE(messages.Shown.empty());
-  return limit;
+  const Outcome<LimitFlex> limit =
+      CalcLimitFlex(Single(10, 40, 90, layout), alpha, length, dynamic);
+  EXPECT_TRUE(limit.Told.empty());
+  return limit.Value;
 }
 
 TEST(LimitSlenderness, OfASingleAngleDoesNotLookAtTheLength) {
@@ -178,9 +177,8 @@ TEST(LimitSlenderness, InTensionIsLoweredByDynamicLoads) {
 
 TEST(LimitSlenderness, OfALengthThatIsNotPositiveIsReported) {
   for (const double length : {0.0, -0.5}) {
-    RecordingMessages messages;
-    const LimitFlex limit = CalcLimitFlex(Single(10, 40, 90, 2), 0.5, length, true, messages);
-    EXPECT_EQ(messages.Shown, std::vector{lengthMessage});
+    const auto [limit, told] = CalcLimitFlex(Single(10, 40, 90, 2), 0.5, length, true);
+    EXPECT_EQ(told, std::vector{lengthMessage});
     EXPECT_EQ(limit.Compress, 0);
     EXPECT_EQ(limit.Tension, 250);
     EXPECT_EQ(limit.Tension2, 350);

@@ -177,7 +177,7 @@ TEST(ParamertySlenderness, BeyondAnIntegerDoesNotStopTheOtherTwo) {
     desk.Apply("200000", "8", typed);
     EXPECT_EQ(desk.Main(), "200000|8|150") << typed;
     ASSERT_EQ(desk.Shown().size(), 1U) << typed;
-    EXPECT_TRUE(TellsRuntimeError(desk.Shown()[0])) << desk.Shown()[0].Text;
+    EXPECT_TRUE(desk.Shown()[0].Failure) << desk.Shown()[0].Text;
     EXPECT_EQ(desk.Shown()[0].Text, " Err # 6 Discription : Overflow");
     EXPECT_EQ(desk.Closed, 1);
   }

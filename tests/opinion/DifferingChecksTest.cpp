@@ -7,6 +7,7 @@
 #include "tests/opinion/FindingsTools.h"
 #include "tests/opinion/OpinionCase.h"
 #include "tests/workstation/AnyDesign.h"
+#include "workstation/SecondOpinion.h"
 
 namespace trelonit::test {
 
@@ -84,18 +85,14 @@ TEST(CheckDiffers, AppearsExactlyWhereOneOfTheTwoPasses) {
 
 RC_GTEST_PROP(CheckDiffers, AppearsOnceForEachCheckThatDiffersInAnyDesign, ()) {
   const Pick pick = [](Long low, Long high) { return *rc::gen::inRange<Long>(low, high + 1); };
-  const DesignModel model = AnyModel(pick, PickScheme(), {2, 2, 1, 9, 11}, StartNumbers());
-  const CheckNumbers numbers = StartNumbers();
-  const JudgedDesign design{.Data = model.TreloData,
-                            .Result = model.TreloResult,
-                            .Check = model.CheckData,
-                            .Sections = model.ElementSection,
-                            .Numbers = numbers};
+  const Calculation calculation =
+      Calculate(AnyDesign(pick, PickScheme(), {2, 2, 1, 9, 11}), StartNumbers()).Value;
+  const JudgedDesign design = Judged(calculation);
   const Opinion opinion = FormOpinion(design);
   RC_ASSERT(opinion.Refusal == "");
   int expected = 0;
   for (const GroupJudgement& group : opinion.Groups) {
-    const GroupCheck& told = model.CheckData.*RowOf(group.Group).Block;
+    const GroupCheck& told = calculation.CheckData.*RowOf(group.Group).Block;
     const double toldFigures[] = {told.KStrength, told.KStabX, told.KStabY, told.KFlexX,
                                   told.KFlexY};
     for (std::size_t check = 0; check < 5; ++check) {

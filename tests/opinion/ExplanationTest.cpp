@@ -126,8 +126,10 @@ OpinionCase PickCase() {
   numbers.Yc = static_cast<double>(pick(75, 115)) / 100;
   numbers.Gn = static_cast<double>(pick(80, 110)) / 100;
   numbers.Dynamic = pick(0, 1) != 0;
-  const DesignModel model = AnyModel(pick, PickScheme(), layouts, numbers);
-  return OpinionCase(model.TreloData, model.ElementSection, numbers);
+  const trelonit::Design design = AnyDesign(pick, PickScheme(), layouts);
+  TreloData data = design.TreloData;
+  static_cast<LoadArrays&>(data) = design.Loads;
+  return OpinionCase(data, design.ElementSection, numbers);
 }
 
 RC_GTEST_PROP(Explanations, OfAnyDesignAreOneForEachFigureAndGiveIt, ()) {

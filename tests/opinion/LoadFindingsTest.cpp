@@ -156,11 +156,6 @@ Texts DoubledTexts(const OpinionCase& design) {
   return TextsOf(design.Find({.DoubledOwnWeight = InsideOf(design)}), FindingCode::OwnWeightTwice);
 }
 
-TEST(OwnWeightTwice, KnowsWhatTheTrussWeighs) {
-  EXPECT_NEAR(WeightPerMetre(SquareDesign(1, 4), SameSections(Single(20, 500, 500)), 7.85),
-              ownWeight, 1e-7);
-}
-
 TEST(OwnWeightTwice, TellsOfAnAmountThatAllPanelsHold) {
   const OpinionCase design = LoadedWith(0.5, 0.0367);
   EXPECT_EQ(DoubledTexts(design),

@@ -22,8 +22,8 @@ struct OpinionCase {
   }
 
   void Calculate() {
-    Result = CalcTrelo(Data, Messages);
-    Check = CheckueStress(Data, Result, Numbers, Sections, Messages);
+    Result = CalcTrelo(Data).Value;
+    Check = CheckueStress(Data, Result, Numbers, Sections).Value;
   }
 
   JudgedDesign Judged() const {
@@ -41,7 +41,6 @@ struct OpinionCase {
   CheckResult Check;
   SectionArray Sections;
   CheckNumbers Numbers;
-  RecordingMessages Messages;
 };
 
 inline void Fill(BoundedArray<double>& loads, double load) {

@@ -9,8 +9,9 @@
 #include "tests/checks/Checks.h"
 #include "tests/workstation/AnyDesign.h"
 #include "tests/workstation/SelectionLadder.h"
-#include "workstation/CalculationChain.h"
 #include "workstation/OpinionSelection.h"
+#include "workstation/OwnWeight.h"
+#include "workstation/SecondOpinion.h"
 #include "workstation/modHelper.h"
 
 namespace trelonit::test {
@@ -28,31 +29,26 @@ CheckNumbers PickNumbers() {
 }
 
 /// Sections of all layouts from the whole catalogue, at any size.
-DesignModel PickModel(const CheckNumbers& numbers) {
+trelonit::Design PickDesign() {
   std::vector<Long> layouts(5);
   for (Long& layout : layouts) {
     layout = pick(1, sectionLayoutCount);
   }
-  return AnyModel(pick, PickScheme(), layouts, numbers);
+  return AnyDesign(pick, PickScheme(), layouts);
 }
 
-bool Exists(const ElementGroupRow& row, const DesignModel& model) {
-  return row.Group != ElementGroup::Stoyka || model.TreloData.TreloType != 3;
+bool Exists(const ElementGroupRow& row, const trelonit::Design& design) {
+  return row.Group != ElementGroup::Stoyka || design.TreloData.TreloType != 3;
 }
 
 /// Whether the group passes the program's own checks and the opinion under the forces that the
 /// design was calculated with.
-bool Passes(const trelonit::Design& design, const CheckNumbers& numbers,
-            const ElementGroupRow& row) {
-  RecordingMessages messages;
-  const CheckResult check =
-      CheckueStress(design.TreloData, design.TreloResult, numbers, design.ElementSection, messages);
-  const Opinion opinion = FormOpinion({.Data = design.TreloData,
-                                       .Result = design.TreloResult,
-                                       .Check = check,
-                                       .Sections = design.ElementSection,
-                                       .Numbers = numbers});
-  if (opinion.HasRefused() || LargestUse(check.*row.Block) > 1) {
+bool Passes(Calculation calculation, const ElementGroupRow& row) {
+  calculation.CheckData = CheckueStress(calculation.TreloData, calculation.TreloResult,
+                                        calculation.Numbers, calculation.ElementSection)
+                              .Value;
+  const Opinion opinion = FormOpinion(Judged(calculation));
+  if (opinion.HasRefused() || LargestUse(calculation.CheckData.*row.Block) > 1) {
     return false;
   }
   const GroupJudgement& judged = *opinion.FindGroup(row.Group);
@@ -60,15 +56,15 @@ bool Passes(const trelonit::Design& design, const CheckNumbers& numbers,
 }
 
 /// The same with another size of the group's standard, the gap as a user's choice would make it.
-bool PassesWithSize(const DesignModel& model, trelonit::Design design, const CheckNumbers& numbers,
+bool PassesWithSize(const trelonit::Design& given, Calculation calculation,
                     const ElementGroupRow& row, Long size) {
-  SectionRec& section = design.ElementSection[row.Place];
+  SectionRec& section = calculation.ElementSection[row.Place];
   section.SizeIdx = size;
-  section.Profile = model.ProfileTypes[section.TypeIdx].Rec[size];
+  section.Profile = Catalogue()[section.TypeIdx].Rec[size];
   if (section.Paired) {
-    section.Gdist = GapForThickness(model.ElementSection[row.Place].Gdist, section.Profile.s);
+    section.Gdist = GapForThickness(given.ElementSection[row.Place].Gdist, section.Profile.s);
   }
-  return Passes(design, numbers, row);
+  return Passes(std::move(calculation), row);
 }
 
 bool IsImpossible(const SelectionProposal& proposal, const ElementGroupRow& row) {
@@ -77,66 +73,66 @@ bool IsImpossible(const SelectionProposal& proposal, const ElementGroupRow& row)
 
 RC_GTEST_PROP(SelectionByOpinion, TakesTheFirstSizeThatPassesBoth, ()) {
   const CheckNumbers numbers = PickNumbers();
-  const DesignModel model = PickModel(numbers);
-  const SelectionProposal proposal = SelectByOpinion(model, numbers, false);
+  const trelonit::Design design = PickDesign();
+  const SelectionProposal proposal = SelectByOpinion(design, Catalogue(), numbers, false);
   RC_ASSERT(proposal.Rounds == 1);
   RC_ASSERT(proposal.Settled.has_value());
   for (const ElementGroupRow& row : elementGroups) {
     const SectionRec& section = proposal.Sections[row.Place];
-    if (!Exists(row, model)) {
-      RC_ASSERT(section == model.ElementSection[row.Place]);
+    if (!Exists(row, design)) {
+      RC_ASSERT(section == design.ElementSection[row.Place]);
       continue;
     }
-    RC_ASSERT(section.TypeIdx == model.ElementSection[row.Place].TypeIdx);
-    RC_ASSERT(section.Layout == model.ElementSection[row.Place].Layout);
-    RC_ASSERT(section.Profile == model.ProfileTypes[section.TypeIdx].Rec[section.SizeIdx]);
-    RC_ASSERT(Passes(*proposal.Settled, numbers, row) != IsImpossible(proposal, row));
+    RC_ASSERT(section.TypeIdx == design.ElementSection[row.Place].TypeIdx);
+    RC_ASSERT(section.Layout == design.ElementSection[row.Place].Layout);
+    RC_ASSERT(section.Profile == Catalogue()[section.TypeIdx].Rec[section.SizeIdx]);
+    RC_ASSERT(Passes(proposal.Settled->Result, row) != IsImpossible(proposal, row));
     if (IsImpossible(proposal, row)) {
-      RC_ASSERT(section.SizeIdx == model.ProfileTypes[section.TypeIdx].Rec.UpperBound());
+      RC_ASSERT(section.SizeIdx == Catalogue()[section.TypeIdx].Rec.UpperBound());
     }
     if (section.SizeIdx > 1) {
-      RC_ASSERT(!PassesWithSize(model, *proposal.Settled, numbers, row, section.SizeIdx - 1));
+      RC_ASSERT(!PassesWithSize(design, proposal.Settled->Result, row, section.SizeIdx - 1));
       const Long smaller = pick(1, section.SizeIdx - 1);
-      RC_ASSERT(!PassesWithSize(model, *proposal.Settled, numbers, row, smaller));
+      RC_ASSERT(!PassesWithSize(design, proposal.Settled->Result, row, smaller));
     }
   }
 }
 
 RC_GTEST_PROP(SelectionByOpinion, WithOwnWeightChangesNothingWhenCalculatedAgain, ()) {
   const CheckNumbers numbers = PickNumbers();
-  const DesignModel model = PickModel(numbers);
-  const SelectionProposal proposal = SelectByOpinion(model, numbers, true);
+  const trelonit::Design design = PickDesign();
+  const SelectionProposal proposal = SelectByOpinion(design, Catalogue(), numbers, true);
   RC_ASSERT(proposal.Rounds >= 1);
   RC_CLASSIFY(proposal.Rounds > 2, "more than two rounds");
-  trelonit::Design again = *proposal.Settled;
+  trelonit::Design again = proposal.Settled->Inputs;
   RC_ASSERT(again.ElementSection == proposal.Sections);
   RC_ASSERT(again.OwnWeightAdded);
-  RecordingMessages messages;
-  AnalyseAndCheck(again, numbers, messages);
-  RC_ASSERT(!ApplyOwnWeight(again, numbers, messages));
-  RC_ASSERT(again.Loads == proposal.Settled->Loads);
-  RC_ASSERT(AllForces(again.TreloResult) == AllForces(proposal.Settled->TreloResult));
-  RC_ASSERT(Numbers(again.CheckData) == Numbers(proposal.Check));
+  const Calculation repeated = Calculate(again, numbers).Value;
+  RC_ASSERT(!PutOwnWeight(again, OwnWeightPerMetreOf(repeated)));
+  RC_ASSERT(again.Loads == proposal.Settled->Inputs.Loads);
+  RC_ASSERT(AllForces(repeated.TreloResult) == AllForces(proposal.Settled->Result.TreloResult));
+  RC_ASSERT(Numbers(repeated.CheckData) == Numbers(proposal.Check));
   for (const ElementGroupRow& row : elementGroups) {
-    if (Exists(row, model)) {
-      RC_ASSERT(Passes(again, numbers, row) != IsImpossible(proposal, row));
+    if (Exists(row, design)) {
+      RC_ASSERT(Passes(repeated, row) != IsImpossible(proposal, row));
     }
   }
 }
 
 RC_GTEST_PROP(SelectionByOpinion, LeavesTheUsersLoadsAndAddsTheWeightOfItsSizes, ()) {
   const CheckNumbers numbers = PickNumbers();
-  const DesignModel model = PickModel(numbers);
-  const SelectionProposal without = SelectByOpinion(model, numbers, false);
-  RC_ASSERT(without.Settled->Loads == model.Loads);
-  RC_ASSERT(!without.Settled->OwnWeightAdded);
-  const trelonit::Design with = *SelectByOpinion(model, numbers, true).Settled;
-  const double perMetre =
-      with.CheckData.Mass / (with.TreloResult.SumLenUpPoyas + with.TreloResult.SumLenDwnPoyas);
-  RC_ASSERT(std::abs(with.OwnWeightPerMetre - perMetre) <= 0.5001e-4);
-  for (Long panel = 0; panel <= model.Loads.UpDistForce.UpperBound(); ++panel) {
-    RC_ASSERT(std::abs(with.Loads.UpDistForce[panel] - model.Loads.UpDistForce[panel] -
-                       with.OwnWeightPerMetre) <= 1e-9);
+  const trelonit::Design design = PickDesign();
+  const SelectionProposal without = SelectByOpinion(design, Catalogue(), numbers, false);
+  RC_ASSERT(without.Settled->Inputs.Loads == design.Loads);
+  RC_ASSERT(!without.Settled->Inputs.OwnWeightAdded);
+  const SelectionProposal with = SelectByOpinion(design, Catalogue(), numbers, true);
+  const trelonit::Design& weighing = with.Settled->Inputs;
+  const TreloResult& result = with.Settled->Result.TreloResult;
+  const double perMetre = with.Check.Mass / (result.SumLenUpPoyas + result.SumLenDwnPoyas);
+  RC_ASSERT(std::abs(weighing.OwnWeightPerMetre - perMetre) <= 0.5001e-4);
+  for (Long panel = 0; panel <= design.Loads.UpDistForce.UpperBound(); ++panel) {
+    RC_ASSERT(std::abs(weighing.Loads.UpDistForce[panel] - design.Loads.UpDistForce[panel] -
+                       weighing.OwnWeightPerMetre) <= 1e-9);
   }
 }
 
@@ -144,23 +140,24 @@ RC_GTEST_PROP(SelectionByOpinion, LeavesTheUsersLoadsAndAddsTheWeightOfItsSizes,
 TEST(SelectionByOpinion, MarksEveryGroupThatNoSizeOfItsStandardSuits) {
   const Pick low = [](Long least, Long) { return least; };
   for (Long scheme = 1; scheme <= 4; ++scheme) {
-    DesignModel model = AnyModel(low, scheme, std::vector<Long>(5, 11), StartNumbers());
-    model.TreloData = Design(scheme, 8, 24, 2.5, 3);
-    model.Loads = model.TreloData;
-    for (double& load : model.Loads.UpPForce) {
+    trelonit::Design design = AnyDesign(low, scheme, std::vector<Long>(5, 11));
+    design.TreloData = Design(scheme, 8, 24, 2.5, 3);
+    design.Loads = design.TreloData;
+    for (double& load : design.Loads.UpPForce) {
       load = 1e5;
     }
     // All web bars have a force but those posts whose joint below bears nothing.
-    for (double& load : model.Loads.DwnPForce) {
+    for (double& load : design.Loads.DwnPForce) {
       load = 1e5;
     }
     for (const bool ownWeight : {false, true}) {
-      const SelectionProposal proposal = SelectByOpinion(model, StartNumbers(), ownWeight);
+      const SelectionProposal proposal =
+          SelectByOpinion(design, Catalogue(), StartNumbers(), ownWeight);
       EXPECT_EQ(proposal.Impossible.size(), scheme == 3 ? 4U : 5U) << scheme;
       for (const ElementGroupRow& row : elementGroups) {
-        if (Exists(row, model)) {
+        if (Exists(row, design)) {
           const SectionRec& section = proposal.Sections[row.Place];
-          EXPECT_EQ(section.SizeIdx, model.ProfileTypes[section.TypeIdx].Rec.UpperBound());
+          EXPECT_EQ(section.SizeIdx, Catalogue()[section.TypeIdx].Rec.UpperBound());
         }
       }
     }
@@ -173,23 +170,23 @@ TEST(SelectionByOpinion, MarksEveryGroupThatNoSizeOfItsStandardSuits) {
 class TakingTurns {
  public:
   TakingTurns() {
-    model_.TreloData = SquareDesign(1, 4);
-    model_.TreloData.UpPoyasBrace = 1;
-    model_.TreloData.DownPoyasBrace = 1;
-    model_.Loads = model_.TreloData;
-    model_.ProfileTypes = ProfileTypeArray(1, 2);
-    model_.ProfileTypes[1].Rec = BoundedArray<ProfileRec>(1, 2);
+    design_.TreloData = SquareDesign(1, 4);
+    design_.TreloData.UpPoyasBrace = 1;
+    design_.TreloData.DownPoyasBrace = 1;
+    design_.Loads = design_.TreloData;
+    catalogue_ = ProfileTypeArray(1, 2);
+    catalogue_[1].Rec = BoundedArray<ProfileRec>(1, 2);
     // Slenderness 200 / sqrt(3) = 115 in the plane, phi 0.45: 45 cm2 count, against nearly 50.
-    model_.ProfileTypes[1].Rec[1] = Size(100, 300);
-    model_.ProfileTypes[1].Rec[2] = Size(50, 500000);
-    model_.ProfileTypes[2].Rec = BoundedArray<ProfileRec>(1, 1);
-    model_.ProfileTypes[2].Rec[1] = Size(60, 600000);
-    for (SectionRec& section : model_.ElementSection) {
-      section = {.TypeIdx = 2, .SizeIdx = 1, .Profile = model_.ProfileTypes[2].Rec[1], .Layout = 6};
+    catalogue_[1].Rec[1] = Size(100, 300);
+    catalogue_[1].Rec[2] = Size(50, 500000);
+    catalogue_[2].Rec = BoundedArray<ProfileRec>(1, 1);
+    catalogue_[2].Rec[1] = Size(60, 600000);
+    for (SectionRec& section : design_.ElementSection) {
+      section = {.TypeIdx = 2, .SizeIdx = 1, .Profile = catalogue_[2].Rec[1], .Layout = 6};
     }
-    SectionRec& upper = model_.ElementSection[sectionUpPoyas];
+    SectionRec& upper = design_.ElementSection[sectionUpPoyas];
     upper.TypeIdx = 1;
-    upper.Profile = model_.ProfileTypes[1].Rec[1];
+    upper.Profile = catalogue_[1].Rec[1];
     numbers_.LimitUser = 1000;
     // Between what the first size makes of the two weights. With E in the same proportion phi
     // stays, and the use falls with Ry.
@@ -198,19 +195,17 @@ class TakingTurns {
 
   /// The use of the first size under the weight of this one.
   double UseOfFirst(Long weighing) {
-    trelonit::Design design = model_;
-    design.ElementSection[sectionUpPoyas].Profile = model_.ProfileTypes[1].Rec[weighing];
-    RecordingMessages messages;
-    AnalyseAndCheck(design, numbers_, messages);
-    ApplyOwnWeight(design, numbers_, messages);
-    design.ElementSection[sectionUpPoyas].Profile = model_.ProfileTypes[1].Rec[1];
-    return LargestUse(CheckueStress(design.TreloData, design.TreloResult, numbers_,
-                                    design.ElementSection, messages)
-                          .UpPoyas);
+    trelonit::Design design = design_;
+    design.ElementSection[sectionUpPoyas].Profile = catalogue_[1].Rec[weighing];
+    const Calculation loaded = CalculateWithOwnWeight(design, numbers_);
+    design.ElementSection[sectionUpPoyas].Profile = catalogue_[1].Rec[1];
+    return LargestUse(
+        CheckueStress(loaded.TreloData, loaded.TreloResult, numbers_, design.ElementSection)
+            .Value.UpPoyas);
   }
 
   SelectionProposal Select(bool ownWeight) const {
-    return SelectByOpinion(model_, numbers_, ownWeight);
+    return SelectByOpinion(design_, catalogue_, numbers_, ownWeight);
   }
 
  private:
@@ -228,7 +223,8 @@ class TakingTurns {
     numbers_.E = Ry * 206000 / 240;
   }
 
-  DesignModel model_;
+  trelonit::Design design_;
+  ProfileTypeArray catalogue_;
   CheckNumbers numbers_{
       .Ry = 1, .E = 206000.0 / 240, .Yc = 0.9, .Gn = 1, .Density = 7.85, .LimitUser = 1000};
 };
@@ -246,17 +242,17 @@ TEST(SelectionByOpinion, EndsWhereTwoSizesWouldTakeTurns) {
 
 TEST(SelectionByOpinion, TakesALargerSizeThanTheProgramsOwnWhereTheNormAsksForOne) {
   const Pick middle = [](Long low, Long high) { return low + (high - low) / 2; };
-  DesignModel model = AnyModel(middle, 1, std::vector<Long>(5, 2), StartNumbers());
-  model.TreloData = Design(1, 8, 24, 2.5, 3);
-  model.TreloData.UpPoyasBrace = 1;
-  model.Loads = model.TreloData;
-  for (double& load : model.Loads.UpPForce) {
+  trelonit::Design design = AnyDesign(middle, 1, std::vector<Long>(5, 2));
+  design.TreloData = Design(1, 8, 24, 2.5, 3);
+  design.TreloData.UpPoyasBrace = 1;
+  design.Loads = design.TreloData;
+  for (double& load : design.Loads.UpPForce) {
     load = 3;
   }
-  RecordingMessages messages;
-  AnalyseAndCheck(model, StartNumbers(), messages);
-  const SelectionProposal told = SelectSections(model, StartNumbers(), messages);
-  const SelectionProposal both = SelectByOpinion(model, StartNumbers(), false);
+  Messages messages;
+  const SelectionProposal told =
+      SelectSections(Calculate(design, StartNumbers()).Value, Catalogue(), messages);
+  const SelectionProposal both = SelectByOpinion(design, Catalogue(), StartNumbers(), false);
   ASSERT_TRUE(told.Impossible.empty());
   EXPECT_EQ(told.Rounds, 0);
   EXPECT_FALSE(told.Settled.has_value());

@@ -6,7 +6,6 @@
 #include "tests/opinion/FindingsTools.h"
 #include "tests/opinion/OpinionCase.h"
 #include "tests/workstation/AnyDesign.h"
-#include "workstation/CalculationChain.h"
 #include "workstation/SecondOpinion.h"
 
 namespace trelonit::test {
@@ -259,17 +258,13 @@ TEST(Findings, HaveNamesForOtherPrograms) {
 
 TEST(Findings, OfAWholeOpinionTellWhetherThereIsADanger) {
   trelonit::Design design = Pulled(100);
-  CheckNumbers numbers = StartNumbers();
-  RecordingMessages messages;
-  AnalyseAndCheck(design, numbers, messages);
   const auto opinion = [&] {
-    return FormSecondOpinion(design, numbers, std::nullopt, {}, PointLocale());
+    return FormSecondOpinion(Calculate(design, StartNumbers()).Value, {}, PointLocale());
   };
   EXPECT_FALSE(opinion().HasDanger());
   EXPECT_FALSE(opinion().Findings.empty());
   // As the calculation would have it; the chord is 8 m long between its ends.
   design.ElementSection[sectionUpPoyas] = Single(20, 200, 200);
-  AnalyseAndCheck(design, numbers, messages);
   EXPECT_TRUE(opinion().HasDanger());
   EXPECT_EQ(opinion().Findings.front().Grade, Severity::Danger);
 }

@@ -25,11 +25,11 @@ TEST(ErrorMessage, TellsNumberAndDescriptionWithAStopIcon) {
   EXPECT_EQ(message.Style, MessageStyle::Critical);
 }
 
-TEST(TellsRuntimeError, KnowsTheCommonFormOfAFailure) {
-  EXPECT_TRUE(TellsRuntimeError(ErrorMessage("Form_Load", 53, "File not found")));
-  EXPECT_FALSE(TellsRuntimeError({"Form_Load", "File not found", MessageStyle::Critical}));
-  EXPECT_FALSE(TellsRuntimeError({"Form_Load", "x Err # 53", MessageStyle::Critical}));
-  EXPECT_FALSE(TellsRuntimeError({" Err # ", "", MessageStyle::Critical}));
+TEST(TellFailure, GoesByWhatHappenedAndNotByItsWords) {
+  EXPECT_TRUE(
+      TellFailure({{"Form_Load", "fine"}, ErrorMessage("Form_Load", 53, "File not found")}));
+  EXPECT_FALSE(TellFailure({{"Form_Load", " Err # 53", MessageStyle::Critical}}));
+  EXPECT_FALSE(TellFailure({}));
 }
 
 TEST(Guard, RunsTheBodyAndShowsNothing) {

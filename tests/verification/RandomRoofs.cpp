@@ -56,12 +56,11 @@ LoadArrays AnyLoads(Chance& chance, const TreloData& data) {
 
 RandomRoof AnyRoof(Chance& chance) {
   RandomRoof roof;
-  DesignModel& model = roof.Model;
-  model.TreloData = AnyGeometry(chance);
-  model.Loads = AnyLoads(chance, model.TreloData);
-  model.ProfileTypes = test::Catalogue();
+  Design& design = roof.Inputs;
+  design.TreloData = AnyGeometry(chance);
+  design.Loads = AnyLoads(chance, design.TreloData);
   const test::Pick pick = [&](Long low, Long high) { return chance.Whole(low, high); };
-  for (SectionRec& section : model.ElementSection) {
+  for (SectionRec& section : design.ElementSection) {
     section = test::AnySection(pick, chance.Whole(1, sectionLayoutCount));
   }
   roof.Numbers = {.Ry = chance.Of(std::vector<double>{230, 240, 250, 270, 315, 335}),

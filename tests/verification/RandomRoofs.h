@@ -2,12 +2,12 @@
 
 #include "checks/CheckNumbers.h"
 #include "tests/verification/Chance.h"
-#include "workstation/DesignModel.h"
+#include "workstation/Calculation.h"
 
 namespace trelonit::verification {
 
 struct RandomRoof {
-  DesignModel Model;  ///< not calculated
+  Design Inputs;
   CheckNumbers Numbers;
 };
 

@@ -5,9 +5,9 @@
 
 #include "checks/ElementGroups.h"
 #include "tests/verification/RandomRoofs.h"
-#include "workstation/CalculationChain.h"
+#include "tests/workstation/AnyDesign.h"
+#include "workstation/SecondOpinion.h"
 #include "workstation/Selection.h"
-#include "workstation/SilentMessages.h"
 #include "workstation/modHelper.h"
 
 namespace trelonit::verification {
@@ -15,16 +15,16 @@ namespace trelonit::verification {
 namespace {
 
 /// Selects once and calculates with what was selected.
-void SelectAndCalculate(RandomRoof& roof) {
-  SilentMessages silent;
-  AnalyseAndCheck(roof.Model, roof.Numbers, silent);
-  roof.Model.ElementSection = SelectSections(roof.Model, roof.Numbers, silent).Sections;
-  AnalyseAndCheck(roof.Model, roof.Numbers, silent);
+Calculation SelectAndCalculate(RandomRoof roof) {
+  const Calculation before = Calculate(roof.Inputs, roof.Numbers).Value;
+  Messages told;
+  roof.Inputs.ElementSection = SelectSections(before, test::Catalogue(), told).Sections;
+  return Calculate(roof.Inputs, roof.Numbers).Value;
 }
 
-bool PassesAsTold(const DesignModel& model) {
+bool PassesAsTold(const Calculation& calculation) {
   return std::all_of(elementGroups.begin(), elementGroups.end(), [&](const ElementGroupRow& row) {
-    const GroupCheck& group = model.CheckData.*row.Block;
+    const GroupCheck& group = calculation.CheckData.*row.Block;
     return group.Area > 0 && LargestUse(group) <= 1;
   });
 }
@@ -67,20 +67,15 @@ void Count(Tally& tally, const Opinion& opinion, const TreloData& data) {
 Tally CompareToldWithOpinion(Chance chance, int count) {
   Tally tally;
   for (; tally.Drawn < count; ++tally.Drawn) {
-    RandomRoof roof = AnyRoof(chance);
-    SelectAndCalculate(roof);
-    if (!PassesAsTold(roof.Model)) {
+    const Calculation calculation = SelectAndCalculate(AnyRoof(chance));
+    if (!PassesAsTold(calculation)) {
       continue;
     }
-    const Opinion opinion = FormOpinion({.Data = roof.Model.TreloData,
-                                         .Result = roof.Model.TreloResult,
-                                         .Check = roof.Model.CheckData,
-                                         .Sections = roof.Model.ElementSection,
-                                         .Numbers = roof.Numbers});
+    const Opinion opinion = FormOpinion(Judged(calculation));
     if (opinion.HasRefused()) {
       throw std::runtime_error("no opinion: " + opinion.Refusal);
     }
-    Count(tally, opinion, roof.Model.TreloData);
+    Count(tally, opinion, calculation.TreloData);
   }
   return tally;
 }

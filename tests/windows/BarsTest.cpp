@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
+#include "tests/workstation/Calculations.h"
 #include "tests/workstation/Desk.h"
 
 namespace trelonit::test {
@@ -72,7 +73,7 @@ class Bars : public ::testing::TestWithParam<Long> {
     }
     return counts;
   }
-  const TreloResult& Result() const { return desk_.Main.Model.TreloResult; }
+  const TreloResult& Result() const { return desk_.Main.Model.Last.TreloResult; }
   const LoadArrays& Loads() const { return desk_.Main.Model.Loads; }
 
  private:
@@ -207,16 +208,16 @@ TEST(BarsOfReservedSchemes, AreNone) {
   desk.Main.tabMain.SetTab(2);
   desk.Main.cmdCalculate_Click();
   TreloData data = desk.Main.Model.TreloData;
-  EXPECT_FALSE(BuildBars(data, desk.Main.Model.TreloResult).empty());
+  EXPECT_FALSE(BuildBars(CalculationOf(data, desk.Main.Model.Last.TreloResult)).empty());
   for (const Long scheme : {-1, 0, 5, 6, 7, 8, 9, 10}) {
     data.TreloType = scheme;
-    EXPECT_TRUE(BuildBars(data, desk.Main.Model.TreloResult).empty()) << scheme;
+    EXPECT_TRUE(BuildBars(CalculationOf(data, desk.Main.Model.Last.TreloResult)).empty()) << scheme;
   }
 }
 
 TEST(BarsWithoutAResult, AreNone) {
   StartedDesk desk;
-  EXPECT_TRUE(BuildBars(desk.Main.Model.TreloData, {}).empty());
+  EXPECT_TRUE(BuildBars(CalculationOf(desk.Main.Model.TreloData, TreloResult())).empty());
 }
 
 TEST(BarsOfAnotherScheme, AreNoneWhereTheForcesDoNotFit) {
@@ -225,7 +226,7 @@ TEST(BarsOfAnotherScheme, AreNoneWhereTheForcesDoNotFit) {
   desk.Main.cmdCalculate_Click();
   TreloData data = desk.Main.Model.TreloData;
   data.TreloType = 3;
-  EXPECT_TRUE(BuildBars(data, desk.Main.Model.TreloResult).empty());
+  EXPECT_TRUE(BuildBars(CalculationOf(data, desk.Main.Model.Last.TreloResult)).empty());
 }
 
 }  // namespace

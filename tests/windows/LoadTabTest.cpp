@@ -255,9 +255,9 @@ TEST_F(LoadScreen, TheDeflectionIsShownOnTheFirstTab) {
   Press("cmdCalculate");
   EXPECT_EQ(Tabs().currentIndex(), 0);
   ASSERT_EQ(Results.size(), 1U);
-  ASSERT_TRUE(Results[0].Progib.has_value());
+  ASSERT_TRUE(Results[0].Of.Progib.has_value());
   EXPECT_EQ(FromQt(Edit("txtProgib").text()),
-            FormatShown(Results[0].Progib->Value, 5, PointLocale()));
+            FormatShown(Results[0].Of.Progib->Value, 5, PointLocale()));
 }
 
 TEST(LoadInputsWithoutWindows, DisableTheirButtons) {

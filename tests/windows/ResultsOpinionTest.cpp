@@ -255,7 +255,7 @@ TEST(ResultsOfARefusal, HaveAnEmptyColumnAndSayWhy) {
 
 TEST(ResultsWithADeflection, ExplainItWhileNoRowIsChosen) {
   FilledResults results([](frmMain& form) { form.chkProgib.SetChecked(true); });
-  ASSERT_TRUE(results.Lists.Progib.has_value());
+  ASSERT_TRUE(results.Lists.Of.Progib.has_value());
   KoeffOfUseWindow& window = results.Open();
   const std::string text =
       FromQt(dynamic_cast<ExplanationView&>(Find<QWidget>(window, "Explanation")).InLine());

@@ -5,10 +5,9 @@
 
 #include "catalogue/SectionLayouts.h"
 #include "catalogue/modProfileData.h"
-#include "checks/modCheckueStress.h"
 #include "resources/EmbeddedResources.h"
 #include "tests/analysis/RandomDesigns.h"
-#include "workstation/DesignModel.h"
+#include "workstation/Calculation.h"
 
 namespace trelonit::test {
 
@@ -45,28 +44,22 @@ inline void LoadAny(BoundedArray<double>& loads, const Pick& pick) {
   }
 }
 
-/// A solved and checked design of the scheme; layouts by storage place.
-inline DesignModel AnyModel(const Pick& pick, Long scheme, const std::vector<Long>& layouts,
-                            const CheckNumbers& numbers) {
-  DesignModel model;
+/// A design of the scheme; layouts by storage place.
+inline trelonit::Design AnyDesign(const Pick& pick, Long scheme, const std::vector<Long>& layouts) {
   const std::vector<Long> counts = PanelCounts(scheme);
-  model.TreloData =
+  trelonit::Design design;
+  design.TreloData =
       Design(scheme, counts[static_cast<std::size_t>(pick(0, 6))], static_cast<double>(pick(6, 36)),
              static_cast<double>(pick(1, 4)), static_cast<double>(pick(5, 25)) / 10);
-  model.TreloData.UpPoyasBrace = static_cast<Integer>(pick(1, 4));
-  model.TreloData.DownPoyasBrace = static_cast<Integer>(pick(1, 4));
-  LoadAny(model.TreloData.UpPForce, pick);
-  LoadAny(model.TreloData.DwnDistForce, pick);
-  model.Loads = model.TreloData;
-  RecordingMessages messages;
-  model.TreloResult = CalcTrelo(model.TreloData, messages);
-  model.ProfileTypes = Catalogue();
+  design.TreloData.UpPoyasBrace = static_cast<Integer>(pick(1, 4));
+  design.TreloData.DownPoyasBrace = static_cast<Integer>(pick(1, 4));
+  design.Loads = design.TreloData;
+  LoadAny(design.Loads.UpPForce, pick);
+  LoadAny(design.Loads.DwnDistForce, pick);
   for (Long place = 1; place <= sectionCount; ++place) {
-    model.ElementSection[place] = AnySection(pick, layouts[static_cast<std::size_t>(place - 1)]);
+    design.ElementSection[place] = AnySection(pick, layouts[static_cast<std::size_t>(place - 1)]);
   }
-  model.CheckData =
-      CheckueStress(model.TreloData, model.TreloResult, numbers, model.ElementSection, messages);
-  return model;
+  return design;
 }
 
 }  // namespace trelonit::test

@@ -77,13 +77,13 @@ TEST(Calculate, KeepsWhatItFoundInTheModel) {
   desk.Load(false, 2, "2");
   desk.Calculate();
   const DesignModel& model = desk.Main.Model;
-  EXPECT_EQ(static_cast<const LoadArrays&>(model.TreloData), model.Loads);
-  EXPECT_EQ(model.TreloData.UpPForce[1], 4);
-  EXPECT_EQ(model.TreloData.DwnPForce[2], 2);
-  EXPECT_NEAR(model.TreloResult.ReactLeft, 4, 1e-12);
-  EXPECT_NEAR(model.TreloResult.ReactRight, 2, 1e-12);
-  EXPECT_NEAR(model.CheckData.UpPoyas.NMax.Value, 4, 1e-12);
-  EXPECT_NEAR(model.CheckData.Mass, 0.1288094514, 1e-9);
+  EXPECT_EQ(static_cast<const LoadArrays&>(model.Last.TreloData), model.Loads);
+  EXPECT_EQ(model.Last.TreloData.UpPForce[1], 4);
+  EXPECT_EQ(model.Last.TreloData.DwnPForce[2], 2);
+  EXPECT_NEAR(model.Last.TreloResult.ReactLeft, 4, 1e-12);
+  EXPECT_NEAR(model.Last.TreloResult.ReactRight, 2, 1e-12);
+  EXPECT_NEAR(model.Last.CheckData.UpPoyas.NMax.Value, 4, 1e-12);
+  EXPECT_NEAR(model.Last.CheckData.Mass, 0.1288094514, 1e-9);
 }
 
 TEST(Calculate, LeavesTheResultsAsTheyAreWhenAnInputMoves) {
@@ -92,10 +92,10 @@ TEST(Calculate, LeavesTheResultsAsTheyAreWhenAnInputMoves) {
   desk.Calculate();
   desk.Load(true, 1, "4");
   desk.Main.txtRy.SetText("480");
-  EXPECT_NEAR(desk.Main.Model.TreloResult.ReactLeft, 3, 1e-12);
-  EXPECT_EQ(desk.Main.Model.TreloData.UpPForce[1], 4);
+  EXPECT_NEAR(desk.Main.Model.Last.TreloResult.ReactLeft, 3, 1e-12);
+  EXPECT_EQ(desk.Main.Model.Last.TreloData.UpPForce[1], 4);
   desk.Calculate();
-  EXPECT_NEAR(desk.Main.Model.TreloResult.ReactLeft, 6, 1e-12);
+  EXPECT_NEAR(desk.Main.Model.Last.TreloResult.ReactLeft, 6, 1e-12);
   // Twice the force in twice the resistance.
   EXPECT_EQ(Coefficient(desk.Results.back(), "Прочность верхнего пояса"), "0.34936");
 }
@@ -186,8 +186,8 @@ TEST(Calculate, GoesOnToTheChecksAfterAFailedAnalysis) {
             (Messages{Tail("CalcTrelo1", 11, "Division by zero"), wrongMass,
                       SubscriptTail(formTitle), SubscriptTail("cmdCalculate_Click")}));
   EXPECT_TRUE(desk.Results.empty());
-  EXPECT_FALSE(desk.Main.Model.TreloResult.UpPoyasForce.IsAllocated());
-  EXPECT_EQ(desk.Main.Model.CheckData.Mass, 0);
+  EXPECT_FALSE(desk.Main.Model.Last.TreloResult.UpPoyasForce.IsAllocated());
+  EXPECT_EQ(desk.Main.Model.Last.CheckData.Mass, 0);
 }
 
 TEST(Calculate, WorksAgainAfterAFailedAnalysis) {
@@ -261,7 +261,7 @@ TEST(Calculate, DoesNotNeedItsWindow) {
   AddForce(form, 5, "4");
   form.cmdCalculate_Click();
   EXPECT_EQ(desk.TakeMessages(), Messages());
-  EXPECT_NEAR(form.Model.TreloResult.ReactLeft, 2, 1e-12);
+  EXPECT_NEAR(form.Model.Last.TreloResult.ReactLeft, 2, 1e-12);
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+#include "analysis/modMaxProgib.h"
 #include "tests/workstation/SmallTruss.h"
-#include "workstation/CalculationChain.h"
 
 namespace trelonit::test {
 namespace {
@@ -40,10 +40,10 @@ TEST_F(Deflection, WithinTheLimitIsShownOnTheFirstTab) {
   EXPECT_EQ(form.tabMain.Tab(), 0);
   EXPECT_EQ(form.txtProgib.Text(), "0.00688");
   EXPECT_EQ(form.imgLenLimoverflow.Shown(), Picture());
-  ASSERT_TRUE(desk.Results.back().Progib);
-  EXPECT_NEAR(desk.Results.back().Progib->Value, 0.006876915539791482, 1e-12);
-  EXPECT_EQ(desk.Results.back().Progib->Limit, 8.0 / 120);
-  EXPECT_TRUE(desk.Results.back().Progib->Satisfied);
+  ASSERT_TRUE(desk.Results.back().Of.Progib);
+  EXPECT_NEAR(desk.Results.back().Of.Progib->Value, 0.006876915539791482, 1e-12);
+  EXPECT_EQ(desk.Results.back().Of.Progib->Limit, 8.0 / 120);
+  EXPECT_TRUE(desk.Results.back().Of.Progib->Satisfied);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
@@ -55,7 +55,7 @@ TEST_F(Deflection, BeyondTheLimitIsMarked) {
   EXPECT_EQ(form.tabMain.Tab(), 0);
   EXPECT_EQ(form.txtProgib.Text(), "0.00688");
   EXPECT_EQ(form.imgLenLimoverflow.Shown(), BitmapOf(101));
-  EXPECT_FALSE(desk.Results.back().Progib->Satisfied);
+  EXPECT_FALSE(desk.Results.back().Of.Progib->Satisfied);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
@@ -91,7 +91,7 @@ TEST_F(Deflection, IsNotLookedAtUnasked) {
   form.txtProgib.SetText("old");
   form.imgLenLimoverflow.Show(BitmapOf(101));
   EXPECT_EQ(Calculated(), std::vector<std::string>());
-  EXPECT_FALSE(desk.Results.back().Progib);
+  EXPECT_FALSE(desk.Results.back().Of.Progib);
   EXPECT_EQ(form.tabMain.Tab(), 2);
   EXPECT_EQ(form.txtProgib.Text(), "old");
   EXPECT_EQ(form.imgLenLimoverflow.Shown(), BitmapOf(101));
@@ -105,7 +105,7 @@ TEST_F(Deflection, WithoutLoadsIsNone) {
 TEST_F(Deflection, TakesTheOwnWeightWithTheLoads) {
   form.chkOwnWeight.SetChecked(true);
   Calculated();
-  EXPECT_GT(desk.Results.back().Progib->Value, 0.00689);
+  EXPECT_GT(desk.Results.back().Of.Progib->Value, 0.00689);
 }
 
 TEST_F(Deflection, WithoutAReadableLimitTakesTheTail) {
@@ -163,9 +163,8 @@ TEST_P(DeflectionOfScheme, IsThatOfVirtualWork) {
   }
   desk.Calculate();
   const auto deflection = [&desk](bool upper) {
-    return CheckProgib(desk.Main.Model, upper, 210000, "1 / 120", PointLocale(),
-                       desk.Outside.Messages)
-        .Value;
+    const Calculation& last = desk.Main.Model.Last;
+    return CalcProgib(last.TreloData, last.TreloResult, last.CheckData, upper, 210000).Value;
   };
   EXPECT_NEAR(deflection(true), GetParam().Upper, 1e-12);
   EXPECT_NEAR(deflection(false), GetParam().Lower, 1e-12);
@@ -191,18 +190,21 @@ ProgibResult ExactDeflection(double force, const std::string& limit) {
   desk.Calculate();
   DesignModel& model = desk.Main.Model;
   for (GroupCheck* group :
-       {&model.CheckData.UpPoyas, &model.CheckData.DwnPoyas, &model.CheckData.Stoyka,
-        &model.CheckData.Raskos, &model.CheckData.OpornRaskos}) {
+       {&model.Last.CheckData.UpPoyas, &model.Last.CheckData.DwnPoyas, &model.Last.CheckData.Stoyka,
+        &model.Last.CheckData.Raskos, &model.Last.CheckData.OpornRaskos}) {
     group->Area = 1024;
   }
   for (BoundedArray<double>* forces :
-       {&model.TreloResult.UpPoyasForce, &model.TreloResult.DwnPoyasForce,
-        &model.TreloResult.RaskosForce, &model.TreloResult.StoykaForce}) {
+       {&model.Last.TreloResult.UpPoyasForce, &model.Last.TreloResult.DwnPoyasForce,
+        &model.Last.TreloResult.RaskosForce, &model.Last.TreloResult.StoykaForce}) {
     std::fill(forces->begin(), forces->end(), 0);
   }
-  model.TreloResult.StoykaForce[3] = -force;
+  model.Last.TreloResult.StoykaForce[3] = -force;
   constexpr double modulus = 98.1;
-  return CheckProgib(model, true, modulus, limit, PointLocale(), desk.Outside.Messages);
+  const Calculation& last = model.Last;
+  const double progib =
+      CalcProgib(last.TreloData, last.TreloResult, last.CheckData, true, modulus).Value;
+  return JudgeProgib(progib, last.TreloData.LengthF, limit, PointLocale());
 }
 
 TEST(DeflectionLimit, IsSatisfiedByADeflectionThatEqualsIt) {

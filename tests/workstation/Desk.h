@@ -89,7 +89,7 @@ class Desk {
   /// Whether the user takes a proposal.
   bool TakesProposals = false;
   /// What the drawings are to be made from, a report each.
-  std::vector<ReportSnapshot> Snapshots;
+  std::vector<Calculation> Snapshots;
   /// The pieces of the last report.
   std::vector<ReportPiece> Report;
   /// Whether the form was to be seen while the last window was open.
@@ -115,7 +115,7 @@ class Desk {
                   return TakesProposals ? std::optional(offer.Proposal) : std::nullopt;
                 },
             .BeginOtchet =
-                [this](const ReportSnapshot& snapshot) {
+                [this](const Calculation& snapshot) {
                   Snapshots.push_back(snapshot);
                   Report.clear();
                 },

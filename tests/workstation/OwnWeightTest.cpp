@@ -2,7 +2,7 @@
 
 #include "tests/workstation/LoadEntry.h"
 #include "tests/workstation/SmallTruss.h"
-#include "workstation/CalculationChain.h"
+#include "workstation/OwnWeight.h"
 
 namespace trelonit::test {
 namespace {
@@ -58,7 +58,7 @@ TEST_F(OwnWeight, IsInTheForcesShown) {
                 "1.1292 тонн",
                 " ",
             }));
-  EXPECT_EQ(static_cast<const LoadArrays&>(form.Model.TreloData), form.Model.Loads);
+  EXPECT_EQ(static_cast<const LoadArrays&>(form.Model.Last.TreloData), form.Model.Loads);
 }
 
 TEST_F(OwnWeight, IsShownAmongTheLoads) {
@@ -158,23 +158,15 @@ TEST_F(OwnWeight, IsAddedOnceMoreAfterTheLoadsWereCleared) {
 }
 
 /// The own weight a metre that comes of this mass, with chords of 16 m.
-double PerMetreOf(DesignModel model, double mass, MessageService& messages) {
-  model.CheckData.Mass = mass;
-  model.OwnWeightAdded = false;
-  EXPECT_TRUE(ApplyOwnWeight(
-      model, {.Ry = 240, .E = 210000, .Yc = 1, .Gn = 1, .Density = 7.85, .LimitUser = 150},
-      messages));
-  EXPECT_TRUE(model.OwnWeightAdded);
-  EXPECT_EQ(model.Loads.DwnDistForce[0], model.OwnWeightPerMetre);
-  return model.OwnWeightPerMetre;
+double PerMetreOf(Calculation calculation, double mass) {
+  calculation.CheckData.Mass = mass;
+  return OwnWeightPerMetreOf(calculation);
 }
 
 TEST_F(OwnWeight, IsRoundedToFourDecimalsHalfAwayFromZero) {
   form.chkOwnWeight.SetChecked(false);
   desk.Calculate();
-  const auto perMetre = [this](double mass) {
-    return PerMetreOf(form.Model, mass, desk.Outside.Messages);
-  };
+  const auto perMetre = [this](double mass) { return PerMetreOf(form.Model.Last, mass); };
   EXPECT_EQ(perMetre(16 * 0.00014), 0.0001);
   EXPECT_EQ(perMetre(16 * 0.00015), 0.0002);
   EXPECT_EQ(perMetre(16 * 1.25), 1.25);
@@ -197,13 +189,11 @@ TEST_F(OwnWeight, ThatRoundsToNothingCannotBeTakenOutLater) {
   EXPECT_FALSE(form.Model.OwnWeightAdded);
 }
 
-TEST_F(OwnWeight, OfTheSameAmountAnalysesNothingAnew) {
+TEST_F(OwnWeight, OfTheSameAmountChangesNothing) {
   desk.Calculate();
-  DesignModel model = form.Model;
-  model.TreloResult.ReactLeft = 77;
-  EXPECT_FALSE(ApplyOwnWeight(model, form.ReadCheckNumbers(), desk.Outside.Messages));
-  EXPECT_EQ(model.TreloResult.ReactLeft, 77);
-  EXPECT_EQ(model.Loads, form.Model.Loads);
+  Design design = form.Model;
+  EXPECT_FALSE(PutOwnWeight(design, OwnWeightPerMetreOf(form.Model.Last)));
+  EXPECT_EQ(design.Loads, form.Model.Loads);
 }
 
 /// A scheme and what a metre of its chords weighs.

@@ -396,10 +396,10 @@ TEST_F(RestoreCommand, LeavesTheResultsAsTheyAre) {
   AddForce(form, 5, "4");
   form.cmdCalculate_Click();
   ASSERT_EQ(desk.Results.size(), 1U);
-  const double mass = form.Model.CheckData.Mass;
+  const double mass = form.Model.Last.CheckData.Mass;
   EXPECT_GT(mass, 0);
   EXPECT_TRUE(Restore(FiveSections("1")));
-  EXPECT_EQ(form.Model.CheckData.Mass, mass);
+  EXPECT_EQ(form.Model.Last.CheckData.Mass, mass);
   EXPECT_EQ(desk.Results.size(), 1U);
 }
 

@@ -20,7 +20,8 @@ class ReportAppendix : public ::testing::Test {
 
   ReportPieces Pieces() {
     ReportPieces pieces;
-    WriteReportAppendix(desk.Main.Model.CheckData, desk.Results.back().Opinion, desk.Outside.Locale,
+    WriteReportAppendix(desk.Main.Model.Last.CheckData, desk.Results.back().Opinion,
+                        desk.Outside.Locale,
                         [&pieces](const ReportPiece& piece) { pieces.push_back(piece); });
     return pieces;
   }

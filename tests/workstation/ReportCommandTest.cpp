@@ -8,7 +8,7 @@ namespace {
 
 const Message wrongMass = Stop("Не правильно расчитана масса фермы !");
 
-void ExpectSnapshotOf(const DesignModel& model, const ReportSnapshot& snapshot) {
+void ExpectSnapshotOf(const DesignModel& model, const Calculation& snapshot) {
   EXPECT_EQ(snapshot.TreloData.TreloType, model.TreloData.TreloType);
   EXPECT_EQ(snapshot.TreloData.LengthF, model.TreloData.LengthF);
   EXPECT_EQ(snapshot.TreloData.Hight, model.TreloData.Hight);
@@ -17,16 +17,16 @@ void ExpectSnapshotOf(const DesignModel& model, const ReportSnapshot& snapshot) 
   EXPECT_EQ(snapshot.TreloData.UpPoyasBrace, model.TreloData.UpPoyasBrace);
   EXPECT_EQ(snapshot.TreloData.DownPoyasBrace, model.TreloData.DownPoyasBrace);
   EXPECT_EQ(static_cast<const LoadArrays&>(snapshot.TreloData), model.Loads);
-  EXPECT_EQ(snapshot.TreloResult.UpPoyasForce, model.TreloResult.UpPoyasForce);
-  EXPECT_EQ(snapshot.TreloResult.DwnPoyasForce, model.TreloResult.DwnPoyasForce);
-  EXPECT_EQ(snapshot.TreloResult.RaskosForce, model.TreloResult.RaskosForce);
-  EXPECT_EQ(snapshot.TreloResult.StoykaForce, model.TreloResult.StoykaForce);
-  EXPECT_EQ(snapshot.TreloResult.BarForce, model.TreloResult.BarForce);
-  EXPECT_EQ(snapshot.TreloResult.ReactLeft, model.TreloResult.ReactLeft);
-  EXPECT_EQ(snapshot.TreloResult.Balanced, model.TreloResult.Balanced);
-  EXPECT_EQ(snapshot.CheckData.Mass, model.CheckData.Mass);
-  EXPECT_EQ(snapshot.CheckData.Stoyka.KStabY, model.CheckData.Stoyka.KStabY);
-  EXPECT_EQ(snapshot.CheckData.OpornRaskos.LenX, model.CheckData.OpornRaskos.LenX);
+  EXPECT_EQ(snapshot.TreloResult.UpPoyasForce, model.Last.TreloResult.UpPoyasForce);
+  EXPECT_EQ(snapshot.TreloResult.DwnPoyasForce, model.Last.TreloResult.DwnPoyasForce);
+  EXPECT_EQ(snapshot.TreloResult.RaskosForce, model.Last.TreloResult.RaskosForce);
+  EXPECT_EQ(snapshot.TreloResult.StoykaForce, model.Last.TreloResult.StoykaForce);
+  EXPECT_EQ(snapshot.TreloResult.BarForce, model.Last.TreloResult.BarForce);
+  EXPECT_EQ(snapshot.TreloResult.ReactLeft, model.Last.TreloResult.ReactLeft);
+  EXPECT_EQ(snapshot.TreloResult.Balanced, model.Last.TreloResult.Balanced);
+  EXPECT_EQ(snapshot.CheckData.Mass, model.Last.CheckData.Mass);
+  EXPECT_EQ(snapshot.CheckData.Stoyka.KStabY, model.Last.CheckData.Stoyka.KStabY);
+  EXPECT_EQ(snapshot.CheckData.OpornRaskos.LenX, model.Last.CheckData.OpornRaskos.LenX);
   EXPECT_EQ(snapshot.ElementSection, model.ElementSection);
 }
 
@@ -52,7 +52,7 @@ TEST_F(ReportCommand, HandsOverTheSnapshotThenThePiecesThenShows) {
   std::vector<std::string> events;
   frmMain late(
       desk.Outside.Bundle(),
-      {.BeginOtchet = [&](const ReportSnapshot&) { events.push_back("begin"); },
+      {.BeginOtchet = [&](const Calculation&) { events.push_back("begin"); },
        .AppendOtchet =
            [&](const ReportPiece& piece) { events.push_back(piece.Heading ? "heading" : "line"); },
        .ShowOtchet = [&] { events.push_back("show"); }});
@@ -157,9 +157,9 @@ TEST_F(ReportCommand, AddsTheOwnWeightToTheLoadsItLists) {
   ExpectSameLine(*left, "Реакция левой опоры фермы : 3.0648", "");
   ExpectSameLine(*(left + 2),
                  "Реакция левой опоры фермы с учетом масы фермы : " +
-                     NumberToText(3.0648 + form.Model.CheckData.Mass / 2, {}),
+                     NumberToText(3.0648 + form.Model.Last.CheckData.Mass / 2, {}),
                  "");
-  EXPECT_NEAR(form.Model.CheckData.Mass, 0.1288095, 1e-7);
+  EXPECT_NEAR(form.Model.Last.CheckData.Mass, 0.1288095, 1e-7);
 }
 
 TEST_F(ReportCommand, DoesNotAddTheOwnWeightTwice) {
@@ -214,11 +214,7 @@ TEST_F(ReportCommand, LeavesTheDesignAsACalculationDoes) {
   }
   Report();
   calculated.Calculate();
-  ReportSnapshot result{.TreloData = calculated.Main.Model.TreloData,
-                        .TreloResult = calculated.Main.Model.TreloResult,
-                        .CheckData = calculated.Main.Model.CheckData,
-                        .ElementSection = calculated.Main.Model.ElementSection};
-  ExpectSnapshotOf(form.Model, result);
+  ExpectSnapshotOf(form.Model, calculated.Main.Model.Last);
   EXPECT_EQ(form.Model.OwnWeightPerMetre, calculated.Main.Model.OwnWeightPerMetre);
 }
 

@@ -10,8 +10,8 @@ namespace {
 
 ReportText BracingLines(Integer upper, Integer lower) {
   NumberedDesign design;
-  design.Model.TreloData.UpPoyasBrace = upper;
-  design.Model.TreloData.DownPoyasBrace = lower;
+  design.Of.TreloData.UpPoyasBrace = upper;
+  design.Of.TreloData.DownPoyasBrace = lower;
   return Between(design.Lines(), "Раскрепление поясов фермы : ", "Материал фермы : ");
 }
 
@@ -45,7 +45,7 @@ TEST(ReportOfBracing, SaysNothingOfAWayThatIsNone) {
 /// What stands between the size and the area in the block of the upper chord.
 ReportText LayoutLines(Long layout) {
   NumberedDesign design;
-  design.Model.ElementSection[sectionUpPoyas].Layout = layout;
+  design.Of.ElementSection[sectionUpPoyas].Layout = layout;
   ReportText lines = Between(design.Lines(), "Типоразмер металлопроката " + Wide("Пер1", 15),
                              "Площадь сечения : 101 \x63м^2");
   lines.erase(lines.begin());
@@ -80,7 +80,7 @@ TEST(ReportOfSections, SaysNothingOfALayoutThatIsNone) {
 
 TEST(ReportOfSections, GoesByTheLayoutAndNotByTheMarkOfPairs) {
   NumberedDesign design;
-  for (SectionRec& section : design.Model.ElementSection) {
+  for (SectionRec& section : design.Of.ElementSection) {
     section.Paired = section.Layout == 1;
   }
   EXPECT_EQ(design.Lines(), NumberedDesign().Lines());
@@ -88,7 +88,7 @@ TEST(ReportOfSections, GoesByTheLayoutAndNotByTheMarkOfPairs) {
 
 TEST(ReportOfSections, FillsTheFieldsOfNamesWithBlanks) {
   NumberedDesign design;
-  ProfileRec& profile = design.Model.ElementSection[sectionUpPoyas].Profile;
+  ProfileRec& profile = design.Of.ElementSection[sectionUpPoyas].Profile;
   profile.Type = std::string_view(std::string(60, 'T'));
   profile.Name = std::string_view(std::string(20, 'N'));
   ReportText lines = design.Lines();
@@ -109,7 +109,7 @@ TEST(ReportOfLoads, TellsWhetherTheyAreDynamic) {
   const std::string off = "Учет динамических нагрузок отключен ";
   EXPECT_TRUE(HasLine(design.Lines(), off));
   EXPECT_FALSE(HasLine(design.Lines(), on));
-  design.Inputs.Numbers.Dynamic = true;
+  design.Of.Numbers.Dynamic = true;
   EXPECT_TRUE(HasLine(design.Lines(), on));
   EXPECT_FALSE(HasLine(design.Lines(), off));
 }
@@ -134,13 +134,6 @@ TEST(ReportOfLoads, PutsAllRowsOfAnArrayInOnePiece) {
                        " узел № 1 , приложенное усилие : 1234567.5 тонн \r\n"));
   EXPECT_EQ(after("Загружения на панели нижнего пояса с лева на право : "),
             PlainPiece(" панель № 0 , приложенное усилие : 0.375 тонн \r\n"));
-}
-
-// The loads of the user, not the copy that the last analysis took.
-TEST(ReportOfLoads, TakesTheMasterLoads) {
-  NumberedDesign design;
-  static_cast<LoadArrays&>(design.Model.TreloData) = ZeroLoads({1, 1, 1, 1});
-  EXPECT_EQ(design.Lines(), NumberedDesign().Lines());
 }
 
 // --- deflection among the inputs
@@ -229,12 +222,12 @@ TEST(ReportOfCoefficients, LeavesOutEachThatIsNotAboveZero) {
     for (const double value : {0.0, -0.0, -0.5}) {
       NumberedDesign design;
       ReportText expected = design.Lines();
-      const double shown = design.Model.CheckData.Raskos.*coefficient.Field;
+      const double shown = design.Of.CheckData.Raskos.*coefficient.Field;
       const auto line = std::find(expected.begin(), expected.end(),
                                   coefficient.Line + NumberToText(shown, PointLocale()));
       ASSERT_NE(line, expected.end()) << coefficient.Line;
       expected.erase(line);
-      design.Model.CheckData.Raskos.*coefficient.Field = value;
+      design.Of.CheckData.Raskos.*coefficient.Field = value;
       EXPECT_EQ(design.Lines(), expected) << coefficient.Line << value;
     }
   }
@@ -243,7 +236,7 @@ TEST(ReportOfCoefficients, LeavesOutEachThatIsNotAboveZero) {
 TEST(ReportOfCoefficients, ShowsTheLeastThatIsAboveZero) {
   for (const Coefficient& coefficient : Coefficients()) {
     NumberedDesign design;
-    design.Model.CheckData.Stoyka.*coefficient.Field = 1e-300;
+    design.Of.CheckData.Stoyka.*coefficient.Field = 1e-300;
     EXPECT_TRUE(HasLine(design.Lines(), coefficient.Line + std::string("1E-300")));
   }
 }
@@ -251,7 +244,7 @@ TEST(ReportOfCoefficients, ShowsTheLeastThatIsAboveZero) {
 TEST(ReportOfCoefficients, KeepsTheTitleOfAGroupWithoutAny) {
   NumberedDesign design;
   for (const Coefficient& coefficient : Coefficients()) {
-    design.Model.CheckData.DwnPoyas.*coefficient.Field = 0;
+    design.Of.CheckData.DwnPoyas.*coefficient.Field = 0;
   }
   EXPECT_EQ(Between(design.Lines(), "*** Нижний пояс : ", "*** Опорные раскосы : "),
             ReportText{"*** Нижний пояс : "});

@@ -12,7 +12,7 @@ namespace trelonit::test {
 class NumberedDesign {
  public:
   explicit NumberedDesign(Long scheme = 1) {
-    TreloData& data = Model.TreloData;
+    TreloData& data = Of.TreloData;
     data.TreloType = scheme;
     data.LengthF = 24.5;
     data.Hight = 2.25;
@@ -20,11 +20,18 @@ class NumberedDesign {
     data.PanelNum = 8;
     data.UpPoyasBrace = 1;
     data.DownPoyasBrace = 3;
-    Model.Loads.UpPForce = Array(0, {0, 1.5, -2.25});
-    Model.Loads.UpDistForce = Array(0, {0.125, 0});
-    Model.Loads.DwnPForce = Array(0, {1e-5, 1234567.5});
-    Model.Loads.DwnDistForce = Array(0, {0.375});
-    TreloResult& result = Model.TreloResult;
+    Of.TreloData.UpPForce = Array(0, {0, 1.5, -2.25});
+    Of.TreloData.UpDistForce = Array(0, {0.125, 0});
+    Of.TreloData.DwnPForce = Array(0, {1e-5, 1234567.5});
+    Of.TreloData.DwnDistForce = Array(0, {0.375});
+    Of.Numbers = {.Ry = 240.5,
+                  .E = 210000,
+                  .Yc = 0.95,
+                  .Gn = 1.05,
+                  .Density = 7.85,
+                  .Dynamic = false,
+                  .LimitUser = 150};
+    TreloResult& result = Of.TreloResult;
     result.AngleOporn = 0.910005;
     result.AngleRaskos = 0.82;
     result.LenOpornRaskos = 3.123454;
@@ -35,12 +42,12 @@ class NumberedDesign {
     result.StoykaForce = Array(1, {-8.5, 1e-16});
     result.ReactLeft = 20;
     result.ReactRight = 30.5;
-    Model.CheckData = {.UpPoyas = Group(100),
-                       .DwnPoyas = Group(200),
-                       .Stoyka = Group(300),
-                       .Raskos = Group(400),
-                       .OpornRaskos = Group(500),
-                       .Mass = 8.5};
+    Of.CheckData = {.UpPoyas = Group(100),
+                    .DwnPoyas = Group(200),
+                    .Stoyka = Group(300),
+                    .Raskos = Group(400),
+                    .OpornRaskos = Group(500),
+                    .Mass = 8.5};
     Put(sectionUpPoyas, "Первый стандарт", "Пер1", 1, 11);
     Put(sectionDwnPoyas, "Второй стандарт", "Вт2", 2, 12.5);
     Put(sectionRaskos, "Третий стандарт", "Тре3", 8, 13);
@@ -59,7 +66,7 @@ class NumberedDesign {
   /// The first part of the report: all up to the deflection.
   ReportPieces Pieces(const NumberLocale& locale = PointLocale()) const {
     ReportPieces pieces;
-    WriteReport(Model, Inputs, locale, Into(pieces));
+    WriteReport(Of, Inputs, locale, Into(pieces));
     return pieces;
   }
   ReportText Lines(const NumberLocale& locale = PointLocale()) const {
@@ -67,7 +74,7 @@ class NumberedDesign {
   }
   ReportText Additional(const NumberLocale& locale = PointLocale()) const {
     ReportPieces pieces;
-    WriteReportAdditional(Model, locale, Into(pieces));
+    WriteReportAdditional(Of, locale, Into(pieces));
     return LinesOf(pieces);
   }
 
@@ -75,18 +82,9 @@ class NumberedDesign {
     return [&pieces](const ReportPiece& piece) { pieces.push_back(piece); };
   }
 
-  DesignModel Model;
-  ReportInputs Inputs{.SteelName = "Сталь пробная",
-                      .Numbers = {.Ry = 240.5,
-                                  .E = 210000,
-                                  .Yc = 0.95,
-                                  .Gn = 1.05,
-                                  .Density = 7.85,
-                                  .Dynamic = false,
-                                  .LimitUser = 150},
-                      .ProgibOn = false,
-                      .ProgibUpper = true,
-                      .LenLim = "1 / 120"};
+  Calculation Of;
+  ReportInputs Inputs{
+      .SteelName = "Сталь пробная", .ProgibOn = false, .ProgibUpper = true, .LenLim = "1 / 120"};
 
  private:
   static GroupCheck Group(double first) {
@@ -114,7 +112,7 @@ class NumberedDesign {
   }
 
   void Put(SectionPlace place, const char* standard, const char* size, Long layout, double gap) {
-    SectionRec& section = Model.ElementSection[place];
+    SectionRec& section = Of.ElementSection[place];
     section.Profile.Type = standard;
     section.Profile.Name = size;
     section.Layout = layout;

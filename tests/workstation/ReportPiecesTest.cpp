@@ -46,7 +46,7 @@ TEST(ReportPiecesOf, GiveAHeadingALineEndOnEitherSideAndAnyOtherLineOneBehindIt)
 
 TEST(ReportPiecesOf, SetTheAdditionalInformationApart) {
   ReportPieces pieces;
-  WriteReportAdditional(NumberedDesign().Model, PointLocale(), NumberedDesign::Into(pieces));
+  WriteReportAdditional(NumberedDesign().Of, PointLocale(), NumberedDesign::Into(pieces));
   ASSERT_GT(pieces.size(), 4U);
   EXPECT_EQ(
       ReportPieces(pieces.begin(), pieces.begin() + 4),
@@ -123,9 +123,9 @@ TEST(ReportNumbers, AreInTheUsersLocale) {
 
 TEST(ReportNumbers, HaveFifteenDigitsAndNoSignOfZero) {
   NumberedDesign design;
-  design.Model.TreloResult.UpPoyasForce[1] = -std::sqrt(2.0);
-  design.Model.TreloResult.UpPoyasForce[2] = -0.0;
-  design.Model.TreloResult.ReactLeft = 1e20;
+  design.Of.TreloResult.UpPoyasForce[1] = -std::sqrt(2.0);
+  design.Of.TreloResult.UpPoyasForce[2] = -0.0;
+  design.Of.TreloResult.ReactLeft = 1e20;
   const ReportText lines = design.Lines();
   EXPECT_TRUE(HasLine(lines, " \x43тержень № 1 , усилие : -1.4142135623731 тонн "));
   EXPECT_TRUE(HasLine(lines, " \x43тержень № 2 , усилие : 0 тонн "));
@@ -134,11 +134,11 @@ TEST(ReportNumbers, HaveFifteenDigitsAndNoSignOfZero) {
 
 TEST(ReportNumbers, OfAMassBeyondEveryReactionRaise) {
   NumberedDesign design;
-  design.Model.CheckData.Mass = 1e308;
-  design.Model.TreloResult.ReactLeft = 1.7e308;
+  design.Of.CheckData.Mass = 1e308;
+  design.Of.TreloResult.ReactLeft = 1.7e308;
   ReportPieces pieces;
   try {
-    WriteReport(design.Model, design.Inputs, PointLocale(), NumberedDesign::Into(pieces));
+    WriteReport(design.Of, design.Inputs, PointLocale(), NumberedDesign::Into(pieces));
     FAIL();
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), 6);
@@ -149,10 +149,10 @@ TEST(ReportNumbers, OfAMassBeyondEveryReactionRaise) {
 TEST(ReportOfAnEmptyResult, StopsAtTheForcesAndKeepsWhatStandsBefore) {
   const ReportPieces whole = NumberedDesign().Pieces();
   NumberedDesign design;
-  design.Model.TreloResult = {};
+  design.Of.TreloResult = {};
   ReportPieces pieces;
   try {
-    WriteReport(design.Model, design.Inputs, PointLocale(), NumberedDesign::Into(pieces));
+    WriteReport(design.Of, design.Inputs, PointLocale(), NumberedDesign::Into(pieces));
     FAIL();
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), 9);
@@ -167,7 +167,7 @@ TEST(ReportOfAnEmptyResult, StopsAtTheForcesAndKeepsWhatStandsBefore) {
 
 TEST(ReportOfAnEmptyResult, HasItsEndAllTheSame) {
   NumberedDesign design;
-  design.Model.TreloResult = {};
+  design.Of.TreloResult = {};
   EXPECT_TRUE(HasLine(design.Additional(), "Угол наклона раскосов : 0.00000 рад "));
 }
 

@@ -90,7 +90,7 @@ TEST(ResultLists, OfATrussOnItsLowerChord) {
           {"Гибкость стоек ", "3.06166"},
           {"Гибкость стоек по предельной гибкости, заданной пользователем", "3.06166"},
       }));
-  EXPECT_FALSE(lists.Progib);
+  EXPECT_FALSE(lists.Of.Progib);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
@@ -169,7 +169,7 @@ TEST(ResultLists, OfATrussOnItsUpperChord) {
           {"Гибкость стоек ", "3.06166"},
           {"Гибкость стоек по предельной гибкости, заданной пользователем", "3.06166"},
       }));
-  EXPECT_FALSE(lists.Progib);
+  EXPECT_FALSE(lists.Of.Progib);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
@@ -236,7 +236,7 @@ TEST(ResultLists, OfALatticeWithoutVerticals) {
           {"Гибкость опорных раскосов ", "0.69875"},
           {"Гибкость опорных раскосов по предельной гибкости, заданной пользователем", "0.77195"},
       }));
-  EXPECT_FALSE(lists.Progib);
+  EXPECT_FALSE(lists.Of.Progib);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
@@ -313,7 +313,7 @@ TEST(ResultLists, OfATrussWithEverySecondVertical) {
           {"Гибкость стоек ", "3.06166"},
           {"Гибкость стоек по предельной гибкости, заданной пользователем", "3.06166"},
       }));
-  EXPECT_FALSE(lists.Progib);
+  EXPECT_FALSE(lists.Of.Progib);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 

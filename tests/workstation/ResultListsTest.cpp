@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+#include "tests/workstation/Calculations.h"
 #include "tests/workstation/Desk.h"
 #include "workstation/frmKoeffOfUse.h"
 
@@ -78,13 +79,14 @@ TEST(ForceList, NumbersTheBarsOfEachGroupFromOne) {
                        "34.0000 тонн",
                        " "};
   for (const Long scheme : {1, 2, 4}) {
-    EXPECT_EQ(BuildForceList(scheme, NumberedResult(), 8, PointLocale()), expected) << scheme;
+    EXPECT_EQ(BuildForceList(CalculationOf(scheme, NumberedResult(), 8), PointLocale()), expected)
+        << scheme;
   }
 }
 
 TEST(ForceList, HasVerticalsOnlyWhereTheSchemeHas) {
   for (const Long scheme : {3, 5, 10}) {
-    const Lines lines = BuildForceList(scheme, NumberedResult(), 8, PointLocale());
+    const Lines lines = BuildForceList(CalculationOf(scheme, NumberedResult(), 8), PointLocale());
     EXPECT_EQ(lines.size(), 30U) << scheme;
     EXPECT_EQ(std::count(lines.begin(), lines.end(), " Стойки :"), 0) << scheme;
   }
@@ -93,17 +95,17 @@ TEST(ForceList, HasVerticalsOnlyWhereTheSchemeHas) {
 TEST(ForceList, WritesFourDecimalsInTheUsersLocale) {
   TreloResult result = NumberedResult();
   result.UpPoyasForce = Forces({-1234.56785, -0.00001, 0.00005, 0.00004999});
-  const Lines point = BuildForceList(1, result, 8, PointLocale());
+  const Lines point = BuildForceList(CalculationOf(1, result, 8), PointLocale());
   EXPECT_EQ(point.at(3), " Усилие в 1-ом стержне  -1,234.5679 тонн");
   EXPECT_EQ(point.at(4), " Усилие в 2-ом стержне  0.0000 тонн");
   EXPECT_EQ(point.at(5), " Усилие в 3-ом стержне  0.0001 тонн");
   EXPECT_EQ(point.at(6), " Усилие в 4-ом стержне  0.0000 тонн");
-  const Lines comma = BuildForceList(1, result, 8, CommaLocale());
+  const Lines comma = BuildForceList(CalculationOf(1, result, 8), CommaLocale());
   EXPECT_EQ(comma.at(3), " Усилие в 1-ом стержне  -1\u00A0234,5679 тонн");
 }
 
 TEST(ForceList, WritesALatinLetterOverTheReactionsWithMass) {
-  const Lines lines = BuildForceList(1, NumberedResult(), 8, PointLocale());
+  const Lines lines = BuildForceList(CalculationOf(1, NumberedResult(), 8), PointLocale());
   EXPECT_EQ(
       std::count(lines.begin(), lines.end(), " Реакции опор \x63 учетом собственной массы фермы:"),
       1);
@@ -111,7 +113,7 @@ TEST(ForceList, WritesALatinLetterOverTheReactionsWithMass) {
 
 TEST(ForceList, OfAnEmptyResultRaises) {
   try {
-    BuildForceList(1, {}, 0, PointLocale());
+    BuildForceList(CalculationOf(1, TreloResult()), PointLocale());
     FAIL();
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), 9);
@@ -157,11 +159,13 @@ TEST(UtilisationGrid, TakesEachGroupFromItsOwnBlock) {
       {"Гибкость стоек по предельной гибкости, заданной пользователем", "36.00000"},
   };
   for (const Long scheme : {1, 2, 4}) {
-    EXPECT_EQ(BuildUtilisationGrid(scheme, check, PointLocale()), expected) << scheme;
+    EXPECT_EQ(BuildUtilisationGrid(CalculationOf(scheme, check), PointLocale()), expected)
+        << scheme;
   }
   const Rows withoutVerticals(expected.begin(), expected.end() - 6);
   for (const Long scheme : {3, 5}) {
-    EXPECT_EQ(BuildUtilisationGrid(scheme, check, PointLocale()), withoutVerticals) << scheme;
+    EXPECT_EQ(BuildUtilisationGrid(CalculationOf(scheme, check), PointLocale()), withoutVerticals)
+        << scheme;
   }
 }
 
@@ -171,7 +175,7 @@ TEST(UtilisationGrid, TakesTheGreaterSlendernessOfBothPlanes) {
   check.UpPoyas.KFlexY = 1;
   check.UpPoyas.KUserX = 4;
   check.UpPoyas.KUserY = 3;
-  const Rows rows = BuildUtilisationGrid(1, check, PointLocale());
+  const Rows rows = BuildUtilisationGrid(CalculationOf(1, check), PointLocale());
   EXPECT_EQ(rows.at(1).at(1), "2.00000");
   EXPECT_EQ(rows.at(2).at(1), "4.00000");
 }
@@ -181,7 +185,7 @@ TEST(UtilisationGrid, LeavesOutStrengthAndStabilityThatAreNotAboveZero) {
   check.UpPoyas.KStrength = -1;
   check.UpPoyas.KStabX = 0;
   check.UpPoyas.KStabY = 1e-9;
-  const Rows rows = BuildUtilisationGrid(3, check, PointLocale());
+  const Rows rows = BuildUtilisationGrid(CalculationOf(3, check), PointLocale());
   EXPECT_EQ(
       Rows(rows.begin(), rows.begin() + 4),
       (Rows{
@@ -195,7 +199,8 @@ TEST(UtilisationGrid, LeavesOutStrengthAndStabilityThatAreNotAboveZero) {
 TEST(UtilisationGrid, WritesFiveDecimalsInTheUsersLocale) {
   CheckResult check;
   check.UpPoyas.KStrength = 1234.567885;
-  EXPECT_EQ(BuildUtilisationGrid(1, check, CommaLocale()).at(1).at(1), "1\u00A0234,56789");
+  EXPECT_EQ(BuildUtilisationGrid(CalculationOf(1, check), CommaLocale()).at(1).at(1),
+            "1\u00A0234,56789");
 }
 
 TEST(DeflectionLines, TellWhetherTheLimitHolds) {

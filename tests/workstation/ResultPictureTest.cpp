@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
+#include "tests/workstation/Calculations.h"
 #include "tests/workstation/SmallTruss.h"
 
 namespace trelonit::test {
@@ -171,7 +172,7 @@ TEST(ResultPicture, ShowsTheLargestUseOfEachGroupInTheOrderOfTheGrid) {
   check.Stoyka.KUserY = 5;
   const auto texts = [&check](Long scheme) {
     std::vector<std::string> result;
-    for (const GroupUse& use : BuildUse(scheme, check)) {
+    for (const GroupUse& use : BuildUse(CalculationOf(scheme, check))) {
       result.push_back(GroupName(use.Group) + " " + NumberToText(use.Value, PointLocale()));
     }
     return result;
@@ -203,7 +204,7 @@ TEST(ResultPicture, DoesNotMarkARowOfExactlyOne) {
   CheckResult check;
   check.UpPoyas.KStrength = 1;
   check.UpPoyas.KStabX = std::nextafter(1, 2);
-  const std::vector<bool> over = RowsOverLimit(3, check);
+  const std::vector<bool> over = RowsOverLimit(CalculationOf(3, check));
   EXPECT_FALSE(over.at(1));
   EXPECT_TRUE(over.at(2));
 }
@@ -211,10 +212,10 @@ TEST(ResultPicture, DoesNotMarkARowOfExactlyOne) {
 TEST(ResultPicture, IsEmptyWithoutForces) {
   SmallTruss desk(1);
   desk.Calculate();
-  EXPECT_TRUE(BuildBars(desk.Main.Model.TreloData, {}).empty());
+  EXPECT_TRUE(BuildBars(CalculationOf(desk.Main.Model.TreloData, TreloResult())).empty());
   TreloData reserved = desk.Main.Model.TreloData;
   reserved.TreloType = 5;
-  EXPECT_TRUE(BuildBars(reserved, desk.Main.Model.TreloResult).empty());
+  EXPECT_TRUE(BuildBars(CalculationOf(reserved, desk.Main.Model.Last.TreloResult)).empty());
 }
 
 TEST(ResultPicture, IsEmptyWhereTheTrussHasChangedSinceTheForces) {
@@ -224,7 +225,8 @@ TEST(ResultPicture, IsEmptyWhereTheTrussHasChangedSinceTheForces) {
     TreloData changed = desk.Main.Model.TreloData;
     changed.PanelNum = panels;
     std::vector<PictureBar> bars;
-    EXPECT_NO_THROW(bars = BuildBars(changed, desk.Main.Model.TreloResult)) << panels;
+    EXPECT_NO_THROW(bars = BuildBars(CalculationOf(changed, desk.Main.Model.Last.TreloResult)))
+        << panels;
     EXPECT_TRUE(bars.empty()) << panels;
   }
 }

@@ -61,7 +61,7 @@ class SelectionByBoth : public ::testing::Test {
   double GreatestTold() const {
     double greatest = 0;
     for (const ElementGroupRow& row : elementGroups) {
-      greatest = std::max(greatest, LargestUse(form.Model.CheckData.*row.Block));
+      greatest = std::max(greatest, LargestUse(form.Model.Last.CheckData.*row.Block));
     }
     return greatest;
   }
@@ -83,7 +83,7 @@ TEST_F(SelectionByBoth, PassesBothWithTheOwnWeightOfItsSizes) {
   EXPECT_FALSE(results->Opinion.HasDanger());
   // The own weight inside the loads is that of these sizes, spread over 48 m of chords.
   EXPECT_TRUE(form.Model.OwnWeightAdded);
-  EXPECT_NEAR(form.Model.OwnWeightPerMetre, form.Model.CheckData.Mass / 48, 0.5001e-4);
+  EXPECT_NEAR(form.Model.OwnWeightPerMetre, form.Model.Last.CheckData.Mass / 48, 0.5001e-4);
   EXPECT_TRUE(outside.Messages.Shown.empty());
 }
 
@@ -99,7 +99,7 @@ TEST_F(SelectionByBoth, TakesTheFirstSizeOfTheCatalogueThatPasses) {
   smaller.SizeIdx = upper.SizeIdx - 1;
   smaller.Profile = form.Model.ProfileTypes[equalAngles].Rec[smaller.SizeIdx];
   smaller.Gdist = GapForThickness(10, smaller.Profile.s);
-  const JudgedTruss truss = SolveTruss(byBoth->Settled->TreloData);
+  const JudgedTruss truss = SolveTruss(byBoth->Settled->Result.TreloData);
   std::vector<BarJudgement> bars(truss.Model.Bars.size());
   EXPECT_GT(LargestFigure(JudgeGroup(truss, ElementGroup::UpPoyas, ComposeSection(smaller),
                                      form.ReadCheckNumbers(), bars)),
@@ -116,7 +116,7 @@ TEST_F(SelectionByBoth, IsHeavierThanTheUsualOneUnderTheSameCaption) {
 TEST_F(SelectionByBoth, IsTheDesignThatIsShownAndKept) {
   form.cmdCalcAndSelect_Click();
   EXPECT_EQ(form.Model.ElementSection, byBoth->Sections);
-  EXPECT_EQ(form.Model.Loads, byBoth->Settled->Loads);
+  EXPECT_EQ(form.Model.Loads, byBoth->Settled->Inputs.Loads);
   EXPECT_EQ(form.lblProfilName[optionUpPoyas].Caption(),
             byBoth->Sections[sectionUpPoyas].Profile.Name.Trimmed());
   // The next calculation finds nothing to change.
@@ -130,7 +130,8 @@ TEST_F(SelectionByBoth, IsTheDesignThatIsShownAndKept) {
 TEST_F(SelectionByBoth, LeavesTheModelAloneWhileItSearches) {
   form.cmdCalculate_Click();
   const DesignModel before = form.Model;
-  const SelectionProposal proposal = SelectByOpinion(form.Model, form.ReadCheckNumbers(), true);
+  const SelectionProposal proposal =
+      SelectByOpinion(form.Model, form.Model.ProfileTypes, form.ReadCheckNumbers(), true);
   EXPECT_EQ(form.Model.ElementSection, before.ElementSection);
   EXPECT_EQ(form.Model.Loads, before.Loads);
   EXPECT_NE(proposal.Sections, before.ElementSection);

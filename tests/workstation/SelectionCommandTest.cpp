@@ -1,9 +1,10 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+#include "analysis/modMaxProgib.h"
 #include "tests/checks/Checks.h"
+#include "tests/workstation/Calculations.h"
 #include "tests/workstation/SmallTruss.h"
-#include "workstation/CalculationChain.h"
 
 namespace trelonit::test {
 namespace {
@@ -40,8 +41,8 @@ class LoadedTruss : public SmallTruss {
 /// What the search proposes for the model as Calculate leaves it.
 SelectionProposal ProposalAfterCalculate(LoadedTruss& desk) {
   desk.Calculate();
-  RecordingMessages messages;
-  return SelectSections(desk.Main.Model, desk.Main.ReadCheckNumbers(), messages);
+  Messages told;
+  return SelectSections(desk.Main.Model.Last, desk.Main.Model.ProfileTypes, told);
 }
 
 std::vector<std::string> NamesOf(const SectionArray& sections) {
@@ -129,7 +130,7 @@ TEST(CalcAndSelect, LeavesEverythingAsCalculateWouldWhereTheUserDoesNotTakeIt) {
     const ResultLists& expected = other.Calculate();
     EXPECT_EQ(desk.Main.Model.ElementSection, before);
     EXPECT_EQ(desk.SizesShown(), shown);
-    EXPECT_EQ(Numbers(desk.Main.Model.CheckData), Numbers(other.Main.Model.CheckData));
+    EXPECT_EQ(Numbers(desk.Main.Model.Last.CheckData), Numbers(other.Main.Model.Last.CheckData));
     ASSERT_EQ(desk.Results.size(), 1U);
     EXPECT_EQ(desk.Results[0].lstForces, expected.lstForces);
     EXPECT_EQ(desk.Results[0].MSFlexGKoefUse, expected.MSFlexGKoefUse);
@@ -142,7 +143,7 @@ TEST(CalcAndSelect, PutsWhatTheUserTakesIntoTheForm) {
     const SelectionProposal proposal = desk.Select(true);
     const DesignModel& model = desk.Main.Model;
     EXPECT_EQ(model.ElementSection, proposal.Sections);
-    EXPECT_EQ(Numbers(model.CheckData), Numbers(proposal.Check));
+    EXPECT_EQ(Numbers(model.Last.CheckData), Numbers(proposal.Check));
     EXPECT_EQ(desk.SizesShown(), NamesOf(proposal.Sections));
     EXPECT_EQ(desk.Results.size(), 1U);
     EXPECT_EQ(desk.Main.tabMain.Tab(), 2);
@@ -158,22 +159,24 @@ TEST(CalcAndSelect, RunsNoNewAnalysisForWhatTheUserTakes) {
   desk.Select(true);
   other.Calculate();
   const DesignModel& model = desk.Main.Model;
-  EXPECT_EQ(Values(model.TreloResult.UpPoyasForce),
-            Values(other.Main.Model.TreloResult.UpPoyasForce));
-  EXPECT_EQ(Values(model.TreloResult.RaskosForce),
-            Values(other.Main.Model.TreloResult.RaskosForce));
-  EXPECT_EQ(model.TreloResult.ReactLeft, other.Main.Model.TreloResult.ReactLeft);
+  EXPECT_EQ(Values(model.Last.TreloResult.UpPoyasForce),
+            Values(other.Main.Model.Last.TreloResult.UpPoyasForce));
+  EXPECT_EQ(Values(model.Last.TreloResult.RaskosForce),
+            Values(other.Main.Model.Last.TreloResult.RaskosForce));
+  EXPECT_EQ(model.Last.TreloResult.ReactLeft, other.Main.Model.Last.TreloResult.ReactLeft);
   EXPECT_EQ(model.Loads, other.Main.Model.Loads);
-  EXPECT_EQ(static_cast<const LoadArrays&>(model.TreloData), model.Loads);
+  EXPECT_EQ(static_cast<const LoadArrays&>(model.Last.TreloData), model.Loads);
 }
 
 TEST(CalcAndSelect, BuildsTheListsFromWhatTheUserTakes) {
   LoadedTruss desk;
   const SelectionProposal proposal = desk.Select(true);
   const DesignModel& model = desk.Main.Model;
-  EXPECT_EQ(desk.Results[0].lstForces,
-            BuildForceList(1, model.TreloResult, proposal.Check.Mass, PointLocale()));
-  EXPECT_EQ(desk.Results[0].MSFlexGKoefUse, BuildUtilisationGrid(1, proposal.Check, PointLocale()));
+  EXPECT_EQ(
+      desk.Results[0].lstForces,
+      BuildForceList(CalculationOf(1, model.Last.TreloResult, proposal.Check.Mass), PointLocale()));
+  EXPECT_EQ(desk.Results[0].MSFlexGKoefUse,
+            BuildUtilisationGrid(CalculationOf(1, proposal.Check), PointLocale()));
   LoadedTruss other;
   other.Calculate();
   EXPECT_NE(desk.Results[0].lstForces, other.Results[0].lstForces);
@@ -187,21 +190,21 @@ TEST_P(DeflectionAfterSelection, IsOfTheSectionsThatTheFormHas) {
   LoadedTruss desk;
   desk.Main.chkProgib.SetChecked(true);
   desk.Select(taken);
-  ASSERT_TRUE(desk.Results.at(0).Progib.has_value());
-  const ProgibResult progib = *desk.Results[0].Progib;
-  RecordingMessages messages;
-  const ProgibResult expected =
-      CheckProgib(desk.Main.Model, desk.Main.optBP.Value(), desk.Main.ReadCheckNumbers().E,
-                  desk.Main.cmbLenlim.Text(), PointLocale(), messages);
+  ASSERT_TRUE(desk.Results.at(0).Of.Progib.has_value());
+  const ProgibResult progib = *desk.Results[0].Of.Progib;
+  const Calculation& last = desk.Main.Model.Last;
+  const double expected = CalcProgib(last.TreloData, last.TreloResult, last.CheckData,
+                                     desk.Main.optBP.Value(), desk.Main.ReadCheckNumbers().E)
+                              .Value;
   EXPECT_GT(progib.Value, 0);
-  EXPECT_EQ(progib.Value, expected.Value);
+  EXPECT_EQ(progib.Value, expected);
   EXPECT_EQ(desk.Main.tabMain.Tab(), 0);
-  EXPECT_EQ(desk.Main.txtProgib.Text(), FormatShown(expected.Value, 5, PointLocale()));
+  EXPECT_EQ(desk.Main.txtProgib.Text(), FormatShown(expected, 5, PointLocale()));
 
   // The larger sections bend less.
   LoadedTruss other;
   other.Main.chkProgib.SetChecked(true);
-  const double before = other.Calculate().Progib->Value;
+  const double before = other.Calculate().Of.Progib->Value;
   if (taken) {
     EXPECT_LT(progib.Value, before);
   } else {
@@ -222,18 +225,18 @@ TEST(OwnWeightInSelection, StaysThatOfTheOldSectionsUntilTheNextCalculation) {
   desk.Main.chkOwnWeight.SetChecked(true);
   LoadedTruss other;
   other.Calculate();
-  const double oldMass = other.Main.Model.CheckData.Mass;
+  const double oldMass = other.Main.Model.Last.CheckData.Mass;
   desk.Select(true);
   const DesignModel& model = desk.Main.Model;
-  const double oldWeight = Spread(oldMass, model.TreloResult);
-  const double newWeight = Spread(model.CheckData.Mass, model.TreloResult);
+  const double oldWeight = Spread(oldMass, model.Last.TreloResult);
+  const double newWeight = Spread(model.Last.CheckData.Mass, model.Last.TreloResult);
   ASSERT_GT(std::abs(newWeight - oldWeight), 1e-3);
   EXPECT_TRUE(model.OwnWeightAdded);
   EXPECT_NEAR(model.OwnWeightPerMetre, oldWeight, 1e-12);
   EXPECT_NEAR(model.Loads.UpDistForce[0], oldWeight, 1e-12);
 
   desk.Calculate();
-  const double weight = Spread(model.CheckData.Mass, model.TreloResult);
+  const double weight = Spread(model.Last.CheckData.Mass, model.Last.TreloResult);
   EXPECT_NEAR(model.OwnWeightPerMetre, weight, 1e-12);
   EXPECT_NEAR(model.Loads.UpDistForce[0], weight, 1e-12);
   EXPECT_NEAR(model.Loads.DwnDistForce[0], weight, 1e-12);

@@ -109,8 +109,9 @@ TEST(SelectionOfAPair, ChecksWithTheGapOfTheTry) {
   const SelectionProposal proposal = ladder.Select();
   ASSERT_EQ(proposal.Sections[sectionDwnPoyas].SizeIdx, 3);
   ASSERT_EQ(proposal.Sections[sectionDwnPoyas].Gdist, 5);
-  const CheckResult expected = CheckueStress(ladder.Model.TreloData, ladder.Model.TreloResult,
-                                             ladder.Numbers, proposal.Sections, ladder.Messages);
+  const CheckResult expected = CheckueStress(ladder.Model.TreloData, ladder.Model.Last.TreloResult,
+                                             ladder.Numbers, proposal.Sections)
+                                   .Value;
   EXPECT_EQ(proposal.Check.DwnPoyas.Jout, expected.DwnPoyas.Jout);
   EXPECT_EQ(proposal.Check.DwnPoyas.KUserY, expected.DwnPoyas.KUserY);
 }

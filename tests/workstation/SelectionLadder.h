@@ -7,7 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "checks/modCheckueStress.h"
 #include "tests/analysis/Designs.h"
+#include "workstation/DesignModel.h"
 #include "workstation/Selection.h"
 
 namespace trelonit::test {
@@ -44,7 +46,7 @@ class Ladder {
 
   explicit Ladder(Long scheme = 1) {
     Model.TreloData = SquareDesign(scheme, 4);
-    Model.TreloResult = Solved(Model.TreloData);
+    Model.Last.TreloResult = Solved(Model.TreloData);
     Model.ProfileTypes = ProfileTypeArray(1, 2);
     Model.ProfileTypes[ladder].Rec = BoundedArray<ProfileRec>(1, 0);
     Model.ProfileTypes[thick].Rec = BoundedArray<ProfileRec>(1, 1);
@@ -67,7 +69,7 @@ class Ladder {
 
   /// Adds sizes that give the group these coefficients.
   void AddSizes(GroupOption group, const std::vector<double>& uses) {
-    const GroupCheck& block = BlockOf(Model.CheckData, group);
+    const GroupCheck& block = BlockOf(Model.Last.CheckData, group);
     const double length = std::max(block.LenX, block.LenY);
     BoundedArray<ProfileRec>& sizes = Model.ProfileTypes[ladder].Rec;
     for (const double use : uses) {
@@ -90,7 +92,7 @@ class Ladder {
     SectionArray sections = Model.ElementSection;
     sections[PlaceOfOption(group)].Profile = Size(size);
     const GroupCheck block = BlockOf(
-        CheckueStress(Model.TreloData, Model.TreloResult, Numbers, sections, Messages), group);
+        CheckueStress(Model.TreloData, Model.Last.TreloResult, Numbers, sections).Value, group);
     Numbers.LimitUser = std::max(block.FlexX, block.FlexY);
     Check();
   }
@@ -105,11 +107,19 @@ class Ladder {
   void Break(Long size) { Size(size).A = 0; }
 
   void Check() {
-    Model.CheckData =
-        CheckueStress(Model.TreloData, Model.TreloResult, Numbers, Model.ElementSection, Messages);
+    Model.Last.CheckData =
+        CheckueStress(Model.TreloData, Model.Last.TreloResult, Numbers, Model.ElementSection).Value;
   }
 
-  SelectionProposal Select() { return SelectSections(Model, Numbers, Messages); }
+  SelectionProposal Select() {
+    Model.Last.TreloData = Model.TreloData;
+    Model.Last.ElementSection = Model.ElementSection;
+    Model.Last.Numbers = Numbers;
+    trelonit::Messages told;
+    SelectionProposal proposal = SelectSections(Model.Last, Model.ProfileTypes, told);
+    ShowAll(Messages, told);
+    return proposal;
+  }
 
   ProfileRec& Size(Long size) { return Model.ProfileTypes[ladder].Rec[size]; }
   SectionRec& SectionOf(GroupOption group) { return Model.ElementSection[PlaceOfOption(group)]; }
