@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Integers.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

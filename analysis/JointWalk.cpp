@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "analysis/Scheme.h"
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
 
 namespace trelonit {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "analysis/modDatatypes.h"
-#include "platform/Arithmetic.h"
-#include "platform/Outcome.h"
+#include "platform/errors/Outcome.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <cmath>
 
-#include "platform/Arithmetic.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

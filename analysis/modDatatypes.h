@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/BoundedArray.h"
-#include "platform/FixedText.h"
+#include "platform/text/FixedText.h"
+#include "platform/values/BoundedArray.h"
 
 namespace trelonit {
 

@@ -4,8 +4,8 @@
 
 #include "analysis/Scheme.h"
 #include "analysis/modTrelo.h"
-#include "platform/Arithmetic.h"
-#include "platform/Guard.h"
+#include "platform/errors/Guard.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

@@ -2,7 +2,7 @@
 
 #include "analysis/CheckRecord.h"
 #include "analysis/modDatatypes.h"
-#include "platform/Outcome.h"
+#include "platform/errors/Outcome.h"
 
 namespace trelonit {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/modDatatypes.h"
-#include "platform/Outcome.h"
+#include "platform/errors/Outcome.h"
 
 namespace trelonit {
 

@@ -6,7 +6,7 @@ namespace trelonit {
 
 namespace {
 
-TreloResult SolveScheme(const TreloData& data) {
+TreloResult SolveScheme1(const TreloData& data) {
   const Long n = data.PanelNum;
   const Long m = n / 2;
   const Long J = RequireKnotNum(2 * (std::int64_t{n} + 1));
@@ -93,7 +93,7 @@ TreloResult SolveScheme(const TreloData& data) {
 }  // namespace
 
 Outcome<TreloResult> CalcTrelo1(const TreloData& data) {
-  return Solve("CalcTrelo1", [&] { return SolveScheme(data); });
+  return Solve("CalcTrelo1", [&] { return SolveScheme1(data); });
 }
 
 }  // namespace trelonit

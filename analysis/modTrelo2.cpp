@@ -17,7 +17,7 @@ Reals LowerKnotLoads(const TreloData& data, const PanelGeometry& panels) {
   return loads;
 }
 
-TreloResult SolveScheme(const TreloData& data) {
+TreloResult SolveScheme2(const TreloData& data) {
   const Long n = data.PanelNum;
   const Long m = n / 2;
   const Long J = RequireKnotNum(2 * std::int64_t{n});
@@ -102,7 +102,7 @@ TreloResult SolveScheme(const TreloData& data) {
 }  // namespace
 
 Outcome<TreloResult> CalcTrelo2(const TreloData& data) {
-  return Solve("CalcTrelo2", [&] { return SolveScheme(data); });
+  return Solve("CalcTrelo2", [&] { return SolveScheme2(data); });
 }
 
 }  // namespace trelonit

@@ -8,7 +8,7 @@ namespace {
 
 // The joints are numbered in zigzag along the diagonals, and here the numbers are the model: upper
 // joint t is 2t + 1, lower joint i is 2i + 2, diagonal j joins joints j and j + 1.
-TreloResult SolveScheme(const TreloData& data) {
+TreloResult SolveScheme3(const TreloData& data) {
   const Long n = data.PanelNum;
   const Long J = RequireKnotNum(2 * std::int64_t{n} + 1);
   const Real L = data.LengthF;
@@ -83,7 +83,7 @@ TreloResult SolveScheme(const TreloData& data) {
 }  // namespace
 
 Outcome<TreloResult> CalcTrelo3(const TreloData& data) {
-  return Solve("CalcTrelo3", [&] { return SolveScheme(data); });
+  return Solve("CalcTrelo3", [&] { return SolveScheme3(data); });
 }
 
 }  // namespace trelonit

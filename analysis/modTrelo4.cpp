@@ -6,7 +6,7 @@ namespace trelonit {
 
 namespace {
 
-TreloResult SolveScheme(const TreloData& data) {
+TreloResult SolveScheme4(const TreloData& data) {
   const Long n = data.PanelNum;
   const Long last = n / 2 - 1;  // the last lower joint
   const Long J = RequireKnotNum(3 * (std::int64_t{n} / 2) + 1);
@@ -83,7 +83,7 @@ TreloResult SolveScheme(const TreloData& data) {
 }  // namespace
 
 Outcome<TreloResult> CalcTrelo4(const TreloData& data) {
-  return Solve("CalcTrelo4", [&] { return SolveScheme(data); });
+  return Solve("CalcTrelo4", [&] { return SolveScheme4(data); });
 }
 
 }  // namespace trelonit

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "editor/FileHandler.h"
-#include "editor/MemoryRichTextBox.h"
-#include "workstation/ProjectFile.h"
+#include "editor/document/FileHandler.h"
+#include "editor/document/MemoryRichTextBox.h"
+#include "workstation/design/ProjectFile.h"
 
 namespace trelonit {
 

@@ -9,14 +9,14 @@
 #include "catalogue/frmDataManager.h"
 #include "checks/frmParamerty.h"
 #include "checks/frmSteel.h"
-#include "drawing/modACADExport.h"
-#include "editor/frmAssoc.h"
-#include "editor/frmOtchetMain.h"
-#include "platform/Services.h"
-#include "workstation/frmAbout.h"
-#include "workstation/frmKoeffOfUse.h"
-#include "workstation/frmMain.h"
-#include "workstation/frmSearch.h"
+#include "drawing/scheme/modACADExport.h"
+#include "editor/associations/frmAssoc.h"
+#include "editor/document/frmOtchetMain.h"
+#include "platform/system/Services.h"
+#include "workstation/dialogs/frmAbout.h"
+#include "workstation/dialogs/frmKoeffOfUse.h"
+#include "workstation/dialogs/frmSearch.h"
+#include "workstation/main/frmMain.h"
 
 namespace trelonit {
 

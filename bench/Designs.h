@@ -4,9 +4,9 @@
 #include "catalogue/ProfileRecord.h"
 #include "catalogue/SectionRecord.h"
 #include "checks/modCheckueStress.h"
-#include "platform/Message.h"
-#include "platform/Services.h"
 #include "platform/console/ConsoleServices.h"
+#include "platform/errors/Message.h"
+#include "platform/system/Services.h"
 #include "resources/EmbeddedResources.h"
 
 namespace trelonit::bench {

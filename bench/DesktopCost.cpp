@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "bench/ProcessCost.h"
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
 
 namespace trelonit::bench {
 

@@ -10,9 +10,9 @@
 #include "bench/FirstPaint.h"
 #include "catalogue/modProfileData.h"
 #include "drawing/host/BuiltInHost.h"
-#include "drawing/modACADExport.h"
-#include "windows/Desktop.h"
-#include "windows/DrawingView.h"
+#include "drawing/scheme/modACADExport.h"
+#include "windows/drawing/DrawingView.h"
+#include "windows/services/Desktop.h"
 
 namespace {
 

@@ -10,12 +10,12 @@
 #include <string>
 
 #include "bench/FirstPaint.h"
-#include "editor/RtfWriter.h"
-#include "editor/frmOtchetMain.h"
+#include "editor/document/frmOtchetMain.h"
+#include "editor/rtf/RtfWriter.h"
 #include "platform/console/ConsoleServices.h"
 #include "resources/EmbeddedResources.h"
-#include "windows/Desktop.h"
-#include "windows/OtchetWindow.h"
+#include "windows/editor/OtchetWindow.h"
+#include "windows/services/Desktop.h"
 
 namespace {
 

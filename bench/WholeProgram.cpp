@@ -16,9 +16,9 @@
 
 #include "apps/trelonit/DesktopSession.h"
 #include "bench/FirstPaint.h"
-#include "windows/Desktop.h"
-#include "windows/KoeffOfUseWindow.h"
-#include "windows/OtchetWindow.h"
+#include "windows/editor/OtchetWindow.h"
+#include "windows/results/KoeffOfUseWindow.h"
+#include "windows/services/Desktop.h"
 
 namespace {
 

@@ -18,11 +18,11 @@
 #include "bench/Table.h"
 #include "catalogue/modProfileData.h"
 #include "drawing/host/BuiltInHost.h"
-#include "drawing/host/DxfWriter.h"
-#include "drawing/modACADExport.h"
+#include "drawing/host/dxf/DxfWriter.h"
+#include "drawing/scheme/modACADExport.h"
 #include "opinion/Opinion.h"
-#include "workstation/DesignModel.h"
-#include "workstation/Selection.h"
+#include "workstation/design/DesignModel.h"
+#include "workstation/design/Selection.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "catalogue/StandardFigures.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit {
 namespace {

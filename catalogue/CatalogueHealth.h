@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "catalogue/ProfileRecord.h"
-#include "platform/Integers.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

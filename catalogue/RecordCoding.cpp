@@ -4,7 +4,7 @@
 #include <bit>
 #include <cstdint>
 
-#include "platform/CodePage1251.h"
+#include "platform/text/CodePage1251.h"
 
 namespace trelonit {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "catalogue/ProfileRecord.h"
-#include "platform/Integers.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

@@ -1,6 +1,6 @@
 #include "catalogue/SectionComposition.h"
 
-#include "platform/Arithmetic.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/Arithmetic.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

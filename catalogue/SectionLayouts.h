@@ -3,8 +3,8 @@
 #include <span>
 #include <string_view>
 
-#include "platform/Integers.h"
-#include "platform/Resources.h"
+#include "platform/forms/Resources.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/ProfileRecord.h"
-#include "platform/BoundedArray.h"
+#include "platform/values/BoundedArray.h"
 
 namespace trelonit {
 

@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "catalogue/SectionShapes.h"
-#include "platform/BoundedArray.h"
+#include "platform/values/BoundedArray.h"
 
 namespace trelonit {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "catalogue/ProfileRecord.h"
 #include "catalogue/SectionGeometry.h"
-#include "platform/Integers.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

@@ -5,10 +5,10 @@
 
 #include "catalogue/DataFile.h"
 #include "catalogue/RecordCoding.h"
-#include "platform/CodePage1251.h"
-#include "platform/FileBytes.h"
-#include "platform/Guard.h"
-#include "platform/NumberText.h"
+#include "platform/errors/Guard.h"
+#include "platform/files/FileBytes.h"
+#include "platform/text/CodePage1251.h"
+#include "platform/text/NumberText.h"
 
 namespace trelonit {
 

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "catalogue/ProfileRecord.h"
-#include "platform/BoundedArray.h"
-#include "platform/Controls.h"
-#include "platform/Services.h"
+#include "platform/forms/Controls.h"
+#include "platform/system/Services.h"
+#include "platform/values/BoundedArray.h"
 
 namespace trelonit {
 

@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "catalogue/RecordCoding.h"
-#include "platform/Arithmetic.h"
-#include "platform/Guard.h"
+#include "platform/errors/Guard.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

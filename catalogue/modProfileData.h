@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "catalogue/ProfileRecord.h"
-#include "platform/Integers.h"
-#include "platform/Services.h"
+#include "platform/system/Services.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "catalogue/SectionComposition.h"
-#include "platform/Arithmetic.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

@@ -3,7 +3,7 @@
 #include "analysis/CheckRecord.h"
 #include "analysis/modDatatypes.h"
 #include "catalogue/SectionRecord.h"
-#include "platform/Outcome.h"
+#include "platform/errors/Outcome.h"
 
 namespace trelonit {
 

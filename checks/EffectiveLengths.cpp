@@ -1,7 +1,7 @@
 #include "checks/EffectiveLengths.h"
 
 #include "checks/CheckFormulas.h"
-#include "platform/Arithmetic.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

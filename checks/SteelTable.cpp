@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string>
 
-#include "platform/CodePage1251.h"
+#include "platform/text/CodePage1251.h"
 
 namespace trelonit {
 

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/FixedText.h"
+#include "platform/text/FixedText.h"
 
 namespace trelonit {
 

@@ -1,9 +1,9 @@
 #include "checks/frmParamerty.h"
 
-#include "platform/Arithmetic.h"
-#include "platform/Guard.h"
-#include "platform/Integers.h"
-#include "platform/NumberText.h"
+#include "platform/errors/Guard.h"
+#include "platform/text/NumberText.h"
+#include "platform/values/Arithmetic.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "platform/Controls.h"
-#include "platform/Services.h"
+#include "platform/forms/Controls.h"
+#include "platform/system/Services.h"
 
 namespace trelonit {
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
-#include "platform/NumberText.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
+#include "platform/text/NumberText.h"
 
 namespace trelonit {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "checks/SteelTable.h"
-#include "platform/Controls.h"
-#include "platform/Services.h"
+#include "platform/forms/Controls.h"
+#include "platform/system/Services.h"
 
 namespace trelonit {
 

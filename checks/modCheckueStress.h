@@ -4,7 +4,7 @@
 #include "analysis/modDatatypes.h"
 #include "catalogue/SectionRecord.h"
 #include "checks/CheckNumbers.h"
-#include "platform/Outcome.h"
+#include "platform/errors/Outcome.h"
 
 namespace trelonit {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/Arithmetic.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

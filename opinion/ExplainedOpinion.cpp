@@ -3,7 +3,7 @@
 #include "opinion/BarLengths.h"
 #include "opinion/ExplanationBuilder.h"
 #include "opinion/NormTexts.h"
-#include "platform/Guard.h"
+#include "platform/errors/Guard.h"
 
 namespace trelonit {
 
@@ -14,9 +14,9 @@ bool IsChord(ElementGroup group) {
 }
 
 /// Explains the figures of one group, each by the bar that rules it.
-class GroupExplainer {
+class OpinionExplainer {
  public:
-  GroupExplainer(const JudgedDesign& design, const Opinion& opinion, const GroupJudgement& group)
+  OpinionExplainer(const JudgedDesign& design, const Opinion& opinion, const GroupJudgement& group)
       : design_(design), opinion_(opinion), group_(group) {}
 
   std::optional<Explanation> Explain(const MemberCheckRow& row) const {
@@ -128,7 +128,7 @@ class GroupExplainer {
 std::vector<Explanation> ExplainOpinion(const JudgedDesign& design, const Opinion& opinion) {
   std::vector<Explanation> explanations;
   for (const GroupJudgement& group : opinion.Groups) {
-    const GroupExplainer explainer(design, opinion, group);
+    const OpinionExplainer explainer(design, opinion, group);
     for (const MemberCheckRow& row : memberChecks) {
       // Figures at the ends of the range of Double have no digits to show them with.
       PassOver([&] {

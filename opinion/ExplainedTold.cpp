@@ -4,7 +4,7 @@
 #include "checks/ElementGroups.h"
 #include "opinion/ExplanationBuilder.h"
 #include "opinion/NormTexts.h"
-#include "platform/Guard.h"
+#include "platform/errors/Guard.h"
 
 namespace trelonit {
 
@@ -63,9 +63,9 @@ int ToldPhiFormula(double conditionalSlenderness) {
 }
 
 /// Explains the figures of one group of the check record.
-class GroupExplainer {
+class ToldExplainer {
  public:
-  GroupExplainer(const JudgedDesign& design, const ElementGroupRow& row)
+  ToldExplainer(const JudgedDesign& design, const ElementGroupRow& row)
       : design_(design),
         row_(row),
         check_(design.Check.*row.Block),
@@ -240,7 +240,7 @@ std::vector<Explanation> ExplainTold(const JudgedDesign& design,
     if (!exists || (design.Check.*row.Block).Area == 0) {
       continue;
     }
-    const GroupExplainer explainer(design, row);
+    const ToldExplainer explainer(design, row);
     add([&] { return explainer.Strength(); });
     if (explainer.HasStability()) {
       add([&] { return explainer.Stability(planeX); });

@@ -5,9 +5,9 @@
 #include <cstdio>
 #include <utility>
 
-#include "platform/Arithmetic.h"
-#include "platform/NumberText.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
+#include "platform/text/NumberText.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "opinion/Opinion.h"
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
 
 namespace trelonit {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
 
 namespace trelonit {
 

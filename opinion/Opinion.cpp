@@ -8,8 +8,8 @@
 #include "checks/ElementGroups.h"
 #include "opinion/BarLengths.h"
 #include "opinion/Buckling.h"
-#include "platform/Arithmetic.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

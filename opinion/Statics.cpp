@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "opinion/BandSystem.h"
-#include "platform/Arithmetic.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "resources/EmbeddedBlocks.h"
 
 namespace trelonit {

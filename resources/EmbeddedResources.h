@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Resources.h"
+#include "platform/forms/Resources.h"
 
 namespace trelonit {
 

@@ -5,7 +5,7 @@
 #include "apps/cli/TextTable.h"
 #include "catalogue/CatalogueHealth.h"
 #include "catalogue/DataFile.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit::cli {
 

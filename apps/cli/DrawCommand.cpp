@@ -6,9 +6,9 @@
 #include "apps/cli/Commands.h"
 #include "apps/cli/OutputFile.h"
 #include "drawing/host/BuiltInHost.h"
-#include "drawing/host/DxfWriter.h"
-#include "drawing/modACADExport.h"
-#include "platform/RuntimeError.h"
+#include "drawing/host/dxf/DxfWriter.h"
+#include "drawing/scheme/modACADExport.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit::cli {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "apps/cli/JsonText.h"
-#include "workstation/SecondOpinion.h"
+#include "workstation/design/SecondOpinion.h"
 
 namespace trelonit::cli {
 

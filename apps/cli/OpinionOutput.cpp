@@ -6,8 +6,8 @@
 #include "apps/cli/OpinionJson.h"
 #include "apps/cli/TextTable.h"
 #include "checks/ElementGroups.h"
-#include "platform/NumberText.h"
-#include "workstation/ReportAppendix.h"
+#include "platform/text/NumberText.h"
+#include "workstation/report/ReportAppendix.h"
 
 namespace trelonit::cli {
 

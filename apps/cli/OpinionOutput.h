@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "workstation/SecondOpinion.h"
+#include "workstation/design/SecondOpinion.h"
 
 namespace trelonit::cli {
 

@@ -5,7 +5,7 @@
 
 #include "apps/cli/ConsoleSession.h"
 #include "drawing/host/Drawing.h"
-#include "editor/RichDocument.h"
+#include "editor/document/RichDocument.h"
 
 namespace trelonit::cli {
 

@@ -1,8 +1,8 @@
 #include <QGuiApplication>
 
 #include "apps/cli/Paper.h"
-#include "windows/DrawingPages.h"
-#include "windows/RichDocumentPdf.h"
+#include "windows/drawing/DrawingPages.h"
+#include "windows/editor/RichDocumentPdf.h"
 
 namespace trelonit::cli {
 

@@ -5,8 +5,8 @@
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
 #include "apps/cli/OutputFile.h"
-#include "editor/HtmlWriter.h"
-#include "editor/RtfReader.h"
+#include "editor/document/HtmlWriter.h"
+#include "editor/rtf/RtfReader.h"
 
 namespace trelonit::cli {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Message.h"
-#include "workstation/ResultLists.h"
+#include "platform/errors/Message.h"
+#include "workstation/results/ResultLists.h"
 
 namespace trelonit::cli {
 

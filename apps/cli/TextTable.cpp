@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace trelonit::cli {
 

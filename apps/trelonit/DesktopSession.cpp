@@ -3,15 +3,15 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "windows/AboutWindow.h"
-#include "windows/AssocWindow.h"
-#include "windows/DataManagerWindow.h"
-#include "windows/DateWindow.h"
-#include "windows/HelpFile.h"
-#include "windows/KoeffOfUseWindow.h"
-#include "windows/ParamertyWindow.h"
-#include "windows/SearchWindow.h"
-#include "windows/SteelWindow.h"
+#include "windows/dialogs/AboutWindow.h"
+#include "windows/dialogs/DataManagerWindow.h"
+#include "windows/dialogs/ParamertyWindow.h"
+#include "windows/dialogs/SearchWindow.h"
+#include "windows/dialogs/SteelWindow.h"
+#include "windows/editor/AssocWindow.h"
+#include "windows/editor/DateWindow.h"
+#include "windows/help/HelpFile.h"
+#include "windows/results/KoeffOfUseWindow.h"
 
 namespace trelonit {
 

@@ -2,22 +2,22 @@
 
 #include "apps/Program.h"
 #include "resources/EmbeddedResources.h"
-#include "windows/ConversionProgress.h"
-#include "windows/DesktopServices.h"
-#include "windows/DocumentDialogs.h"
-#include "windows/DrawingDesk.h"
-#include "windows/HelpKey.h"
-#include "windows/HelpWindow.h"
-#include "windows/MainWindow.h"
-#include "windows/OfficeAutomation.h"
-#include "windows/OtchetWindow.h"
+#include "windows/drawing/DrawingDesk.h"
+#include "windows/editor/DocumentDialogs.h"
+#include "windows/editor/OtchetWindow.h"
+#include "windows/help/HelpKey.h"
+#include "windows/help/HelpWindow.h"
+#include "windows/main/MainWindow.h"
+#include "windows/office/ConversionProgress.h"
+#include "windows/office/OfficeAutomation.h"
+#include "windows/services/DesktopServices.h"
 #ifdef _WIN32
-#include "editor/ModAss.h"
+#include "editor/associations/ModAss.h"
 #include "platform/win32/ComAutomation.h"
 #include "platform/win32/Win32Registry.h"
 #else
-#include "editor/MimeAssociations.h"
-#include "windows/MimeDefaults.h"
+#include "editor/associations/MimeAssociations.h"
+#include "windows/services/MimeDefaults.h"
 #endif
 
 namespace trelonit {

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "apps/trelonit/DesktopSession.h"
-#include "platform/RuntimeError.h"
-#include "windows/Desktop.h"
-#include "workstation/ApplicationInfo.h"
+#include "platform/errors/RuntimeError.h"
+#include "windows/services/Desktop.h"
+#include "workstation/main/ApplicationInfo.h"
 
 namespace {
 

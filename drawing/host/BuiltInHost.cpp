@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "drawing/host/HostDocument.h"
-#include "platform/RuntimeError.h"
+#include "drawing/host/objects/HostDocument.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "drawing/host/Drawing.h"
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 
 namespace trelonit {
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "platform/Arithmetic.h"
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

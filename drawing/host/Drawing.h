@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/Integers.h"
+#include "platform/values/Integers.h"
 
 namespace trelonit {
 

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "drawing/host/DimensionPicture.h"
-#include "platform/Arithmetic.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
+#include "platform/values/Arithmetic.h"
 
 namespace trelonit {
 

@@ -6,7 +6,7 @@
 
 #include "apps/cli/ConsoleSession.h"
 #include "checks/ElementGroups.h"
-#include "workstation/modHelper.h"
+#include "workstation/design/modHelper.h"
 
 namespace {
 

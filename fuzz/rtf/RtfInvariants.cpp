@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <functional>
 
-#include "editor/RichDocument.h"
-#include "editor/RtfLimits.h"
-#include "editor/RtfReader.h"
-#include "editor/RtfWriter.h"
-#include "platform/RuntimeError.h"
+#include "editor/document/RichDocument.h"
+#include "editor/rtf/RtfLimits.h"
+#include "editor/rtf/RtfReader.h"
+#include "editor/rtf/RtfWriter.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit::fuzz {
 

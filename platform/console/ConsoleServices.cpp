@@ -12,7 +12,7 @@
 #include <unistd.h>
 #endif
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit {
 

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 #ifdef _WIN32
 #include "platform/win32/Win32Shell.h"
 #endif

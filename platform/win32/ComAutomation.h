@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 
 namespace trelonit {
 

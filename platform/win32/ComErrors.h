@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "platform/win32/WindowsHeader.h"
 
 namespace trelonit {

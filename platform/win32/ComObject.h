@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 #include "platform/win32/ComApartment.h"
 #include "platform/win32/ComPointer.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/Arithmetic.h"
+#include "platform/values/Arithmetic.h"
 #include "platform/win32/ComErrors.h"
 #include "platform/win32/ComObject.h"
 #include "platform/win32/Utf16.h"

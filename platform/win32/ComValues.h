@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 #include "platform/win32/ComApartment.h"
 #include "platform/win32/WindowsHeader.h"
 

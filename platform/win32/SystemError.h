@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit {
 

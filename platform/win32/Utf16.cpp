@@ -1,6 +1,6 @@
 #include "platform/win32/Utf16.h"
 
-#include "platform/Integers.h"
+#include "platform/values/Integers.h"
 #include "platform/win32/WindowsHeader.h"
 
 namespace trelonit {

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/WindowsHeader.h"
 

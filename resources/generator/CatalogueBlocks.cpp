@@ -7,8 +7,8 @@
 #include <set>
 #include <system_error>
 
-#include "platform/CodePage1251.h"
-#include "platform/Text.h"
+#include "platform/text/CodePage1251.h"
+#include "platform/text/Text.h"
 
 namespace trelonit::packer {
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <set>
 
-#include "platform/CodePage1251.h"
-#include "platform/Text.h"
+#include "platform/text/CodePage1251.h"
+#include "platform/text/Text.h"
 
 namespace trelonit::packer {
 

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "tests/analysis/Designs.h"
 
 namespace trelonit::test {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "platform/BoundedArray.h"
+#include "platform/values/BoundedArray.h"
 
 namespace trelonit::test {
 

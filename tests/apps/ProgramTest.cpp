@@ -5,7 +5,7 @@
 
 #include "apps/Program.h"
 #include "drawing/host/BuiltInHost.h"
-#include "drawing/host/DxfWriter.h"
+#include "drawing/host/dxf/DxfWriter.h"
 #include "resources/EmbeddedResources.h"
 #include "tests/support/TestServices.h"
 

@@ -11,7 +11,7 @@
 
 #include "catalogue/CatalogueHealth.h"
 #include "catalogue/StandardFigures.h"
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
 #include "tests/catalogue/CatalogueWorld.h"
 
 namespace trelonit {

@@ -9,7 +9,7 @@
 #include "catalogue/ProfileRecord.h"
 #include "catalogue/RecordCoding.h"
 #include "catalogue/modProfileData.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "resources/EmbeddedResources.h"
 #include "tests/support/TestServices.h"
 

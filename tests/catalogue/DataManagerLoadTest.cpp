@@ -145,25 +145,25 @@ TEST(DataManagerLoad, ForgetsEverythingWhenTheWindowOpensAgain) {
 }
 
 /// Bytes in a file and the records that they count as.
-struct Length {
+struct OddLength {
   std::size_t Bytes;
   Long Records;
 };
 
 TEST(DataManagerLoad, RoundsTheCountOfRecordsToTheNearestNumber) {
-  for (const Length& length : std::vector<Length>{{0, 0},
-                                                  {1, 0},
-                                                  {88, 0},
-                                                  {89, 1},
-                                                  {176, 1},
-                                                  {177, 1},
-                                                  {178, 1},
-                                                  {265, 1},
-                                                  {266, 2},
-                                                  {353, 2},
-                                                  {354, 2},
-                                                  {442, 2},
-                                                  {443, 3}}) {
+  for (const OddLength& length : std::vector<OddLength>{{0, 0},
+                                                        {1, 0},
+                                                        {88, 0},
+                                                        {89, 1},
+                                                        {176, 1},
+                                                        {177, 1},
+                                                        {178, 1},
+                                                        {265, 1},
+                                                        {266, 2},
+                                                        {353, 2},
+                                                        {354, 2},
+                                                        {442, 2},
+                                                        {443, 3}}) {
     MemoryDesk desk(NumberedFile(3).substr(0, length.Bytes));
     desk.Load();
     EXPECT_EQ(desk.Desk.Form.TotalPos, length.Records) << length.Bytes;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/CodePage1251.h"
+#include "platform/text/CodePage1251.h"
 #include "tests/catalogue/CatalogueWorld.h"
 
 namespace trelonit {

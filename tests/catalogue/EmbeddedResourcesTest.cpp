@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "resources/EmbeddedResources.h"
 #include "tests/catalogue/CatalogueWorld.h"
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "catalogue/RecordCoding.h"
-#include "platform/CodePage1251.h"
+#include "platform/text/CodePage1251.h"
 
 namespace trelonit {
 namespace {

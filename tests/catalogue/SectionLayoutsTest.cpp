@@ -10,8 +10,8 @@ namespace trelonit {
 namespace {
 
 std::vector<Long> Offered(Long layout) {
-  const auto standards = FindSectionLayout(layout)->Standards;
-  return {standards.begin(), standards.end()};
+  const auto standardsOfLayout = FindSectionLayout(layout)->Standards;
+  return {standardsOfLayout.begin(), standardsOfLayout.end()};
 }
 
 TEST(SectionLayouts, AreNumberedFromOneToEleven) {
@@ -76,8 +76,8 @@ TEST(SectionLayouts, BeginWithTheFirstStandardOfTheirList) {
 TEST(SectionLayouts, OfferEveryStandardOfTheCatalogueSomewhere) {
   std::set<Long> offered;
   for (Long number = 1; number <= 11; ++number) {
-    const std::vector<Long> standards = Offered(number);
-    offered.insert(standards.begin(), standards.end());
+    const std::vector<Long> standardsOfLayout = Offered(number);
+    offered.insert(standardsOfLayout.begin(), standardsOfLayout.end());
   }
   const ProfileTypeArray catalogue = test::CatalogueWorld().Load();
   EXPECT_EQ(offered.size(), static_cast<std::size_t>(catalogue.UpperBound()));

@@ -8,7 +8,7 @@
 namespace trelonit::test {
 
 /// What the driver gave and showed.
-struct Outcome {
+struct DriverRun {
   CheckResult Check;
   std::vector<Message> Shown;
 };
@@ -48,7 +48,7 @@ struct DriverCase {
     return Single(area, area * iin * iin, area * iout * iout, layout);
   }
 
-  Outcome Run() const {
+  DriverRun Run() const {
     auto [check, told] = CheckueStress(Data, Res, Numbers, Sections);
     return {check, told};
   }

@@ -12,7 +12,7 @@ const Message overflow = DriverError("6 Discription : Overflow");
 const Message invalidCall = DriverError("5 Discription : Invalid procedure call or argument");
 
 void ExpectFailure(const DriverCase& c, const std::vector<Message>& shown) {
-  const Outcome outcome = c.Run();
+  const DriverRun outcome = c.Run();
   EXPECT_EQ(outcome.Shown, shown);
   EXPECT_TRUE(IsEmpty(outcome.Check));
 }
@@ -27,7 +27,7 @@ DriverCase Hanging() {
 }
 
 TEST(CheckueStressMessages, AreNoneForASoundTruss) {
-  const Outcome outcome = DriverCase().Run();
+  const DriverRun outcome = DriverCase().Run();
   EXPECT_EQ(outcome.Shown, std::vector<Message>{});
   EXPECT_FALSE(IsEmpty(outcome.Check));
 }
@@ -38,7 +38,7 @@ TEST(CheckueStressMessages, TellOfAMassThatIsNotPositiveAndTheRunGoesOn) {
   for (const double density : {0.0, -7.85}) {
     DriverCase c;
     c.Numbers.Density = density;
-    const Outcome outcome = c.Run();
+    const DriverRun outcome = c.Run();
     EXPECT_EQ(outcome.Shown, std::vector{massMessage}) << density;
     EXPECT_EQ(Numbers(outcome.Check), Numbers(expected)) << density;
   }
@@ -48,7 +48,7 @@ TEST(CheckueStressMessages, TellTwiceARunOfTheMissingLengthOfALatticesVerticals)
   DriverCase c;
   c.Data.TreloType = 3;
   for (int run = 0; run < 2; ++run) {
-    const Outcome outcome = c.Run();
+    const DriverRun outcome = c.Run();
     EXPECT_EQ(outcome.Shown, (std::vector{lengthMessage, lengthMessage}));
     EXPECT_EQ(outcome.Check.Stoyka.LimitX.Compress, 0);
     EXPECT_EQ(outcome.Check.Stoyka.LimitX.Tension, 400);
@@ -80,7 +80,7 @@ TEST(CheckueStressMessages, TellOfEveryPlaneWithoutALength) {
   c.Res.LenPanel = 0;
   c.Res.LenRaskos = 0;
   c.Res.LenOpornRaskos = 0;
-  const Outcome outcome = c.Run();
+  const DriverRun outcome = c.Run();
   EXPECT_EQ(outcome.Shown, std::vector(10, lengthMessage));
   EXPECT_EQ(outcome.Check.Raskos.LimitY.Compress, 0);
   EXPECT_EQ(outcome.Check.Raskos.KFlexY, 0);
@@ -94,7 +94,7 @@ TEST(CheckueStressMessages, TellOfEveryPlaneWithoutALength) {
 TEST(CheckueStressMessages, TellOfANegativeLengthInTensionAndTheRunGoesOn) {
   DriverCase c = Hanging();
   c.Data.Hight = -2;
-  const Outcome outcome = c.Run();
+  const DriverRun outcome = c.Run();
   EXPECT_EQ(outcome.Shown, (std::vector{lengthMessage, lengthMessage}));
   EXPECT_DOUBLE_EQ(outcome.Check.Stoyka.FlexY, -40);
   EXPECT_EQ(outcome.Check.Stoyka.PhiY, 0);
@@ -104,7 +104,7 @@ TEST(CheckueStressMessages, TellOfANegativeLengthInTensionAndTheRunGoesOn) {
 TEST(CheckueStressMessages, TellOfABracingOutsideTheTable) {
   DriverCase c = Hanging();
   c.Data.DownPoyasBrace = 5;
-  const Outcome outcome = c.Run();
+  const DriverRun outcome = c.Run();
   EXPECT_EQ(outcome.Shown, std::vector{lengthMessage});
   EXPECT_EQ(outcome.Check.DwnPoyas.LenY, 0);
   EXPECT_EQ(outcome.Check.DwnPoyas.KFlexY, 0);
@@ -226,7 +226,7 @@ TEST(CheckueStressFailure, LeavesNothingBehindForTheNextRun) {
   DriverCase broken;
   broken.Numbers.LimitUser = 0;
   ExpectFailure(broken, {division});
-  const Outcome after = DriverCase().Run();
+  const DriverRun after = DriverCase().Run();
   EXPECT_EQ(after.Shown, std::vector<Message>{});
   EXPECT_EQ(Numbers(after.Check), Numbers(before));
 }

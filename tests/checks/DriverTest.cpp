@@ -7,7 +7,7 @@ namespace {
 
 /// The check of a case that must pass in silence.
 CheckResult Checked(const DriverCase& c) {
-  const Outcome outcome = c.Run();
+  const DriverRun outcome = c.Run();
   EXPECT_EQ(outcome.Shown, std::vector<Message>{});
   return outcome.Check;
 }

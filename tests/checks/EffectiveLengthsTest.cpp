@@ -8,7 +8,7 @@
 namespace trelonit::test {
 namespace {
 
-constexpr double L = 24;
+constexpr double wholeSpan = 24;
 
 /// d and the end panel d0, one of them the longer.
 struct PanelLengths {
@@ -28,7 +28,7 @@ struct Case {
 };
 
 CheckResult LengthsOf(const Case& c) {
-  TreloData data = Design(1, c.n, L, 1.5, c.Panels.d0);
+  TreloData data = Design(1, c.n, wholeSpan, 1.5, c.Panels.d0);
   data.TreloType = c.Scheme;
   data.UpPoyasBrace = c.UpBrace;
   data.DownPoyasBrace = c.DownBrace;
@@ -64,7 +64,7 @@ TEST(EffectiveLengths, OfTheUpperChordOutOfPlaneHangOnTheBracing) {
     for (const Long index : {1, 4, 8}) {
       for (const PanelLengths& panels : panelLengths) {
         const double longer = panels.d > panels.d0 ? panels.d : panels.d0;
-        const double expected[] = {0, longer, longer, L / 2, L, 0};
+        const double expected[] = {0, longer, longer, wholeSpan / 2, wholeSpan, 0};
         for (Integer brace = 0; brace <= 5; ++brace) {
           SCOPED_TRACE(testing::Message() << "scheme " << scheme << ", bracing " << brace);
           EXPECT_EQ(
@@ -98,10 +98,10 @@ TEST(EffectiveLengths, OfTheLowerChordOutOfPlaneHangOnSchemeAndBracing) {
     const double d = panels.d;
     const double longer = panels.d > panels.d0 ? panels.d : panels.d0;
     // Rows: schemes 1 to 4; columns: bracing 1 to 4, for trusses of 8 panels.
-    const double expected[4][4] = {{longer, longer, L / 2, L},
-                                   {d, 2 * d, L / 2, L},
-                                   {d, 2 * d, L / 2, L},
-                                   {2 * d, 4 * d, L / 2, L}};
+    const double expected[4][4] = {{longer, longer, wholeSpan / 2, wholeSpan},
+                                   {d, 2 * d, wholeSpan / 2, wholeSpan},
+                                   {d, 2 * d, wholeSpan / 2, wholeSpan},
+                                   {2 * d, 4 * d, wholeSpan / 2, wholeSpan}};
     for (Long scheme = 1; scheme <= 4; ++scheme) {
       for (Integer brace = 1; brace <= 4; ++brace) {
         SCOPED_TRACE(testing::Message() << "scheme " << scheme << ", bracing " << brace);

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "tests/checks/Checks.h"
 
 namespace trelonit::test {

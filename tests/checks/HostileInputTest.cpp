@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "tests/checks/DriverCase.h"
 #include "tests/support/AnyNumber.h"
 
@@ -52,7 +52,7 @@ void PickOptions(DriverCase& c) {
 
 /// What is wrong with the outcome; nothing for a filled record of finite numbers without an error
 /// and for an empty record with one error, which is the last message.
-std::string Complaint(const Outcome& outcome) {
+std::string Complaint(const DriverRun& outcome) {
   for (const double number : Numbers(outcome.Check)) {
     if (!std::isfinite(number)) {
       return "not finite: " + std::to_string(number);
@@ -76,7 +76,7 @@ std::string Complaint(const Outcome& outcome) {
 
 /// Whether the record is filled.
 bool RunAndExpectNoComplaint(const DriverCase& c) {
-  const Outcome outcome = c.Run();
+  const DriverRun outcome = c.Run();
   RC_ASSERT(Complaint(outcome) == "");
   return !IsEmpty(outcome.Check);
 }
@@ -136,7 +136,7 @@ TEST(HostileInput, OfOneExtremeNumberGivesAFiniteRecordOrOneError) {
         const double kept = number;
         for (const double extreme : extremeNumbers) {
           number = extreme;
-          const Outcome outcome = c.Run();
+          const DriverRun outcome = c.Run();
           ASSERT_EQ(Complaint(outcome), "") << "scheme " << scheme << ", layout " << layout
                                             << ", number " << place << ": " << extreme;
           ++(IsEmpty(outcome.Check) ? failed : filled);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "checks/SteelTable.h"
-#include "platform/CodePage1251.h"
+#include "platform/text/CodePage1251.h"
 #include "resources/EmbeddedResources.h"
 #include "tests/support/SteelRows.h"
 

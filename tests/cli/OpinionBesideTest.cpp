@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "editor/MemoryRichTextBox.h"
+#include "editor/document/MemoryRichTextBox.h"
 #include "tests/cli/AuditCommand.h"
 
 namespace trelonit::test {

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "editor/MemoryRichTextBox.h"
+#include "editor/document/MemoryRichTextBox.h"
 #include "tests/cli/OutputCommand.h"
-#include "tests/workstation/ReportComparison.h"
+#include "tests/workstation/report/ReportComparison.h"
 
 namespace trelonit::test {
 

@@ -9,7 +9,7 @@ namespace {
 using Calls = std::vector<std::string>;
 using Values = std::vector<AutomationValue>;
 
-const RuntimeError broken(77, "Broken");
+const RuntimeError brokenConnection(77, "Broken");
 
 TEST(Connection, WithoutAHostIsEmptyAndSilent) {
   WrapperDesk desk;
@@ -54,7 +54,7 @@ TEST(Connection, StartsTheHostWhereNoneRuns) {
 TEST(ActiveDrawing, IsTheApplicationsOwnOrEmpty) {
   WrapperDesk desk;
   EXPECT_EQ(desk.ACAD.TryGetActivDraw(desk.Host.Application()), desk.Document);
-  desk.Host.FailingMembers.emplace("Application.ActiveDocument", broken);
+  desk.Host.FailingMembers.emplace("Application.ActiveDocument", brokenConnection);
   EXPECT_EQ(desk.ACAD.TryGetActivDraw(desk.Host.Application()), nullptr);
   EXPECT_EQ(desk.ACAD.TryGetActivDraw(nullptr), nullptr);
   EXPECT_TRUE(desk.Messages.Shown.empty());
@@ -86,7 +86,7 @@ TEST(DocumentAccess, IsEmptyAndSilentAfterAnyError) {
   for (const char* member :
        {"Application.Documents", "Application.ActiveDocument", "Documents.Open"}) {
     WrapperDesk desk;
-    desk.Host.FailingMembers.emplace(member, broken);
+    desk.Host.FailingMembers.emplace(member, brokenConnection);
     const bool useActive = std::string(member) != "Documents.Open";
     EXPECT_EQ(desk.ACAD.GetACADDocument(desk.Host.Application(), "a", false, useActive), nullptr)
         << member;
@@ -112,7 +112,7 @@ TEST(ClosingAll, SucceedsWithNoDocumentOpen) {
 TEST(ClosingAll, StopsAtTheFirstError) {
   WrapperDesk desk;
   desk.Host.OpenDocument();
-  desk.Host.FailingMembers.emplace("Document.Close", broken);
+  desk.Host.FailingMembers.emplace("Document.Close", brokenConnection);
   EXPECT_FALSE(desk.ACAD.CloseAll(desk.Host.Application()));
   EXPECT_EQ(desk.Host.Calls.back(), "Document1.Close(False)");
   EXPECT_TRUE(desk.Messages.Shown.empty());
@@ -139,7 +139,7 @@ TEST(Dictionaries, AreAddedAfterAnEmptyAnswerToo) {
 TEST(Dictionaries, AreEmptyAndSilentWhereTheHostRefuses) {
   for (const char* member : {"Document.Dictionaries", "Dictionaries.Add"}) {
     WrapperDesk desk;
-    desk.Host.FailingMembers.emplace(member, broken);
+    desk.Host.FailingMembers.emplace(member, brokenConnection);
     EXPECT_EQ(desk.ACAD.GetOrCreateACADDictionary("TRUSS", desk.Document), nullptr) << member;
     EXPECT_TRUE(desk.Messages.Shown.empty()) << member;
   }
@@ -174,8 +174,8 @@ TEST(ExtendedRecords, KeepTypesAndValues) {
 TEST(ExtendedRecords, TellTheDescriptionOfAnErrorAlone) {
   WrapperDesk desk;
   const auto record = desk.Host.Make("XRecord", "Record");
-  desk.Host.FailingMembers.emplace("XRecord.SetXRecordData", broken);
-  desk.Host.FailingMembers.emplace("XRecord.GetXRecordData", broken);
+  desk.Host.FailingMembers.emplace("XRecord.SetXRecordData", brokenConnection);
+  desk.Host.FailingMembers.emplace("XRecord.GetXRecordData", brokenConnection);
   EXPECT_FALSE(desk.ACAD.SetXRecordData(record, AutomationList(), AutomationList()));
   const ExtendedData data = desk.ACAD.GetXRecordData(record);
   EXPECT_EQ(data.Types, AutomationValue());
@@ -212,8 +212,8 @@ TEST(ExtendedEntityData, OfABlankNameIsThatOfAllApplications) {
 TEST(ExtendedEntityData, TellsAnErrorWithItsNumber) {
   WrapperDesk desk;
   const auto entity = desk.Host.Make("Entity", "Bar");
-  desk.Host.FailingMembers.emplace("Entity.SetXData", broken);
-  desk.Host.FailingMembers.emplace("Entity.GetXData", broken);
+  desk.Host.FailingMembers.emplace("Entity.SetXData", brokenConnection);
+  desk.Host.FailingMembers.emplace("Entity.GetXData", brokenConnection);
   desk.ACAD.SetXData({entity}, AutomationList(), AutomationList());
   EXPECT_EQ(desk.ACAD.GetXData(entity, "TRELO").Values, AutomationValue());
   EXPECT_EQ(desk.Messages.Shown, (std::vector<Message>{Box("SetXData", "Error 77 : Broken"),

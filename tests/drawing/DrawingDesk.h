@@ -5,8 +5,8 @@
 
 #include "analysis/modDatatypes.h"
 #include "catalogue/SectionRecord.h"
-#include "drawing/modACADExport.h"
-#include "platform/Controls.h"
+#include "drawing/scheme/modACADExport.h"
+#include "platform/forms/Controls.h"
 #include "tests/drawing/RecordingHost.h"
 #include "tests/support/TestServices.h"
 

@@ -10,7 +10,7 @@ namespace {
 using Calls = std::vector<std::string>;
 using Boxes = std::vector<Message>;
 
-const RuntimeError broken(77, "Broken");
+const RuntimeError brokenPrimitive(77, "Broken");
 const Message noLine = Box("ACADClass", "Не удалось создать линию по указанным координатам!");
 const Message noText = Box("ACADClass", "Не удалось создать текст по указанным координатам!");
 const Message noPlace = Box("ACADClass", "Не удалось задать тексту точку вставки!");
@@ -74,7 +74,7 @@ TEST(BarWithANumber, ShowsADecimalCommaWhereTheSystemDoes) {
 
 TEST(BarWithANumber, KeepsItsTextWhereTheLineFails) {
   WrapperDesk desk;
-  desk.Host.FailingMembers.emplace("ModelSpace.AddLine", broken);
+  desk.Host.FailingMembers.emplace("ModelSpace.AddLine", brokenPrimitive);
   const LabelledLine drawn = DrawBar(desk);
   EXPECT_EQ(desk.Messages.Shown, (Boxes{noLine, noObject}));
   EXPECT_EQ(drawn.Line, nullptr);
@@ -91,7 +91,7 @@ TEST(BarWithANumber, TellsALineThatTheHostDoesNotGive) {
 
 TEST(BarWithANumber, TellsAnErrorBesideALine) {
   WrapperDesk desk;
-  desk.Host.FailingMembers.emplace("Line.Layer", broken);
+  desk.Host.FailingMembers.emplace("Line.Layer", brokenPrimitive);
   const LabelledLine drawn = DrawBar(desk);
   EXPECT_EQ(desk.Messages.Shown, (Boxes{Box("ACADClass", "Err # 77 err discription : Broken")}));
   EXPECT_NE(drawn.Line, nullptr);
@@ -102,7 +102,7 @@ TEST(BarWithANumber, LeavesThePropertiesOfAFailedTextUnset) {
   for (const bool raises : {true, false}) {
     WrapperDesk desk;
     if (raises) {
-      desk.Host.FailingMembers.emplace("ModelSpace.AddText", broken);
+      desk.Host.FailingMembers.emplace("ModelSpace.AddText", brokenPrimitive);
     } else {
       desk.Host.EmptyMembers.insert("ModelSpace.AddText");
     }
@@ -117,15 +117,15 @@ TEST(BarWithANumber, LeavesThePropertiesOfAFailedTextUnset) {
 TEST(BarWithANumber, TellsOnceThatATextCouldNotBePlaced) {
   for (const char* property : {"Alignment", "Rotation", "TextAlignmentPoint", "Layer"}) {
     WrapperDesk desk;
-    desk.Host.FailingMembers.emplace("Text." + std::string(property), broken);
+    desk.Host.FailingMembers.emplace("Text." + std::string(property), brokenPrimitive);
     EXPECT_NE(DrawBar(desk).Text, nullptr);
     EXPECT_EQ(desk.Messages.Shown, Boxes{noPlace}) << property;
     // The other properties are set all the same.
     EXPECT_EQ(desk.Host.Calls, barCalls) << property;
   }
   WrapperDesk desk;
-  desk.Host.FailingMembers.emplace("Text.Alignment", broken);
-  desk.Host.FailingMembers.emplace("Text.Layer", broken);
+  desk.Host.FailingMembers.emplace("Text.Alignment", brokenPrimitive);
+  desk.Host.FailingMembers.emplace("Text.Layer", brokenPrimitive);
   DrawBar(desk);
   EXPECT_EQ(desk.Messages.Shown, Boxes{noPlace});
 }
@@ -182,8 +182,8 @@ TEST(BarWithTwoLabels, StillHasTheSecondTextWhereTheFirstFails) {
 
 TEST(BarWithTwoLabels, TellsEveryFailureOfItsParts) {
   WrapperDesk desk;
-  desk.Host.FailingMembers.emplace("ModelSpace.AddLine", broken);
-  desk.Host.FailingMembers.emplace("ModelSpace.AddText", broken);
+  desk.Host.FailingMembers.emplace("ModelSpace.AddLine", brokenPrimitive);
+  desk.Host.FailingMembers.emplace("ModelSpace.AddText", brokenPrimitive);
   const LabelledLine drawn = DrawNamedBar(desk, true);
   EXPECT_EQ(desk.Messages.Shown, (Boxes{noLine, noObject, noText, noText}));
   EXPECT_EQ(drawn.Line, nullptr);
@@ -202,9 +202,9 @@ TEST(PlainText, StandsOverItsPoint) {
 
 TEST(PlainText, TellsItsFailures) {
   WrapperDesk desk;
-  desk.Host.FailingMembers.emplace("Text.Rotation", broken);
+  desk.Host.FailingMembers.emplace("Text.Rotation", brokenPrimitive);
   EXPECT_NE(desk.ACAD.DrawText(desk.Space, PointAt(0, 0), "a", 0, 1), nullptr);
-  desk.Host.FailingMembers.emplace("ModelSpace.AddText", broken);
+  desk.Host.FailingMembers.emplace("ModelSpace.AddText", brokenPrimitive);
   EXPECT_EQ(desk.ACAD.DrawText(desk.Space, PointAt(0, 0), "a", 0, 1), nullptr);
   EXPECT_EQ(desk.Messages.Shown, (Boxes{noPlace, noText}));
 }
@@ -219,9 +219,9 @@ TEST(PlainLine, LiesInTheLayerOfTheBars) {
 
 TEST(PlainLine, TellsItsFailures) {
   WrapperDesk desk;
-  desk.Host.FailingMembers.emplace("Line.Layer", broken);
+  desk.Host.FailingMembers.emplace("Line.Layer", brokenPrimitive);
   EXPECT_NE(desk.ACAD.DrawLine(desk.Space, PointAt(1, 2), PointAt(3, 4)), nullptr);
-  desk.Host.FailingMembers.emplace("ModelSpace.AddLine", broken);
+  desk.Host.FailingMembers.emplace("ModelSpace.AddLine", brokenPrimitive);
   EXPECT_EQ(desk.ACAD.DrawLine(desk.Space, PointAt(1, 2), PointAt(3, 4)), nullptr);
   EXPECT_EQ(desk.Messages.Shown,
             (Boxes{Box("ACADClass", "Err # 77 err discription : Broken"), noLine, noObject}));
@@ -262,9 +262,9 @@ TEST(Dimension, WithoutASpaceIsRefused) {
 TEST(Dimension, TellsAnErrorOfTheHost) {
   const DrawingPoint point = PointAt(0, 0);
   WrapperDesk desk;
-  desk.Host.FailingMembers.emplace("Dimension.Layer", broken);
+  desk.Host.FailingMembers.emplace("Dimension.Layer", brokenPrimitive);
   EXPECT_NE(desk.ACAD.DrawDimension(desk.Space, point, point, point, 0), nullptr);
-  desk.Host.FailingMembers.emplace("ModelSpace.AddDimRotated", broken);
+  desk.Host.FailingMembers.emplace("ModelSpace.AddDimRotated", brokenPrimitive);
   EXPECT_EQ(desk.ACAD.DrawDimension(desk.Space, point, point, point, 0), nullptr);
   const Message told = Box("AutoCAD Class", " Err # 77 Discription : Broken");
   EXPECT_EQ(desk.Messages.Shown, (Boxes{told, told}));

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <type_traits>
 
-#include "platform/NumberText.h"
+#include "platform/text/NumberText.h"
 
 namespace trelonit::test {
 

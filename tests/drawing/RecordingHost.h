@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/RuntimeError.h"
-#include "platform/Services.h"
+#include "platform/errors/RuntimeError.h"
+#include "platform/system/Services.h"
 
 namespace trelonit::test {
 

@@ -9,7 +9,7 @@ constexpr int disconnected = -2147417848;
 constexpr int noDocument = -2145320900;
 
 /// Answers every name with one object and keeps what it was asked.
-class OtherPrograms : public AutomationService {
+class AutomationOfOtherPrograms : public AutomationService {
  public:
   AutomationHandle Create(const std::string& programIdentifier) override {
     Created.push_back(programIdentifier);
@@ -44,7 +44,7 @@ TEST(BuiltInHostAutomation, KnowsNoOtherProgram) {
 
 TEST(BuiltInHostAutomation, HandsOtherNamesOn) {
   BuiltInHost host;
-  OtherPrograms others;
+  AutomationOfOtherPrograms others;
   BuiltInHostAutomation automation(host, &others);
   EXPECT_EQ(automation.Create("Word.Application"), others.Object);
   EXPECT_EQ(automation.GetRunning("Word.Application"), others.Object);
@@ -54,7 +54,7 @@ TEST(BuiltInHostAutomation, HandsOtherNamesOn) {
 
 TEST(BuiltInHostAutomation, GivesWayToTheRealHost) {
   BuiltInHost host;
-  OtherPrograms real;
+  AutomationOfOtherPrograms real;
   BuiltInHostAutomation automation(host, &real);
   EXPECT_EQ(automation.GetRunning("AutoCAD.Application"), real.Object);
   EXPECT_EQ(automation.Create("AutoCAD.Application"), real.Object);

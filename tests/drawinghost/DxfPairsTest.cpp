@@ -3,8 +3,8 @@
 #include <limits>
 #include <rapidcheck/gtest.h>
 
-#include "drawing/host/DxfPairs.h"
-#include "platform/Text.h"
+#include "drawing/host/dxf/DxfPairs.h"
+#include "platform/text/Text.h"
 #include "tests/drawinghost/HostDesk.h"
 
 namespace trelonit::test {

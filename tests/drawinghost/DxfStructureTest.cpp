@@ -3,7 +3,7 @@
 #include <set>
 
 #include "drawing/host/DrawingPicture.h"
-#include "drawing/host/DxfWriter.h"
+#include "drawing/host/dxf/DxfWriter.h"
 #include "tests/drawinghost/DxfReading.h"
 #include "tests/drawinghost/HostDesk.h"
 
@@ -207,19 +207,17 @@ TEST(WriteDxf, OfAnEmptyDrawingIsAWholeFile) {
 }
 
 TEST(WriteDxf, RaisesForNumbersThatAreNone) {
-  const double noNumber = std::numeric_limits<double>::quiet_NaN();
-  const double infinite = std::numeric_limits<double>::infinity();
   const auto raised = [](DrawingEntity entity) {
     Drawing drawing;
     drawing.ModelSpace.push_back(std::move(entity));
     return RaisedBy([&] { WriteDxf(drawing); });
   };
-  EXPECT_EQ(raised(DrawingLine{.Start = {0, noNumber}}), 6);
-  EXPECT_EQ(raised(DrawingLine{.End = {0, 0, infinite}}), 6);
-  EXPECT_EQ(raised(DrawingText{.Text = "a", .Rotation = noNumber}), 6);
-  EXPECT_EQ(raised(DrawingText{.Text = "a", .Height = infinite}), 6);
-  EXPECT_EQ(raised(DrawingDimension{.Point1 = {noNumber, 0}}), 6);
-  EXPECT_EQ(raised(DrawingDimension{.ScaleFactor = infinite}), 6);
+  EXPECT_EQ(raised(DrawingLine{.Start = {0, notANumber}}), 6);
+  EXPECT_EQ(raised(DrawingLine{.End = {0, 0, infinity}}), 6);
+  EXPECT_EQ(raised(DrawingText{.Text = "a", .Rotation = notANumber}), 6);
+  EXPECT_EQ(raised(DrawingText{.Text = "a", .Height = infinity}), 6);
+  EXPECT_EQ(raised(DrawingDimension{.Point1 = {notANumber, 0}}), 6);
+  EXPECT_EQ(raised(DrawingDimension{.ScaleFactor = infinity}), 6);
   EXPECT_EQ(raised(DrawingLine{}), 0);
 }
 

@@ -6,11 +6,6 @@ namespace trelonit::test {
 
 namespace {
 
-constexpr int keyNotFound = -2145386476;
-
-const double noNumber = std::numeric_limits<double>::quiet_NaN();
-const double infinite = std::numeric_limits<double>::infinity();
-
 TEST(ModelSpace, BelongsToItsDocument) {
   DocumentDesk desk;
   EXPECT_EQ(ObjectMember(desk.Space, "Document"), desk.Document);
@@ -61,9 +56,9 @@ TEST(ModelSpace, RefusesPointsThatAreNone) {
   const auto raised = [&](const AutomationValue& point) {
     return RaisedBy([&] { CallMember(desk.Space, "AddLine", {At(0, 0), point}); });
   };
-  EXPECT_EQ(raised(At(noNumber, 0)), 5);
-  EXPECT_EQ(raised(At(0, infinite)), 5);
-  EXPECT_EQ(raised(At(0, 0, -infinite)), 5);
+  EXPECT_EQ(raised(At(notANumber, 0)), 5);
+  EXPECT_EQ(raised(At(0, infinity)), 5);
+  EXPECT_EQ(raised(At(0, 0, -infinity)), 5);
   EXPECT_EQ(raised(std::vector<double>{1, 2}), 5);
   EXPECT_EQ(raised(std::vector<double>{1, 2, 3, 4}), 5);
   EXPECT_EQ(raised(1.0), 13);
@@ -80,11 +75,11 @@ TEST(ModelSpace, RefusesTextsAndDimensionsThatCannotBeDrawn) {
   };
   EXPECT_EQ(text(0.0), 5);
   EXPECT_EQ(text(-1.0), 5);
-  EXPECT_EQ(text(noNumber), 5);
+  EXPECT_EQ(text(notANumber), 5);
   EXPECT_EQ(text(std::string("5")), 13);
   EXPECT_EQ(RaisedBy([&] { CallMember(desk.Space, "AddText", {Long{1}, At(0, 0), 5.0}); }), 13);
   EXPECT_EQ(RaisedBy([&] {
-              CallMember(desk.Space, "AddDimRotated", {At(0, 0), At(1, 0), At(0, 1), noNumber});
+              CallMember(desk.Space, "AddDimRotated", {At(0, 0), At(1, 0), At(0, 1), notANumber});
             }),
             5);
   EXPECT_TRUE(desk.Sheet->ModelSpace.empty());
@@ -138,7 +133,7 @@ TEST(Texts, RefuseAlignmentsBetweenTwoPointsAndUnknownOnes) {
     EXPECT_EQ(RaisedBy([&] { SetMember(text, "Alignment", alignment); }), 5) << alignment;
   }
   EXPECT_EQ(RaisedBy([&] { SetMember(text, "Alignment", std::string("left")); }), 13);
-  EXPECT_EQ(RaisedBy([&] { SetMember(text, "Rotation", infinite); }), 5);
+  EXPECT_EQ(RaisedBy([&] { SetMember(text, "Rotation", infinity); }), 5);
 }
 
 TEST(Dimensions, TakeTheirEightProperties) {
@@ -177,7 +172,7 @@ TEST(Dimensions, RefuseSizesThatCannotBe) {
   EXPECT_EQ(raised("TextStyle", std::string("Absent")), keyNotFound);
   EXPECT_EQ(raised("ArrowheadSize", -1.0), 5);
   EXPECT_EQ(raised("ArrowheadSize", 0.0), 0);
-  EXPECT_EQ(raised("TextGap", noNumber), 5);
+  EXPECT_EQ(raised("TextGap", notANumber), 5);
   EXPECT_EQ(raised("TextHeight", 0.0), 5);
   EXPECT_EQ(raised("ScaleFactor", 0.0), 5);
   EXPECT_EQ(raised("TextInside", std::string("True")), 13);

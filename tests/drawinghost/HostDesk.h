@@ -4,14 +4,18 @@
 #include <string>
 #include <vector>
 
-#include "drawing/clsAutoCAD.h"
+#include "drawing/autocad/clsAutoCAD.h"
 #include "drawing/host/BuiltInHost.h"
-#include "drawing/modACADExport.h"
-#include "platform/AutomationMembers.h"
+#include "drawing/scheme/modACADExport.h"
+#include "platform/system/AutomationMembers.h"
 #include "tests/analysis/Designs.h"
+#include "tests/support/AnyNumber.h"
 #include "tests/support/TestServices.h"
 
 namespace trelonit::test {
+
+/// What the host raises for a name that a collection does not have.
+constexpr int keyNotFound = -2145386476;
 
 /// The number of the run-time error that the statement raises; 0 without one.
 template <class Statement>

@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "drawing/host/DrawingPicture.h"
-#include "drawing/host/DxfWriter.h"
+#include "drawing/host/dxf/DxfWriter.h"
 #include "tests/drawinghost/HostDesk.h"
 
 namespace trelonit::test {

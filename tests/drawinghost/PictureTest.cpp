@@ -3,8 +3,8 @@
 #include <numbers>
 #include <rapidcheck/gtest.h>
 
-#include "drawing/SchemeLayout.h"
 #include "drawing/host/DrawingPicture.h"
+#include "drawing/scheme/SchemeLayout.h"
 #include "tests/drawinghost/HostDesk.h"
 
 namespace trelonit::test {
@@ -206,9 +206,8 @@ TEST(DimensionPicture, WithoutASizeOfArrowsHasNone) {
 }
 
 TEST(DimensionPicture, RaisesForWhatIsNoNumber) {
-  const double noNumber = std::numeric_limits<double>::quiet_NaN();
-  EXPECT_EQ(RaisedBy([&] { Picture(SchemeDimension({0, noNumber}, {1, 0}, {0, 1})); }), 6);
-  EXPECT_EQ(RaisedBy([&] { Picture(SchemeDimension({0, 0}, {1, 0}, {0, 1}, noNumber)); }), 6);
+  EXPECT_EQ(RaisedBy([&] { Picture(SchemeDimension({0, notANumber}, {1, 0}, {0, 1})); }), 6);
+  EXPECT_EQ(RaisedBy([&] { Picture(SchemeDimension({0, 0}, {1, 0}, {0, 1}, notANumber)); }), 6);
   EXPECT_EQ(RaisedBy([&] { Picture(SchemeDimension({-1e308, 0}, {1e308, 0}, {0, 1})); }), 6);
 }
 

@@ -4,7 +4,6 @@ namespace trelonit::test {
 
 namespace {
 
-constexpr int keyNotFound = -2145386476;
 constexpr int setExists = -2145320851;
 constexpr int erased = -2145386420;
 

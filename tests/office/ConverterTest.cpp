@@ -5,7 +5,7 @@
 #include <thread>
 
 #include "tests/office/WordDesk.h"
-#include "windows/OfficeProgram.h"
+#include "windows/office/OfficeProgram.h"
 
 // Converters that fail in every way, by scripts in the place of LibreOffice.
 

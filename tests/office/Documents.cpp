@@ -6,8 +6,8 @@
 #include <sstream>
 #include <utility>
 
-#include "editor/TextRuns.h"
-#include "editor/TextUnits.h"
+#include "editor/document/TextRuns.h"
+#include "editor/document/TextUnits.h"
 
 namespace trelonit::test {
 

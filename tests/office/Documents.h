@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "editor/RichDocument.h"
+#include "editor/document/RichDocument.h"
 
 namespace trelonit::test {
 

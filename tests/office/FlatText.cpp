@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "editor/TextRuns.h"
+#include "editor/document/TextRuns.h"
 
 namespace trelonit::test {
 

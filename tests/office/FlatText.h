@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "editor/RichDocument.h"
+#include "editor/document/RichDocument.h"
 
 namespace trelonit::test {
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "editor/RtfReader.h"
+#include "editor/rtf/RtfReader.h"
 #include "tests/office/Documents.h"
 #include "tests/office/OfficeBatch.h"
 

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "windows/OfficeProgram.h"
+#include "windows/office/OfficeProgram.h"
 
 namespace trelonit::test {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "editor/RtfReader.h"
-#include "editor/RtfWriter.h"
+#include "editor/rtf/RtfReader.h"
+#include "editor/rtf/RtfWriter.h"
 #include "tests/office/Documents.h"
 #include "tests/office/FlatText.h"
 #include "tests/office/OfficeBatch.h"

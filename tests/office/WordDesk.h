@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/Files.h"
 #include "platform/console/ConsoleServices.h"
-#include "windows/OfficeAutomation.h"
+#include "platform/files/Files.h"
+#include "windows/office/OfficeAutomation.h"
 
 namespace trelonit::test {
 

@@ -5,8 +5,8 @@
 #include <thread>
 #include <unistd.h>
 
-#include "editor/RtfReader.h"
-#include "editor/RtfWriter.h"
+#include "editor/rtf/RtfReader.h"
+#include "editor/rtf/RtfWriter.h"
 #include "tests/office/Documents.h"
 #include "tests/office/OfficeBatch.h"
 #include "tests/office/WordDesk.h"

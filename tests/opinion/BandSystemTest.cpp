@@ -5,7 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "opinion/BandSystem.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "tests/analysis/RandomDesigns.h"
 
 namespace trelonit::test {

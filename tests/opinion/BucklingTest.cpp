@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "opinion/Buckling.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "tests/opinion/PublishedPhi.h"
 
 namespace trelonit::test {

@@ -6,8 +6,8 @@
 #include "checks/ElementGroups.h"
 #include "tests/opinion/FindingsTools.h"
 #include "tests/opinion/OpinionCase.h"
-#include "tests/workstation/AnyDesign.h"
-#include "workstation/SecondOpinion.h"
+#include "tests/workstation/design/AnyDesign.h"
+#include "workstation/design/SecondOpinion.h"
 
 namespace trelonit::test {
 

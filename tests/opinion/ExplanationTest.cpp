@@ -9,7 +9,7 @@
 #include "checks/ElementGroups.h"
 #include "opinion/Expression.h"
 #include "tests/opinion/OpinionCase.h"
-#include "tests/workstation/AnyDesign.h"
+#include "tests/workstation/design/AnyDesign.h"
 
 namespace trelonit::test {
 

@@ -8,7 +8,7 @@
 
 #include "opinion/Expression.h"
 #include "opinion/FormulaText.h"
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "tests/analysis/RandomDesigns.h"
 
 namespace trelonit::test {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 #include "tests/opinion/OpinionCase.h"
 #include "tests/support/AnyNumber.h"
 
@@ -14,16 +14,16 @@ namespace trelonit::test {
 
 namespace {
 
-using Numbers = std::vector<std::reference_wrapper<double>>;
+using NumberPlaces = std::vector<std::reference_wrapper<double>>;
 
-void Add(Numbers& numbers, BoundedArray<double>& array) {
+void Add(NumberPlaces& numbers, BoundedArray<double>& array) {
   numbers.insert(numbers.end(), array.begin(), array.end());
 }
 
 /// What the user enters.
-Numbers InputsOf(OpinionCase& c) {
-  Numbers numbers{c.Data.LengthF, c.Data.Hight, c.Data.LenOporn, c.Numbers.Ry,
-                  c.Numbers.E,    c.Numbers.Yc, c.Numbers.Gn,    c.Numbers.LimitUser};
+NumberPlaces InputsOf(OpinionCase& c) {
+  NumberPlaces numbers{c.Data.LengthF, c.Data.Hight, c.Data.LenOporn, c.Numbers.Ry,
+                       c.Numbers.E,    c.Numbers.Yc, c.Numbers.Gn,    c.Numbers.LimitUser};
   for (auto* loads :
        {&c.Data.UpPForce, &c.Data.UpDistForce, &c.Data.DwnPForce, &c.Data.DwnDistForce}) {
     Add(numbers, *loads);
@@ -36,7 +36,7 @@ Numbers InputsOf(OpinionCase& c) {
   return numbers;
 }
 
-Numbers FieldsOf(GroupCheck& group) {
+NumberPlaces FieldsOf(GroupCheck& group) {
   return {group.AlphaX,
           group.AlphaY,
           group.FlexX,
@@ -66,15 +66,15 @@ Numbers FieldsOf(GroupCheck& group) {
 }
 
 /// What the program's own calculation found.
-Numbers ResultsOf(OpinionCase& c) {
-  Numbers numbers{c.Result.ReactLeft, c.Result.ReactRight, c.Result.LenPanel, c.Check.Mass};
+NumberPlaces ResultsOf(OpinionCase& c) {
+  NumberPlaces numbers{c.Result.ReactLeft, c.Result.ReactRight, c.Result.LenPanel, c.Check.Mass};
   for (auto* forces : {&c.Result.UpPoyasForce, &c.Result.DwnPoyasForce, &c.Result.RaskosForce,
                        &c.Result.StoykaForce, &c.Result.UpKnotLoad, &c.Result.DwnKnotLoad}) {
     Add(numbers, *forces);
   }
   for (GroupCheck* group : {&c.Check.UpPoyas, &c.Check.DwnPoyas, &c.Check.Stoyka, &c.Check.Raskos,
                             &c.Check.OpornRaskos}) {
-    const Numbers more = FieldsOf(*group);
+    const NumberPlaces more = FieldsOf(*group);
     numbers.insert(numbers.end(), more.begin(), more.end());
   }
   return numbers;
@@ -157,7 +157,7 @@ OpinionCase PickCase() {
   return c;
 }
 
-void GoWild(const Numbers& numbers, int count) {
+void GoWild(const NumberPlaces& numbers, int count) {
   for (int i = 0; i < count; ++i) {
     (*rc::gen::elementOf(numbers)).get() = *AnyNumber();
   }
@@ -218,9 +218,9 @@ TEST(HostileOpinion, OfOneExtremeNumberIsFiniteOrARefusal) {
   int formed = 0;
   int refused = 0;
   OpinionCase c(SnowyTruss(1, 4), SameSections(Single(20, 500, 500, 4)));
-  Numbers numbers = InputsOf(c);
+  NumberPlaces numbers = InputsOf(c);
   // The records of the groups are alike: one of them will do.
-  const Numbers record = FieldsOf(c.Check.UpPoyas);
+  const NumberPlaces record = FieldsOf(c.Check.UpPoyas);
   numbers.insert(numbers.end(), record.begin(), record.end());
   Add(numbers, c.Result.RaskosForce);
   Add(numbers, c.Result.UpKnotLoad);

@@ -5,7 +5,7 @@
 #include "tests/analysis/RandomDesigns.h"
 #include "tests/opinion/FindingsTools.h"
 #include "tests/opinion/OpinionCase.h"
-#include "workstation/OwnWeight.h"
+#include "workstation/design/OwnWeight.h"
 
 namespace trelonit::test {
 
@@ -139,7 +139,7 @@ RC_GTEST_PROP(LoadDiffers, AppearsWhereTheToldJointLoadsAreNotTheEnteredOnes, ()
 /// Squares of 2 m: chords 8 + 8 m, five posts of 2 m, four diagonals of 2 sqrt 2 m. With 20 cm2
 /// throughout that are 37.3137085 m of 20e-4 m2 at 7.85 t/m3, 0.585825 t, over 16 m of chords:
 /// 0.0366141 t/m.
-constexpr double ownWeight = 0.0366141;
+constexpr double weightPerMetre = 0.0366141;
 
 OpinionCase LoadedWith(double upper, double lower) {
   TreloData data = SquareDesign(1, 4);
@@ -171,8 +171,8 @@ TEST(OwnWeightTwice, TellsOfAnAmountThatAllPanelsHold) {
 }
 
 TEST(OwnWeightTwice, IsNoneBeyondThreeTimesWhatTheTrussWeighs) {
-  EXPECT_EQ(DoubledTexts(LoadedWith(1, 3 * ownWeight - 1e-6)).size(), 1U);
-  EXPECT_EQ(DoubledTexts(LoadedWith(1, 3 * ownWeight + 1e-6)).size(), 0U);
+  EXPECT_EQ(DoubledTexts(LoadedWith(1, 3 * weightPerMetre - 1e-6)).size(), 1U);
+  EXPECT_EQ(DoubledTexts(LoadedWith(1, 3 * weightPerMetre + 1e-6)).size(), 0U);
 }
 
 TEST(OwnWeightTwice, IsNoneWhereAPanelHoldsLessOrALowerOneMore) {

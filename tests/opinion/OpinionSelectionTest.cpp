@@ -7,12 +7,12 @@
 #include "checks/ElementGroups.h"
 #include "opinion/Opinion.h"
 #include "tests/checks/Checks.h"
-#include "tests/workstation/AnyDesign.h"
-#include "tests/workstation/SelectionLadder.h"
-#include "workstation/OpinionSelection.h"
-#include "workstation/OwnWeight.h"
-#include "workstation/SecondOpinion.h"
-#include "workstation/modHelper.h"
+#include "tests/workstation/design/AnyDesign.h"
+#include "tests/workstation/design/SelectionLadder.h"
+#include "workstation/design/OpinionSelection.h"
+#include "workstation/design/OwnWeight.h"
+#include "workstation/design/SecondOpinion.h"
+#include "workstation/design/modHelper.h"
 
 namespace trelonit::test {
 
@@ -29,7 +29,7 @@ CheckNumbers PickNumbers() {
 }
 
 /// Sections of all layouts from the whole catalogue, at any size.
-trelonit::Design PickDesign() {
+trelonit::Design PickUncalculated() {
   std::vector<Long> layouts(5);
   for (Long& layout : layouts) {
     layout = pick(1, sectionLayoutCount);
@@ -73,7 +73,7 @@ bool IsImpossible(const SelectionProposal& proposal, const ElementGroupRow& row)
 
 RC_GTEST_PROP(SelectionByOpinion, TakesTheFirstSizeThatPassesBoth, ()) {
   const CheckNumbers numbers = PickNumbers();
-  const trelonit::Design design = PickDesign();
+  const trelonit::Design design = PickUncalculated();
   const SelectionProposal proposal = SelectByOpinion(design, Catalogue(), numbers, false);
   RC_ASSERT(proposal.Rounds == 1);
   RC_ASSERT(proposal.Settled.has_value());
@@ -100,7 +100,7 @@ RC_GTEST_PROP(SelectionByOpinion, TakesTheFirstSizeThatPassesBoth, ()) {
 
 RC_GTEST_PROP(SelectionByOpinion, WithOwnWeightChangesNothingWhenCalculatedAgain, ()) {
   const CheckNumbers numbers = PickNumbers();
-  const trelonit::Design design = PickDesign();
+  const trelonit::Design design = PickUncalculated();
   const SelectionProposal proposal = SelectByOpinion(design, Catalogue(), numbers, true);
   RC_ASSERT(proposal.Rounds >= 1);
   RC_CLASSIFY(proposal.Rounds > 2, "more than two rounds");
@@ -121,7 +121,7 @@ RC_GTEST_PROP(SelectionByOpinion, WithOwnWeightChangesNothingWhenCalculatedAgain
 
 RC_GTEST_PROP(SelectionByOpinion, LeavesTheUsersLoadsAndAddsTheWeightOfItsSizes, ()) {
   const CheckNumbers numbers = PickNumbers();
-  const trelonit::Design design = PickDesign();
+  const trelonit::Design design = PickUncalculated();
   const SelectionProposal without = SelectByOpinion(design, Catalogue(), numbers, false);
   RC_ASSERT(without.Settled->Inputs.Loads == design.Loads);
   RC_ASSERT(!without.Settled->Inputs.OwnWeightAdded);

@@ -7,7 +7,7 @@
 #include <string>
 #include <system_error>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 
 #ifndef _WIN32
 #include <array>

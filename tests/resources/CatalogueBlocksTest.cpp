@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "platform/CodePage1251.h"
+#include "platform/text/CodePage1251.h"
 #include "resources/generator/BlocksSource.h"
 #include "resources/generator/CatalogueBlocks.h"
 

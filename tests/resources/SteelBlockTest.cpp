@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/CodePage1251.h"
+#include "platform/text/CodePage1251.h"
 #include "resources/EmbeddedResources.h"
 #include "resources/generator/SteelBlock.h"
 #include "tests/support/SteelRows.h"

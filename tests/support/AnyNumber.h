@@ -9,6 +9,9 @@
 
 namespace trelonit::test {
 
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
 /// Any finite Double: every exponent alike, the ends of the range, zeros and tame numbers.
 inline rc::Gen<double> AnyNumber() {
   using Limits = std::numeric_limits<double>;

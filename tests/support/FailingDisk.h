@@ -6,7 +6,7 @@
 #include <streambuf>
 #include <string>
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 namespace trelonit::test {
 

@@ -10,9 +10,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/RuntimeError.h"
-#include "platform/Services.h"
 #include "platform/console/ConsoleServices.h"
+#include "platform/errors/RuntimeError.h"
+#include "platform/system/Services.h"
 
 namespace trelonit::test {
 

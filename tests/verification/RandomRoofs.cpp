@@ -1,6 +1,6 @@
 #include "tests/verification/RandomRoofs.h"
 
-#include "tests/workstation/AnyDesign.h"
+#include "tests/workstation/design/AnyDesign.h"
 
 namespace trelonit::verification {
 

@@ -2,7 +2,7 @@
 
 #include "checks/CheckNumbers.h"
 #include "tests/verification/Chance.h"
-#include "workstation/Calculation.h"
+#include "workstation/design/Calculation.h"
 
 namespace trelonit::verification {
 

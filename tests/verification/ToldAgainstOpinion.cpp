@@ -5,10 +5,10 @@
 
 #include "checks/ElementGroups.h"
 #include "tests/verification/RandomRoofs.h"
-#include "tests/workstation/AnyDesign.h"
-#include "workstation/SecondOpinion.h"
-#include "workstation/Selection.h"
-#include "workstation/modHelper.h"
+#include "tests/workstation/design/AnyDesign.h"
+#include "workstation/design/SecondOpinion.h"
+#include "workstation/design/Selection.h"
+#include "workstation/design/modHelper.h"
 
 namespace trelonit::verification {
 

@@ -4,7 +4,7 @@
 #include <shlobj.h>
 #include <string>
 
-#include "editor/ModAss.h"
+#include "editor/associations/ModAss.h"
 #include "platform/win32/ComAutomation.h"
 #include "platform/win32/ComPointer.h"
 #include "platform/win32/Utf16.h"
@@ -14,7 +14,7 @@
 #include "tests/support/TestServices.h"
 #include "tests/win32/ErrorOf.h"
 #include "tests/win32/WineOnly.h"
-#include "workstation/frmAbout.h"
+#include "workstation/dialogs/frmAbout.h"
 
 namespace trelonit::test {
 

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "platform/NumberText.h"
 #include "platform/console/ConsoleServices.h"
+#include "platform/text/NumberText.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/Win32Console.h"
 #include "platform/win32/WindowsHeader.h"

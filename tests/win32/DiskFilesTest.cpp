@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/WindowsHeader.h"
 #include "tests/win32/ErrorOf.h"

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/RuntimeError.h"
+#include "platform/errors/RuntimeError.h"
 
 namespace trelonit::test {
 

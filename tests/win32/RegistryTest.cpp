@@ -6,7 +6,7 @@
 #include "platform/win32/Win32Registry.h"
 #include "platform/win32/WindowsHeader.h"
 #include "tests/win32/ErrorOf.h"
-#include "workstation/frmAbout.h"
+#include "workstation/dialogs/frmAbout.h"
 
 namespace trelonit::test {
 

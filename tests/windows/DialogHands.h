@@ -12,7 +12,7 @@
 #include "resources/EmbeddedResources.h"
 #include "tests/support/TestServices.h"
 #include "tests/windows/Hands.h"
-#include "windows/MainWindow.h"
+#include "windows/main/MainWindow.h"
 
 namespace trelonit::test {
 

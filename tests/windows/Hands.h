@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "windows/Binding.h"
+#include "windows/binding/Binding.h"
 
 namespace trelonit::test {
 

@@ -1,0 +1,146 @@
+#ifndef _WIN32
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <sys/resource.h>
+
+#include "platform/files/Files.h"
+
+namespace trelonit::test {
+
+namespace fs = std::filesystem;
+
+int ErrorOf(const std::function<void()>& body);
+std::shared_ptr<const fs::path> TemporaryFolder();
+std::string InChild(const std::function<std::string()>& body);
+void DropRights();
+
+namespace {
+
+/// Links, permissions and limits of the real file system.
+class FileUpdatePosixTest : public testing::Test {
+ protected:
+  std::string In(const std::string& name) const { return (*folder_ / name).string(); }
+
+  void Put(const std::string& name, const std::string& content, unsigned permissions) {
+    std::ofstream(In(name), std::ios::binary) << content;
+    fs::permissions(In(name), fs::perms(permissions));
+  }
+  std::string Content(const std::string& name) const {
+    std::ifstream stream(In(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+  /// The answer to a plain user who writes one byte at the beginning, from a child process.
+  std::string WrittenByAPlainUser(const std::string& name) {
+    return InChild([&]() -> std::string {
+      DropRights();
+      files.OpenForUpdate(In(name))->WriteAt(0, "x");
+      return "written";
+    });
+  }
+  DiskFiles files;
+
+ private:
+  std::shared_ptr<const fs::path> folder_ = TemporaryFolder();
+};
+
+TEST_F(FileUpdatePosixTest, WritesTheFileItselfAndNoNewOneInItsPlace) {
+  Put("file", "0123", 0640);
+  fs::create_hard_link(In("file"), In("other"));
+  files.OpenForUpdate(In("file"))->WriteAt(1, "ab");
+  EXPECT_EQ(Content("other"), "0ab3");
+  EXPECT_EQ(fs::hard_link_count(In("file")), 2U);
+  EXPECT_EQ(static_cast<unsigned>(fs::status(In("file")).permissions()), 0640U);
+  EXPECT_EQ(std::distance(fs::directory_iterator(In("")), {}), 2);
+}
+
+TEST_F(FileUpdatePosixTest, WritesTheFileThatALinkNames) {
+  Put("file", "0123", 0644);
+  fs::create_symlink("file", In("link"));
+  files.OpenForUpdate(In("link"))->WriteAt(1, "ab");
+  EXPECT_EQ(Content("file"), "0ab3");
+  EXPECT_TRUE(fs::is_symlink(In("link")));
+}
+
+TEST_F(FileUpdatePosixTest, FindsNoFileBehindALinkToNothing) {
+  fs::create_symlink("nothing", In("link"));
+  EXPECT_EQ(ErrorOf([&] { files.OpenForUpdate(In("link")); }), 53);
+  EXPECT_FALSE(fs::exists(In("nothing")));
+}
+
+TEST_F(FileUpdatePosixTest, RaisesPathFileAccessForLinksInACircle) {
+  fs::create_symlink("one", In("other"));
+  fs::create_symlink("other", In("one"));
+  EXPECT_EQ(ErrorOf([&] { files.OpenForUpdate(In("one")); }), 75);
+}
+
+TEST_F(FileUpdatePosixTest, RefusesAReadOnlyFileThoughItsFolderIsWritable) {
+  fs::permissions(In(""), fs::perms(0777));
+  Put("file", "0123", 0444);
+  EXPECT_EQ(WrittenByAPlainUser("file"), "error 70");
+  EXPECT_EQ(Content("file"), "0123");
+}
+
+TEST_F(FileUpdatePosixTest, NeedsNoRightsInTheFolder) {
+  Put("file", "0123", 0666);
+  EXPECT_EQ(WrittenByAPlainUser("file"), "written");
+  EXPECT_EQ(Content("file"), "x123");
+}
+
+TEST_F(FileUpdatePosixTest, RefusesAFolderThatMayNotBeEntered) {
+  fs::create_directory(In("folder"));
+  Put("folder/file", "0123", 0666);
+  fs::permissions(In("folder"), fs::perms(0000));
+  const std::string answer = WrittenByAPlainUser("folder/file");
+  fs::permissions(In("folder"), fs::perms(0755));
+  EXPECT_EQ(answer, "error 70");
+  EXPECT_EQ(Content("folder/file"), "0123");
+}
+
+TEST_F(FileUpdatePosixTest, RaisesPathNotFoundBelowAFile) {
+  Put("file", "0123", 0666);
+  EXPECT_EQ(ErrorOf([&] { files.OpenForUpdate(In("file/below")); }), 76);
+}
+
+TEST_F(FileUpdatePosixTest, RaisesDiskFullWhereTheFileCannotGrow) {
+  Put("file", std::string(4000, 'o'), 0666);
+  const std::string answer = InChild([&]() -> std::string {
+    // Otherwise the limit ends the process instead of failing the write.
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{4096, 4096};
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+      throw std::runtime_error("no limit");
+    }
+    files.OpenForUpdate(In("file"))->WriteAt(3990, std::string(1000, 'n'));
+    return "written";
+  });
+  EXPECT_EQ(answer, "error 61");
+  EXPECT_EQ(Content("file").substr(0, 3990), std::string(3990, 'o'));
+}
+
+TEST_F(FileUpdatePosixTest, WritesInsideAFileThatCannotGrow) {
+  Put("file", std::string(4096, 'o'), 0666);
+  const std::string answer = InChild([&]() -> std::string {
+    const rlimit limit{4096, 4096};
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+      throw std::runtime_error("no limit");
+    }
+    files.OpenForUpdate(In("file"))->WriteAt(4090, "nnnnnn");
+    return "written";
+  });
+  EXPECT_EQ(answer, "written");
+  EXPECT_EQ(Content("file"), std::string(4090, 'o') + "nnnnnn");
+}
+
+}  // namespace
+
+}  // namespace trelonit::test
+
+#endif

@@ -1,0 +1,284 @@
+// The document window: its place, look and status bar, what comes to it from outside.
+
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QUrl>
+
+#include "tests/windows/editor/OtchetScreen.h"
+
+namespace trelonit::test {
+namespace {
+
+class OtchetWindowOnScreen : public ::testing::Test, protected OtchetScreen {
+ protected:
+  QRect Place() const { return {Window->pos(), Window->size()}; }
+  /// Drags the data over the text and lets it go near the upper left corner.
+  void Drop(const QMimeData& data) {
+    const QPoint place(2, 2);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(Edit().viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(Edit().viewport(), &event);
+    EXPECT_TRUE(event.isAccepted());
+  }
+  void DropFile(const std::string& path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(ToQt(path))});
+    Drop(data);
+  }
+};
+
+// Place --------------------------------------------------------------------------------------
+
+TEST_F(OtchetWindowOnScreen, HasItsDefaultPlaceAndLookWithoutSettings) {
+  Start();
+  // 1000, 1000, 8500 and 6500 twips.
+  EXPECT_EQ(Place(), QRect(66, 66, 566, 433));
+  EXPECT_EQ(FromQt(Window->windowTitle()), "Vestra");
+  EXPECT_FALSE(ToolBar().isVisible());
+  EXPECT_TRUE(Window->statusBar()->isVisible());
+  EXPECT_EQ(Edit().palette().color(QPalette::Base), QColor(Qt::white));
+  EXPECT_EQ(Edit().lineWrapMode(), QTextEdit::WidgetWidth);
+  EXPECT_EQ(Box->SelFormat(), CharFormat());
+  EXPECT_TRUE(Edit().hasFocus());
+  EXPECT_TRUE(Find<QWidget>(*Window, "PicLeft").isVisible());
+}
+
+TEST_F(OtchetWindowOnScreen, TakesPlaceAndLookFromTheSettings) {
+  Store("MainLeft", "1500");
+  Store("MainTop", "750");
+  Store("MainWidth", "7500");
+  Store("MainHeight", "6000");
+  Store("Toolbar", "True");
+  Store("Statusbar", "False");
+  Store("Wordwrap", "False");
+  Store("Backcolor", "65535");
+  Store("Fontname", "DejaVu Serif");
+  Store("FontSize", "14");
+  Store("Bold", "True");
+  Start();
+  EXPECT_EQ(Place(), QRect(100, 50, 500, 400));
+  EXPECT_TRUE(ToolBar().isVisible());
+  EXPECT_FALSE(Window->statusBar()->isVisible());
+  EXPECT_EQ(Edit().lineWrapMode(), QTextEdit::NoWrap);
+  EXPECT_EQ(Edit().palette().color(QPalette::Base), QColor(255, 255, 0));
+  EXPECT_TRUE(Entry("mnuViewToolbar").isChecked());
+  EXPECT_FALSE(Entry("mnuViewStatusbar").isChecked());
+  EXPECT_FALSE(Entry("mnuFormatWordwrap").isChecked());
+  Key(Qt::Key_X);
+  const QFont font = FirstLook().font();
+  EXPECT_EQ(FromQt(font.families().value(0)), "DejaVu Serif");
+  EXPECT_EQ(font.pointSizeF(), 14);
+  EXPECT_TRUE(font.bold());
+}
+
+TEST_F(OtchetWindowOnScreen, ComesBackOntoTheScreen) {
+  const QRect room = QGuiApplication::primaryScreen()->availableVirtualGeometry();
+  for (const char* far : {"900000", "-900000"}) {
+    Store("MainLeft", far);
+    Store("MainTop", far);
+    Start();
+    EXPECT_TRUE(room.contains(Place())) << far;
+    EXPECT_EQ(Window->size(), QSize(566, 433)) << far;
+  }
+  Store("MainWidth", "900000");
+  Store("MainHeight", "900000");
+  Start();
+  EXPECT_TRUE(room.contains(Place()));
+}
+
+TEST_F(OtchetWindowOnScreen, LeavesItsPlaceInTheSettings) {
+  Start();
+  Window->move(30, 45);
+  Window->resize(520, 400);
+  Trigger("mnuFormatWordwrap");
+  Settings.Written.clear();
+  EXPECT_TRUE(Window->close());
+  EXPECT_EQ(Settings.Written, (std::vector<RecordingSettings::Entry>{{"Wordwrap", "False"},
+                                                                     {"Statusbar", "True"},
+                                                                     {"Toolbar", "False"},
+                                                                     {"MainLeft", "450"},
+                                                                     {"MainTop", "675"},
+                                                                     {"MainWidth", "7800"},
+                                                                     {"MainHeight", "6000"}}));
+  Start();
+  EXPECT_EQ(Place(), QRect(30, 45, 520, 400));
+}
+
+TEST_F(OtchetWindowOnScreen, KeepsItsUsualPlaceWhileItIsMaximized) {
+  Start();
+  Window->move(30, 45);
+  Window->resize(520, 400);
+  Window->showMaximized();
+  ASSERT_TRUE(Soon([this] { return Window->isMaximized(); }));
+  EXPECT_TRUE(Window->close());
+  EXPECT_EQ(Settings.Get(settingsSection, "MainLeft", ""), "450");
+  EXPECT_EQ(Settings.Get(settingsSection, "MainWidth", ""), "7800");
+  EXPECT_EQ(Settings.Get(settingsSection, "MainHeight", ""), "6000");
+}
+
+// What the window tells ------------------------------------------------------------------------
+
+TEST_F(OtchetWindowOnScreen, TellsItsStateInTheStatusBar) {
+  Start();
+  EXPECT_EQ(Panel(1), "File not saved");
+  EXPECT_EQ(Panel(2), "Строка 1, столбец 1");
+  EXPECT_EQ(Panel(3), "");
+  EXPECT_EQ(Panel(4), "0 bytes");
+  Enter("ab\r\ncde");
+  EXPECT_EQ(Panel(2), "Строка 2, столбец 4");
+  EXPECT_EQ(Panel(3), "Изменен");
+  Key(Qt::Key_Left);
+  EXPECT_EQ(Panel(2), "Строка 2, столбец 3");
+  Key(Qt::Key_Home, Qt::ControlModifier);
+  EXPECT_EQ(Panel(2), "Строка 2, столбец 3");
+  Key(Qt::Key_Up);
+  EXPECT_EQ(Panel(2), "Строка 1, столбец 3");
+  Dialogs.ToSave = {{"/home/a.txt", plainTextKind}};
+  Trigger("mnuFileSaveAs");
+  EXPECT_EQ(Panel(1), "/home/a.txt");
+  EXPECT_EQ(Panel(3), "");
+  EXPECT_EQ(Panel(4), "7 bytes");
+}
+
+TEST_F(OtchetWindowOnScreen, HasTheTitleOfTheForm) {
+  Start();
+  Form->Form.SetCaption("отчет 1.rtf");
+  EXPECT_EQ(FromQt(Window->windowTitle()), "отчет 1.rtf");
+  Trigger("mnuFileNew");
+  EXPECT_EQ(FromQt(Window->windowTitle()), "Untitled.txt");
+}
+
+TEST_F(OtchetWindowOnScreen, ShowsALongNameWithoutGrowing) {
+  Start();
+  const QSize before = Window->size();
+  const int caretPlace = Find<QLabel>(*Window, "SB2").x();
+  Form->SBPanels[frmOtchetMain::messagePanel].SetCaption("/home/<b>" + std::string(300, 'x'));
+  QTest::qWait(20);
+  EXPECT_EQ(Window->size(), before);
+  EXPECT_EQ(Find<QLabel>(*Window, "SB2").x(), caretPlace);
+  EXPECT_EQ(Find<QLabel>(*Window, "SB1").textFormat(), Qt::PlainText);
+}
+
+// What comes from outside ------------------------------------------------------------------------
+
+TEST_F(OtchetWindowOnScreen, OpensTheFileOfTheCommandLineOnce) {
+  Outside.Files.Content["/home/a.txt"] = "one\r\ntwo";
+  Start("\"/home/a.txt\"");
+  ASSERT_TRUE(Soon([this] { return Box->TextLength() > 0; }));
+  EXPECT_EQ(FromQt(Edit().toPlainText()), "one\ntwo");
+  EXPECT_EQ(FromQt(Window->windowTitle()), "a.txt");
+  EXPECT_EQ(Panel(1), "/home/a.txt");
+  EXPECT_EQ(Panel(3), "");
+  Trigger("mnuFileNew");
+  Window->hide();
+  ShowActive(*Window);
+  QTest::qWait(50);
+  EXPECT_EQ(Box->Text(), "");
+}
+
+TEST_F(OtchetWindowOnScreen, TellsThatTheFileOfTheCommandLineIsMissing) {
+  Start("/home/none.txt");
+  ASSERT_TRUE(Soon([this] { return !Outside.Messages.Shown.empty(); }));
+  EXPECT_EQ(Said(), Texts{" Err # 53 Discription : File not found"});
+  EXPECT_EQ(Panel(1), "File not saved");
+  EXPECT_EQ(FromQt(Window->windowTitle()), "Vestra");
+}
+
+TEST_F(OtchetWindowOnScreen, OpensADroppedFile) {
+  Outside.Files.Content["/home/отчет 1.rtf"] = "{\\rtf1\\ansi \\b beam}";
+  Start();
+  DropFile("/home/отчет 1.rtf");
+  ASSERT_TRUE(Soon([this] { return Box->TextLength() > 0; }));
+  EXPECT_EQ(FromQt(Edit().toPlainText()), "beam");
+  EXPECT_EQ(FromQt(Window->windowTitle()), "отчет 1.rtf");
+}
+
+TEST_F(OtchetWindowOnScreen, AsksBeforeADroppedFileTakesTheTextsPlace) {
+  Outside.Files.Content["/home/a.txt"] = "new";
+  Start();
+  Enter("old");
+  Answer(MessageAnswer::Cancel);
+  DropFile("/home/a.txt");
+  ASSERT_TRUE(Soon([this] { return !Outside.Messages.Shown.empty(); }));
+  EXPECT_EQ(Said(), Texts{saveQuestion});
+  EXPECT_EQ(FromQt(Edit().toPlainText()), "old");
+  Answer(MessageAnswer::No);
+  DropFile("/home/a.txt");
+  ASSERT_TRUE(Soon([this] { return Box->Text() == "new"; }));
+}
+
+TEST_F(OtchetWindowOnScreen, LeavesTheTextAloneWhereADroppedFileIsBad) {
+  Outside.Files.Content["/home/bad.rtf"] = "no rich text";
+  Start();
+  Enter("old");
+  Answer(MessageAnswer::No);
+  DropFile("/home/bad.rtf");
+  ASSERT_TRUE(Soon([this] { return Outside.Messages.Shown.size() == 2; }));
+  EXPECT_EQ(Said()[1], "Файл не содержит текста в формате RTF.\n/home/bad.rtf");
+  EXPECT_EQ(FromQt(Edit().toPlainText()), "old");
+  EXPECT_EQ(FromQt(Window->windowTitle()), "Vestra");
+  EXPECT_EQ(Panel(1), "File not saved");
+  EXPECT_EQ(Panel(3), "Изменен");
+  Trigger("mnuEdit0");
+  EXPECT_EQ(Box->Text(), "");
+}
+
+TEST_F(OtchetWindowOnScreen, TakesADroppedTextAsOneStep) {
+  Start();
+  Enter("cd");
+  QMimeData data;
+  data.setText("ab");
+  Drop(data);
+  EXPECT_EQ(Box->Text(), "abcd");
+  Trigger("mnuEdit0");
+  EXPECT_EQ(Box->Text(), "cd");
+}
+
+TEST_F(OtchetWindowOnScreen, TakesTextOfAnInputMethodAsOneStep) {
+  Start();
+  QInputMethodEvent unfinished(QStringLiteral("ба"), {});
+  QApplication::sendEvent(&Edit(), &unfinished);
+  EXPECT_EQ(Box->Text(), "");
+  QInputMethodEvent finished;
+  finished.setCommitString(QStringLiteral("балка"));
+  QApplication::sendEvent(&Edit(), &finished);
+  EXPECT_EQ(Box->Text(), "балка");
+  EXPECT_EQ(Form->Undo.UndoCount(), 1);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Box->Text(), "");
+}
+
+TEST_F(OtchetWindowOnScreen, OffersTheEditMenuOnTheText) {
+  Start();
+  Enter("abc");
+  QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5), Edit().mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(Edit().viewport(), &asked);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->actions().front(), &Entry("mnuEdit0"));
+  EXPECT_EQ(menu->actions().back(), &Entry("mnuEdit12"));
+  menu->setActiveAction(&Entry("mnuEdit8"));
+  QTest::keyClick(menu, Qt::Key_Return);
+  EXPECT_EQ(ShownSelection(), "abc");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(OtchetWindowOnScreen, AllowsPastingWhileTheClipboardHoldsText) {
+  Start();
+  const auto soon = [this](bool enabled) {
+    return Soon([&] { return Entry("mnuEdit5").isEnabled() == enabled; });
+  };
+  EXPECT_FALSE(Entry("mnuEdit5").isEnabled());
+  Outside.Clipboard.SetText("x");
+  EXPECT_TRUE(soon(true));
+  Outside.Clipboard.SetText("");
+  EXPECT_TRUE(soon(false));
+}
+
+}  // namespace
+}  // namespace trelonit::test

@@ -1,0 +1,259 @@
+#include <gtest/gtest.h>
+
+#include "tests/windows/main/Screen.h"
+
+namespace trelonit::test {
+namespace {
+
+class SchemeInputs : public ::testing::Test, public Screen {
+ protected:
+  void PressScheme(int scheme) { Press("imgTreloType" + std::to_string(scheme)); }
+  QAbstractButton& Brace(const std::string& chord, const std::string& caption) {
+    return FindAccessible<QAbstractButton>(Window, chord + " закреплен: " + caption);
+  }
+  QLabel& FindDeflectionLabel() {
+    for (QLabel* label : Window.findChildren<QLabel*>()) {
+      if (label->buddy() == &Edit("txtProgib")) {
+        return *label;
+      }
+    }
+    throw std::logic_error("no label of the deflection");
+  }
+};
+
+TEST_F(SchemeInputs, ShowTheStartDefaults) {
+  EXPECT_EQ(Edit("txtLengthF").text(), "20");
+  EXPECT_EQ(Edit("txtHight").text(), "1.5");
+  EXPECT_EQ(Edit("txtLenOporn").text(), "2");
+  EXPECT_EQ(Combo("cmbPanelNum").currentText(), "10");
+  EXPECT_EQ(Entries(Combo("cmbPanelNum")), Numbers(4, 30, 2));
+  EXPECT_EQ(Combo("cmbLenlim").currentText(), "1 / 120");
+  EXPECT_EQ(Combo("cmbLenlim").count(), 49);
+  EXPECT_EQ(Hopt(), "Hopt = 2.00000");
+  EXPECT_TRUE(Button("imgTreloType1").isChecked());
+  EXPECT_TRUE(Brace("Верхний пояс", "Крайние и посредине пролета").isChecked());
+  EXPECT_TRUE(Brace("Нижний пояс", "Крайние и посредине пролета").isChecked());
+  EXPECT_FALSE(Button("chkProgib").isChecked());
+}
+
+TEST_F(SchemeInputs, ReachTheModelOnTheWayForward) {
+  TypeInto("txtLengthF", "24");
+  TypeInto("txtHight", "2.25");
+  TypeInto("txtLenOporn", "2.5");
+  PickIn("cmbPanelNum", "12");
+  GoTo(1);
+  EXPECT_EQ(Main.Model.TreloData.LengthF, 24);
+  EXPECT_EQ(Main.Model.TreloData.Hight, 2.25);
+  EXPECT_EQ(Main.Model.TreloData.LenOporn, 2.5);
+  EXPECT_EQ(Main.Model.TreloData.PanelNum, 12);
+  EXPECT_EQ(Tabs().currentIndex(), 1);
+  EXPECT_EQ(TakeMessages(), Messages());
+}
+
+TEST_F(SchemeInputs, FollowWhatTheCodeSets) {
+  Main.txtLengthF.SetText("31");
+  Main.txtHight.SetText("3");
+  Main.txtLenOporn.SetText("");
+  Main.cmbPanelNum.SetText("16");
+  Main.optUpPoyas.Select(4);
+  EXPECT_EQ(Edit("txtLengthF").text(), "31");
+  EXPECT_EQ(Edit("txtHight").text(), "3");
+  EXPECT_EQ(Edit("txtLenOporn").text(), "");
+  EXPECT_EQ(Combo("cmbPanelNum").currentText(), "16");
+  EXPECT_TRUE(Brace("Верхний пояс", "Все узлы").isChecked());
+  EXPECT_FALSE(Brace("Верхний пояс", "Крайние и посредине пролета").isChecked());
+}
+
+TEST_F(SchemeInputs, AnEmptyEndPanelMeansEqualPanels) {
+  TypeInto("txtLenOporn", "");
+  GoTo(1);
+  EXPECT_EQ(Main.Model.TreloData.LenOporn, 2);
+}
+
+TEST_F(SchemeInputs, CommaAndPointBothCount) {
+  TypeInto("txtLengthF", "24,5");
+  TypeInto("txtHight", "2.5");
+  GoTo(1);
+  EXPECT_EQ(Main.Model.TreloData.LengthF, 24.5);
+  EXPECT_EQ(Main.Model.TreloData.Hight, 2.5);
+}
+
+TEST_F(SchemeInputs, RefuseAWrongSpanAtTheTabChange) {
+  TypeInto("txtLengthF", "0");
+  GoTo(1);
+  EXPECT_EQ(Tabs().currentIndex(), 0);
+  EXPECT_EQ(TakeMessages(), Messages{Stop(wrongGeometry)});
+  EXPECT_EQ(Main.Model.TreloData.LengthF, 0) << "nothing was taken yet";
+}
+
+TEST_F(SchemeInputs, RefuseAWrongHeightOnTheWayToTheLastTab) {
+  TypeInto("txtHight", "");
+  GoTo(2);
+  EXPECT_EQ(Tabs().currentIndex(), 0);
+  EXPECT_EQ(TakeMessages(), Messages{Stop(wrongGeometry)});
+}
+
+TEST_F(SchemeInputs, WarnOfATrussThatIsTooHigh) {
+  TypeInto("txtHight", "20");
+  GoTo(1);
+  EXPECT_EQ(TakeMessages(), Messages{Hint(tooHigh)});
+  EXPECT_EQ(Tabs().currentIndex(), 1);
+}
+
+TEST_F(SchemeInputs, WarnOfSteepDiagonals) {
+  TypeInto("txtHight", "4.41");
+  GoTo(1);
+  EXPECT_EQ(TakeMessages(), Messages{Hint(doubtfulProportions)});
+  EXPECT_EQ(Main.Model.TreloData.Hight, 4.41);
+}
+
+TEST_F(SchemeInputs, CheckNothingOnTheWayBack) {
+  GoTo(2);
+  TypeInto("txtHight", "abc");
+  GoTo(0);
+  EXPECT_EQ(TakeMessages(), Messages());
+  EXPECT_EQ(Tabs().currentIndex(), 0);
+}
+
+TEST_F(SchemeInputs, TheOptimalHeightFollowsPanelsSchemeAndAFinishedSpan) {
+  Window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
+  PickIn("cmbPanelNum", "8");
+  EXPECT_EQ(Hopt(), "Hopt = 2.50000");
+  TypeInto("txtLengthF", "24");
+  EXPECT_EQ(Hopt(), "Hopt = 2.50000") << "until the box is left";
+  QTest::keyClick(&Edit("txtLengthF"), Qt::Key_Tab);
+  EXPECT_EQ(Hopt(), "Hopt = 3.00000");
+  PressScheme(3);
+  EXPECT_EQ(Hopt(), "Hopt = 12.00000");
+}
+
+TEST_F(SchemeInputs, ASchemeIsMarkedAndShown) {
+  for (int scheme = 1; scheme <= 5; ++scheme) {
+    PressScheme(scheme);
+    EXPECT_EQ(Main.Model.TreloData.TreloType, scheme);
+    EXPECT_EQ(Main.imgMain.Shown(), BitmapOf(static_cast<Integer>(100 + scheme)));
+    for (int other = 1; other <= 10; ++other) {
+      EXPECT_EQ(Button("imgTreloType" + std::to_string(other)).isChecked(), other == scheme);
+    }
+  }
+  EXPECT_EQ(TakeMessages(), Messages());
+}
+
+TEST_F(SchemeInputs, AReservedSchemeFailsAtItsPicture) {
+  for (int scheme = 6; scheme <= 10; ++scheme) {
+    PressScheme(scheme);
+    EXPECT_EQ(TakeMessages(), Messages{BitmapTail("imgTreloType_Click", 100 + scheme)});
+    EXPECT_EQ(Main.Model.TreloData.TreloType, 1);
+    EXPECT_FALSE(Button("imgTreloType" + std::to_string(scheme)).isChecked());
+  }
+}
+
+TEST_F(SchemeInputs, TheLatticeHasAllPanelCountsAndNoEndPanelAndNoVerticals) {
+  PressScheme(3);
+  EXPECT_EQ(Entries(Combo("cmbPanelNum")), Numbers(2, 30));
+  EXPECT_EQ(Combo("cmbPanelNum").currentText(), "2");
+  EXPECT_FALSE(Edit("txtLenOporn").isEnabled());
+  EXPECT_EQ(Edit("txtLenOporn").backgroundRole(), QPalette::Window);
+  GoTo(1);
+  EXPECT_FALSE(Button("optElementSection4").isVisible());
+  EXPECT_FALSE(FindAccessible<QWidget>(Window, "Стойки: сечение").isVisible());
+  EXPECT_FALSE(Find<QLabel>(Window, "lblProfilName4").isVisible());
+  EXPECT_TRUE(Button("optElementSection5").isVisible());
+}
+
+TEST_F(SchemeInputs, LeavingTheLatticeBringsAllBack) {
+  PressScheme(3);
+  PressScheme(4);
+  EXPECT_EQ(Entries(Combo("cmbPanelNum")), Numbers(4, 30, 2));
+  EXPECT_EQ(Combo("cmbPanelNum").currentText(), "4");
+  EXPECT_TRUE(Edit("txtLenOporn").isEnabled());
+  EXPECT_EQ(Edit("txtLenOporn").backgroundRole(), QPalette::Base);
+  GoTo(1);
+  EXPECT_TRUE(Button("optElementSection4").isVisible());
+  EXPECT_TRUE(FindAccessible<QWidget>(Window, "Стойки: сечение").isVisible());
+  EXPECT_TRUE(Find<QLabel>(Window, "lblProfilName4").isVisible());
+}
+
+TEST_F(SchemeInputs, OtherSchemesKeepThePanelCount) {
+  PickIn("cmbPanelNum", "14");
+  PressScheme(2);
+  EXPECT_EQ(Combo("cmbPanelNum").currentText(), "14");
+}
+
+TEST_F(SchemeInputs, ThePanelCountSizesTheLoads) {
+  PickIn("cmbPanelNum", "6");
+  EXPECT_EQ(Main.Model.Loads.UpPForce.UpperBound(), 6);
+  PressScheme(2);
+  EXPECT_EQ(Main.Model.Loads.DwnPForce.UpperBound(), 4);
+}
+
+TEST_F(SchemeInputs, BracingIsStoredAtOnce) {
+  const std::vector<std::string> captions{"Только крайние", "Крайние и посредине пролета",
+                                          "Через один", "Все узлы"};
+  for (const Integer number : std::vector<Integer>{1, 3, 4, 2}) {
+    Click(Brace("Верхний пояс", captions[static_cast<std::size_t>(number - 1)]));
+    EXPECT_EQ(Main.Model.TreloData.UpPoyasBrace, number);
+    EXPECT_EQ(Main.optUpPoyas.Selected(), number);
+  }
+  EXPECT_EQ(Main.Model.TreloData.DownPoyasBrace, 2);
+  for (const Integer number : std::vector<Integer>{1, 3, 4, 2}) {
+    Click(Brace("Нижний пояс", captions[static_cast<std::size_t>(number - 1)]));
+    EXPECT_EQ(Main.Model.TreloData.DownPoyasBrace, number);
+  }
+}
+
+TEST_F(SchemeInputs, TheDeflectionBoxesFollowTheirCheckBox) {
+  const auto enabled = [&] {
+    return std::vector<bool>{Edit("txtProgib").isEnabled(), Combo("cmbLenlim").isEnabled(),
+                             Button("optBP").isEnabled(), Button("optNP").isEnabled()};
+  };
+  QLabel& label = FindDeflectionLabel();
+  EXPECT_EQ(enabled(), std::vector<bool>(4, false));
+  EXPECT_FALSE(label.isVisible());
+  EXPECT_EQ(Combo("cmbLenlim").backgroundRole(), QPalette::Window);
+  Press("chkProgib");
+  EXPECT_EQ(enabled(), std::vector<bool>(4, true));
+  EXPECT_TRUE(label.isVisible());
+  EXPECT_EQ(Combo("cmbLenlim").backgroundRole(), QPalette::Base);
+  Press("chkProgib");
+  EXPECT_EQ(enabled(), std::vector<bool>(4, false));
+  EXPECT_FALSE(label.isVisible());
+}
+
+TEST_F(SchemeInputs, OneChordCountsForTheDeflection) {
+  Press("chkProgib");
+  EXPECT_TRUE(Button("optBP").isChecked());
+  Press("optNP");
+  EXPECT_FALSE(Button("optBP").isChecked());
+  EXPECT_TRUE(Main.optNP.Value());
+  EXPECT_FALSE(Main.optBP.Value());
+  Press("optBP");
+  EXPECT_FALSE(Button("optNP").isChecked());
+}
+
+TEST_F(SchemeInputs, WhatTheDeflectionDependsOnDropsIt) {
+  Press("chkProgib");
+  const auto drops = [&](const char* what, auto act) {
+    Main.txtProgib.SetText("0.01234");
+    EXPECT_EQ(Edit("txtProgib").text(), "0.01234");
+    act();
+    EXPECT_EQ(Edit("txtProgib").text(), "") << what;
+  };
+  drops("span", [&] { QTest::keyClick(&Edit("txtLengthF"), Qt::Key_1); });
+  drops("height", [&] { QTest::keyClick(&Edit("txtHight"), Qt::Key_1); });
+  drops("end panel", [&] { QTest::keyClick(&Edit("txtLenOporn"), Qt::Key_1); });
+  drops("panels", [&] { PickIn("cmbPanelNum", "20"); });
+  drops("scheme", [&] { PressScheme(2); });
+  drops("lower chord", [&] { Press("optNP"); });
+  drops("upper chord", [&] { Press("optBP"); });
+}
+
+TEST_F(SchemeInputs, TheDeflectionIsNotForWriting) {
+  Press("chkProgib");
+  QTest::keyClicks(&Edit("txtProgib"), "5");
+  EXPECT_EQ(Main.txtProgib.Text(), "");
+}
+
+}  // namespace
+}  // namespace trelonit::test

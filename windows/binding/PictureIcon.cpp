@@ -1,0 +1,39 @@
+#include "windows/binding/PictureIcon.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPixmap>
+
+#include "windows/binding/Pictures.h"
+
+namespace trelonit {
+
+namespace {
+
+class PictureIconEngine : public QIconEngine {
+ public:
+  explicit PictureIconEngine(QString file) : file_(std::move(file)) {}
+
+  void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+    DrawPicture(*painter, place, file_, QGuiApplication::palette(), mode != QIcon::Disabled);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return pixmap;
+  }
+  QIconEngine* clone() const override { return new PictureIconEngine(file_); }
+
+ private:
+  QString file_;
+};
+
+}  // namespace
+
+QIcon PictureIcon(const QString& file) {
+  return QIcon(new PictureIconEngine(file));
+}
+
+}  // namespace trelonit

@@ -1,0 +1,113 @@
+#include "windows/binding/PictureWidgets.h"
+
+#include <QEvent>
+#include <QPaintEvent>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+
+#include "windows/binding/Binding.h"
+#include "windows/binding/Pictures.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr int frameRadius = 4;
+constexpr int pictureMargin = 5;
+
+}  // namespace
+
+PictureView::PictureView(QSize preferred, QWidget* parent)
+    : QWidget(parent), preferred_(preferred) {
+  setMinimumSize(preferred / 2);
+}
+
+void PictureView::SetFile(const QString& file) {
+  file_ = file;
+  update();
+}
+
+void PictureView::SetWarning(bool warning) {
+  warning_ = warning;
+  update();
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (warning_) {
+    painter.setPen(QPen(WarningColor(palette()), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), frameRadius, frameRadius);
+  }
+  DrawPicture(painter, QRectF(rect()), file_, palette(), isEnabled());
+}
+
+PictureButton::PictureButton(QSize preferred, QWidget* parent)
+    : QAbstractButton(parent), preferred_(preferred) {
+  setCheckable(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  setMinimumSize(preferred * 2 / 3);
+}
+
+void PictureButton::SetFile(const QString& file) {
+  file_ = file;
+  update();
+}
+
+bool PictureButton::event(QEvent* event) {
+  if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave) {
+    update();
+  }
+  return QAbstractButton::event(event);
+}
+
+void PictureButton::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
+  QColor border = palette().color(QPalette::Mid);
+  int width = 1;
+  if (isChecked()) {
+    border = palette().color(QPalette::Highlight);
+    width = 2;
+  } else if (underMouse() && isEnabled()) {
+    border = palette().color(QPalette::Text);
+  }
+  painter.setPen(QPen(border, width));
+  painter.setBrush(palette().color(QPalette::Base));
+  painter.drawRoundedRect(frame, frameRadius, frameRadius);
+  DrawPicture(painter, frame.adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
+              file_, palette(), isEnabled());
+  if (hasFocus()) {
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = rect().adjusted(3, 3, -3, -3);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+  }
+}
+
+void Bind(Image& state, PictureView* view) {
+  Follow(state, view, [&state, view] {
+    view->SetFile(PictureFile(state.Shown()));
+    ShowCommon(state, view);
+  });
+}
+
+void Bind(Image& state, PictureButton* button, std::function<void()> click) {
+  const auto show = [&state, button] {
+    if (const QString file = PictureFile(state.Shown()); !file.isEmpty()) {
+      button->SetFile(file);
+    }
+    button->setChecked(state.Marked());
+    ShowCommon(state, button);
+  };
+  Follow(state, button, show);
+  QObject::connect(button, &QAbstractButton::clicked, button, [click = std::move(click), show] {
+    click();
+    show();
+  });
+}
+
+}  // namespace trelonit

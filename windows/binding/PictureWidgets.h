@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+
+#include "platform/forms/Controls.h"
+
+namespace trelonit {
+
+/// Shows one drawing as large as it fits.
+class PictureView : public QWidget {
+ public:
+  explicit PictureView(QSize preferred, QWidget* parent = nullptr);
+  void SetFile(const QString& file);
+  /// A frame in the colour of what exceeds a limit.
+  void SetWarning(bool warning);
+  QSize sizeHint() const override { return preferred_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QSize preferred_;
+  QString file_;
+  bool warning_ = false;
+};
+
+/// A drawing to press, framed while it is the chosen one of its row.
+class PictureButton : public QAbstractButton {
+ public:
+  explicit PictureButton(QSize preferred, QWidget* parent = nullptr);
+  void SetFile(const QString& file);
+  QSize sizeHint() const override { return preferred_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  QSize preferred_;
+  QString file_;
+};
+
+void Bind(Image& state, PictureView* view);
+/// Shows the mark, and the picture where the state has one. A press runs the handler; which
+/// picture is the chosen one then is the logic's answer.
+void Bind(Image& state, PictureButton* button, std::function<void()> click);
+
+}  // namespace trelonit

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QPainter>
+#include <QSizeF>
+#include <optional>
+#include <string>
+
+#include "windows/drawing/DrawingPainter.h"
+
+namespace trelonit {
+
+// Drawings on paper, to scale and in black. Needs no widgets, only an application with fonts
+// (QGuiApplication).
+
+/// Sheets by GOST 2.301, all of them lying.
+enum class PaperFormat { A4, A3, A2, A1, A0 };
+
+/// Millimetres.
+QSizeF PaperSize(PaperFormat format);
+
+/// One page with a drawing in a frame by GOST 2.301 and its scale in the lower right corner.
+struct DrawingSheet {
+  QSizeF Paper;      ///< millimetres
+  double Scale = 1;  ///< drawing units to a millimetre of paper: 50 for 1:50
+
+  /// "М 1:50"
+  std::string ScaleNote() const;
+};
+
+/// The paper with the greatest standard scale (GOST 2.302, none that enlarges) at which the drawing
+/// fits into the frame. Raises 6 for a drawing whose size is beyond the range of Double.
+DrawingSheet SheetOn(const DrawingPainter& drawing, QSizeF paper);
+
+/// The same on the smallest sheet from A4 to A1 that leaves the texts 2.5 mm high, which GOST 2.304
+/// takes for the smallest; A3 where none does.
+DrawingSheet SheetFor(const DrawingPainter& drawing);
+
+/// Paints the page; its upper left corner is the painter's origin.
+void PaintSheet(QPainter& painter, const DrawingPainter& drawing, const DrawingSheet& sheet,
+                double unitsPerMillimetre, bool realLetters);
+
+// The bytes of a file with one page; without a paper the one that SheetFor takes. They raise 6 like
+// the routines above and 57 where there is no memory for the page.
+
+/// Letters are those of a font: they can be searched for.
+std::string WriteDrawingPdf(const Drawing& drawing, std::optional<PaperFormat> paper = {});
+/// Letters are outlines: they look the same wherever the file is opened.
+std::string WriteDrawingSvg(const Drawing& drawing, std::optional<PaperFormat> paper = {});
+/// In shades of grey, 200 points an inch.
+std::string WriteDrawingPng(const Drawing& drawing, std::optional<PaperFormat> paper = {});
+
+}  // namespace trelonit

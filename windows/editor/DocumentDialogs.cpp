@@ -1,0 +1,150 @@
+#include "windows/editor/DocumentDialogs.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QToolBar>
+
+#include "editor/rtf/RtfReader.h"
+#include "platform/errors/Guard.h"
+#include "platform/files/Files.h"
+#include "windows/binding/Binding.h"
+#include "windows/binding/PictureIcon.h"
+#include "windows/editor/FontWindow.h"
+#include "windows/editor/RichDocumentPdf.h"
+#include "windows/editor/RichDocumentQt.h"
+#include "windows/services/DesktopServices.h"
+
+namespace trelonit {
+
+namespace {
+
+/// "description (*.a)|*.a|..." as Qt takes it: the descriptions with their patterns in brackets.
+QStringList NameFilters() {
+  const QStringList parts = QString::fromUtf8(documentFilter).split(QLatin1Char('|'));
+  QStringList filters;
+  for (int part = 0; part + 1 < parts.size(); part += 2) {
+    // Names without a point are files too where the system is not Windows.
+    filters.append(QString(parts[part]).replace(QLatin1String("*.*"), QLatin1String("*")));
+  }
+  return filters;
+}
+
+FileChoice RunDialog(const FileChoice& offered, const QString& title,
+                     QFileDialog::AcceptMode mode) {
+  const QStringList filters = NameFilters();
+  QFileDialog dialog(QApplication::activeWindow(), title);
+  dialog.setAcceptMode(mode);
+  dialog.setNameFilters(filters);
+  dialog.selectNameFilter(filters.value(static_cast<int>(offered.FilterIndex) - 1));
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile
+                                                     : QFileDialog::ExistingFile);
+  if (!offered.Name.empty()) {
+    const QFileInfo present(ToQt(offered.Name));
+    dialog.setDirectory(present.absolutePath());
+    dialog.selectFile(present.fileName());
+  }
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return {{}, offered.FilterIndex};
+  }
+  return {FromQt(dialog.selectedFiles().front()),
+          static_cast<Long>(filters.indexOf(dialog.selectedNameFilter())) + 1};
+}
+
+RichDocument DocumentOf(const RichTextBox& box) {
+  return ReadRtf(box.TextRTF());
+}
+
+}  // namespace
+
+DocumentDialogs::DocumentDialogs() = default;
+DocumentDialogs::~DocumentDialogs() = default;
+
+FileChoice DocumentDialogs::ShowOpen(const FileChoice& offered) {
+  return RunDialog(offered, QStringLiteral("Открыть документ"), QFileDialog::AcceptOpen);
+}
+
+FileChoice DocumentDialogs::ShowSave(const FileChoice& offered) {
+  return RunDialog(offered, QStringLiteral("Сохранить документ как"), QFileDialog::AcceptSave);
+}
+
+std::optional<Color> DocumentDialogs::ShowColor(Color present) {
+  const QColor chosen = QColorDialog::getColor(ToQt(present), QApplication::activeWindow(),
+                                               QStringLiteral("Цвет фона"));
+  return chosen.isValid() ? std::optional(ColorOf(chosen)) : std::nullopt;
+}
+
+std::optional<CharFormat> DocumentDialogs::ShowFont(const CharFormat& present) {
+  FontWindow window(present, QApplication::activeWindow());
+  return window.exec() == QDialog::Accepted ? std::optional(window.Chosen()) : std::nullopt;
+}
+
+QPrinter& DocumentDialogs::Printer() {
+  if (printer_ == nullptr) {
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer_->setPageLayout(PaperLayout());
+  }
+  return *printer_;
+}
+
+void DocumentDialogs::PrintDocument(const RichTextBox& document, const std::string& title) {
+  QPrinter& printer = Printer();
+  printer.setDocName(ToQt(title));
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  dialog.setWindowTitle(QStringLiteral("Печать"));
+  if (dialog.exec() == QDialog::Accepted) {
+    PaintDocument(DocumentOf(document), printer);
+  }
+}
+
+void DocumentDialogs::PreviewDocument(const RichTextBox& document, const std::string& title) {
+  QPrinter& printer = Printer();
+  printer.setDocName(ToQt(title));
+  const RichDocument pages = DocumentOf(document);
+  QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
+  dialog.setWindowTitle(QStringLiteral("Предварительный просмотр - ") + ToQt(title));
+  dialog.resize(900, 760);
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                   [&pages](QPrinter* target) { PaintDocument(pages, *target); });
+  if (auto* bar = dialog.findChild<QToolBar*>()) {
+    QAction* store = bar->addAction(PictureIcon(QStringLiteral(":/pictures/tool-save.svg")),
+                                    QStringLiteral("Сохранить в PDF"));
+    store->setObjectName(QStringLiteral("StorePdf"));
+    QObject::connect(store, &QAction::triggered, &dialog,
+                     [&] { StorePdf(document, title, &dialog); });
+  }
+  dialog.exec();
+}
+
+void DocumentDialogs::StorePdf(const RichTextBox& document, const std::string& title,
+                               QWidget* parent) {
+  QFileDialog dialog(parent, QStringLiteral("Сохранить в PDF"), {},
+                     QStringLiteral("Документ PDF (*.pdf)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("pdf"));
+  dialog.selectFile(QFileInfo(ToQt(title)).completeBaseName());
+  if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+    // Told here: a failure must not leave through the preview's own event loop.
+    DesktopMessages messages;
+    Guard(messages, "StorePdf", [&] {
+      DiskFiles().ReplaceFile(FromQt(dialog.selectedFiles().front()),
+                              WritePdf(DocumentOf(document), title, Printer().pageLayout()));
+    });
+  }
+}
+
+void DocumentDialogs::PageSetup() {
+  QPageSetupDialog dialog(&Printer(), QApplication::activeWindow());
+  dialog.setWindowTitle(QStringLiteral("Параметры страницы"));
+  dialog.exec();
+}
+
+}  // namespace trelonit

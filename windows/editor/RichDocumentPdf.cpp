@@ -1,0 +1,112 @@
+#include "windows/editor/RichDocumentPdf.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QPageRanges>
+#include <QPainter>
+#include <QPalette>
+#include <QPdfWriter>
+#include <QTextDocument>
+
+#include "platform/errors/RuntimeError.h"
+#include "windows/binding/Binding.h"
+#include "windows/editor/RichDocumentQt.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr double filedMargin = 20;  ///< mm
+constexpr double otherMargin = 15;  ///< mm
+
+/// The foot of a page.
+class Foot {
+ public:
+  explicit Foot(QPagedPaintDevice& device)
+      : font_(FontFor({.FontName = "DejaVu Sans", .FontSize = 8}), &device),
+        metrics_(font_, &device) {}
+  /// With the gap above it.
+  double Height() const { return 2 * metrics_.lineSpacing(); }
+  void Paint(QPainter& painter, const QRectF& page, int number, int count) const {
+    painter.setFont(font_);
+    painter.setPen(Qt::black);
+    painter.drawText(page, Qt::AlignBottom | Qt::AlignHCenter,
+                     QStringLiteral("Стр. %1 из %2").arg(number).arg(count));
+  }
+
+ private:
+  QFont font_;
+  QFontMetricsF metrics_;
+};
+
+void PaintPage(QPainter& painter, QTextDocument& text, const QSizeF& size, int page) {
+  const QRectF part(QPointF(0, page * size.height()), size);
+  painter.save();
+  painter.setClipRect(QRectF(QPointF(0, 0), size));
+  painter.translate(-part.topLeft());
+  QAbstractTextDocumentLayout::PaintContext context;
+  // Lines that only touch the page belong to its neighbours.
+  context.clip = part.adjusted(0, 1, 0, -1);
+  // Ink, whatever the desktop's colours are.
+  context.palette.setColor(QPalette::Text, Qt::black);
+  text.documentLayout()->draw(&painter, context);
+  painter.restore();
+}
+
+}  // namespace
+
+QPageLayout PaperLayout() {
+  return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
+          QMarginsF(filedMargin, otherMargin, otherMargin, otherMargin), QPageLayout::Millimeter};
+}
+
+int PaintDocument(const RichDocument& document, QPagedPaintDevice& device) {
+  QPainter painter;
+  if (!painter.begin(&device)) {
+    throw RuntimeError(ErrorNumber::DeviceIoError);
+  }
+  const Foot foot(device);
+  const QRectF page(0, 0, device.width(), device.height());
+  const QSizeF size(page.width(), page.height() - foot.Height());
+  QTextDocument text;
+  FillDocument(text, document);
+  text.setDefaultFont(FontFor({}));
+  text.setDocumentMargin(0);
+  text.documentLayout()->setPaintDevice(&device);
+  text.setPageSize(size);
+  const int count = text.pageCount();
+  const QPageRanges ranges = device.pageRanges();
+  bool painted = false;
+  for (int number = 1; number <= count; ++number) {
+    if (!ranges.isEmpty() && !ranges.contains(number)) {
+      continue;
+    }
+    if (painted && !device.newPage()) {
+      throw RuntimeError(ErrorNumber::DeviceIoError);
+    }
+    painted = true;
+    PaintPage(painter, text, size, number - 1);
+    foot.Paint(painter, page, number, count);
+  }
+  if (!painter.end()) {
+    throw RuntimeError(ErrorNumber::DeviceIoError);
+  }
+  return count;
+}
+
+std::string WritePdf(const RichDocument& document, const std::string& title,
+                     const QPageLayout& layout) {
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter writer(&bytes);
+    writer.setPageLayout(layout);
+    writer.setTitle(ToQt(title));
+    writer.setCreator(QStringLiteral("Trelonit"));
+    PaintDocument(document, writer);
+  }
+  return bytes.data().toStdString();
+}
+
+}  // namespace trelonit

@@ -1,0 +1,224 @@
+#include "windows/main/SchemeTab.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <array>
+
+#include "windows/binding/Binding.h"
+#include "windows/binding/Layouts.h"
+#include "windows/binding/PictureWidgets.h"
+#include "windows/binding/Pictures.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr int schemesInRow = 5;
+constexpr QSize schemeSize{132, 66};
+/// The size of figures beside their option.
+constexpr double smallLetters = 0.9;
+
+const QString takenHead = QStringLiteral("расчет, м");
+const QString heldHead = QStringLiteral("по подписи, м");
+
+/// A place for a figure beside an option.
+QLabel* AddFigure(QGridLayout* rows, int row, int column) {
+  auto* label = new QLabel;
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  QFont small = label->font();
+  small.setPointSizeF(small.pointSizeF() * smallLetters);
+  label->setFont(small);
+  rows->addWidget(label, row, column);
+  return label;
+}
+
+/// Schemes 6 to 10 have no hint of their own.
+QString SchemeHint(Long scheme) {
+  static constexpr std::array<const char*, 5> hints{
+      "Первый тип фермы опирание по нижнему поясу", "Второй тип фермы опирание по верхнему поясу",
+      "Третий тип фермы опирание по верхнему поясу",
+      "Четвертый тип фермы опирание по верхнему поясу",
+      "Пятый тип фермы опирание по нижнему поясу"};
+  const auto place = static_cast<std::size_t>(scheme - 1);
+  return place < hints.size() ? QString::fromUtf8(hints[place]) : QString();
+}
+
+}  // namespace
+
+SchemeTab::SchemeTab(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
+  auto* columns = new QHBoxLayout(this);
+  auto* pictures = new QVBoxLayout;
+  columns->addLayout(pictures, 1);
+  AddSchemes(pictures);
+
+  auto* inputs = new QVBoxLayout;
+  columns->addLayout(inputs);
+  AddGeometry(inputs);
+  // What each choice does to the slenderness out of the plane stands in the hint: the captions
+  // tell where the chord is held, the calculation takes these lengths.
+  AddBracing(inputs,
+             {.Options = form_.optUpPoyas,
+              .Lengths = form_.lblUpPoyasLength,
+              .Name = QStringLiteral("lblUpPoyasLength"),
+              .Caption = QStringLiteral("Верхний пояс закреплен"),
+              .Hint = QStringLiteral("Влияет на устойчивость верхнего пояса из плоскости фермы"),
+              .Taken = {QStringLiteral("наибольшая панель"), QStringLiteral("наибольшая панель"),
+                        QStringLiteral("половина пролета"), QStringLiteral("весь пролет")}});
+  AddBracing(
+      inputs,
+      {.Options = form_.optDownPoyas,
+       .Lengths = form_.lblDownPoyasLength,
+       .Name = QStringLiteral("lblDownPoyasLength"),
+       .Caption = QStringLiteral("Нижний пояс закреплен"),
+       .Hint = QStringLiteral("Влияет на устойчивость нижнего пояса из плоскости фермы"),
+       .Taken = {QStringLiteral("одна панель пояса"), QStringLiteral("до двух панелей пояса"),
+                 QStringLiteral("половина пролета"), QStringLiteral("весь пролет")}});
+  AddDeflection(inputs);
+  inputs->addStretch();
+}
+
+void SchemeTab::AddSchemes(QBoxLayout* column) {
+  auto* grid = AddGroup<QGridLayout>(column, QStringLiteral("Схема фермы"));
+  for (Long scheme = 1; scheme <= schemeCount; ++scheme) {
+    auto* button = new PictureButton(schemeSize);
+    button->SetFile(SchemePictureFile(scheme));
+    button->setAccessibleName(QStringLiteral("Схема фермы %1").arg(scheme));
+    button->setObjectName(QStringLiteral("imgTreloType%1").arg(scheme));
+    SetHint(button, SchemeHint(scheme));
+    Bind(form_.imgTreloType[scheme], button, [this, scheme] { form_.imgTreloType_Click(scheme); });
+    const int place = static_cast<int>(scheme) - 1;
+    grid->addWidget(button, place / schemesInRow, place % schemesInRow);
+  }
+  auto* large = AddGroup<QVBoxLayout>(column, QStringLiteral("Выбранная схема"), 1);
+  auto* view = new PictureView({640, 260});
+  view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  view->setObjectName(QStringLiteral("imgMain"));
+  view->setAccessibleName(QStringLiteral("Выбранная схема фермы"));
+  Bind(form_.imgMain, view);
+  large->addWidget(view);
+}
+
+void SchemeTab::AddGeometry(QBoxLayout* column) {
+  auto* rows = AddGroup<QFormLayout>(column, QStringLiteral("Геометрия"));
+  const auto box = [&](TextBox& state, const char* name, const QString& caption) {
+    auto* edit = new QLineEdit;
+    edit->setObjectName(QLatin1String(name));
+    Bind(state, edit);
+    rows->addRow(LabelFor(edit, caption), edit);
+    return edit;
+  };
+  auto* span = box(form_.txtLengthF, "txtLengthF", QStringLiteral("&Длинна фермы, м"));
+  QObject::connect(span, &QLineEdit::editingFinished, this,
+                   [this] { form_.txtLengthF_LostFocus(); });
+  box(form_.txtHight, "txtHight", QStringLiteral("&Высота фермы, м"));
+  SetHint(box(form_.txtLenOporn, "txtLenOporn", QStringLiteral("Опорная панел&ь, м")),
+          QStringLiteral("Длинна крайних опорных панелей. Если не задано, то полагаются все панели "
+                         "равной длинны !"));
+  auto* panels = new QComboBox;
+  panels->setObjectName(QStringLiteral("cmbPanelNum"));
+  Bind(form_.cmbPanelNum, panels);
+  rows->addRow(LabelFor(panels, QStringLiteral("&Кол-во панелей фермы")), panels);
+}
+
+void SchemeTab::AddBracing(QBoxLayout* column, const Bracing& bracing) {
+  static constexpr std::array<const char*, 4> captions{
+      "Только крайние", "Крайние и посредине пролета", "Через один", "Все узлы"};
+  auto* rows = AddGroup<QGridLayout>(column, bracing.Caption);
+  rows->setColumnStretch(0, 1);
+  rows->setHorizontalSpacing(16);
+  rows->setVerticalSpacing(2);
+  QLabel* taken = AddFigure(rows, 0, 1);
+  taken->setText(takenHead);
+  SetHint(taken, QStringLiteral("Длина из плоскости фермы, которую берет расчет"));
+  QLabel* held = AddFigure(rows, 0, 2);
+  held->setText(heldHead);
+  SetHint(held, QStringLiteral("Расстояние между закрепленными узлами по смыслу подписи"));
+  for (Long number = 1; number <= static_cast<Long>(captions.size()); ++number) {
+    const QString caption = QString::fromUtf8(captions[static_cast<std::size_t>(number - 1)]);
+    auto* option = new QRadioButton(caption);
+    option->setAccessibleName(bracing.Caption + QStringLiteral(": ") + caption);
+    SetHint(option,
+            bracing.Hint + QStringLiteral("\nРасчетная длина: ") + bracing.Taken[number - 1]);
+    Bind(bracing.Options, number, option);
+    rows->addWidget(option, static_cast<int>(number), 0);
+    AddLengths(rows, bracing, number, option);
+  }
+}
+
+void SchemeTab::AddLengths(QGridLayout* rows, const Bracing& bracing, Long number,
+                           QWidget* option) {
+  frmMain::BracingLength& length = bracing.Lengths[number];
+  QLabel* taken = AddFigure(rows, static_cast<int>(number), 1);
+  taken->setObjectName(QStringLiteral("%1%2Taken").arg(bracing.Name).arg(number));
+  QLabel* held = AddFigure(rows, static_cast<int>(number), 2);
+  held->setObjectName(QStringLiteral("%1%2ByCaption").arg(bracing.Name).arg(number));
+  // Who hears the screen hears the lengths with the option.
+  const auto describe = [=, hint = option->toolTip()] {
+    option->setAccessibleDescription(
+        QStringLiteral("%1\n%2: %3\n%4: %5")
+            .arg(hint, takenHead, taken->text(), heldHead, held->text()));
+  };
+  Follow(length.Taken, taken, [&state = length.Taken, taken, describe] {
+    ShowColoured(state, taken);
+    describe();
+  });
+  Follow(length.ByCaption, held, [&state = length.ByCaption, held, describe] {
+    ShowColoured(state, held);
+    describe();
+  });
+}
+
+void SchemeTab::AddDeflection(QBoxLayout* column) {
+  auto* rows = AddGroup<QGridLayout>(column, QStringLiteral("Прогиб"));
+  auto* wanted = new QCheckBox(QStringLiteral("По про&гибу   max"));
+  wanted->setObjectName(QStringLiteral("chkProgib"));
+  Bind(form_.chkProgib, wanted);
+  rows->addWidget(wanted, 0, 0);
+
+  auto* limit = new QComboBox;
+  limit->setObjectName(QStringLiteral("cmbLenlim"));
+  limit->setAccessibleName(QStringLiteral("Предельный прогиб в долях пролета"));
+  Bind(form_.cmbLenlim, limit);
+  rows->addWidget(limit, 0, 1, 1, 2);
+
+  const auto option = [&](OptionButton& state, const char* name, const QString& caption,
+                          const QString& hint) {
+    auto* button = new QRadioButton(caption);
+    button->setObjectName(QLatin1String(name));
+    SetHint(button, hint);
+    Bind(state, button);
+    return button;
+  };
+  rows->addWidget(option(form_.optBP, "optBP", QStringLiteral("Верхний пояс"),
+                         QStringLiteral("Прогиб считать по Верхнему поясу")),
+                  1, 0);
+  rows->addWidget(option(form_.optNP, "optNP", QStringLiteral("Нижний пояс"),
+                         QStringLiteral("Прогиб считать по Нижнему поясу")),
+                  1, 1, 1, 2);
+
+  auto* result = new QLineEdit;
+  result->setObjectName(QStringLiteral("txtProgib"));
+  result->setReadOnly(true);
+  Bind(form_.txtProgib, result);
+  SetHint(result,
+          QStringLiteral("Наибольший прогиб фермы. Отображается после выполнения расчета!"));
+  auto* label = LabelFor(result, QStringLiteral("Прогиб, м"));
+  // Its caption is the window's; the form only shows and hides it.
+  Follow(form_.lblProgib, label, [this, label] { ShowCommon(form_.lblProgib, label); });
+  rows->addWidget(label, 2, 0);
+  rows->addWidget(result, 2, 1);
+  auto* overflow = new PictureView({64, 28});
+  overflow->setObjectName(QStringLiteral("imgLenLimoverflow"));
+  SetHint(overflow, QStringLiteral("Прогиб больше допустимого"));
+  Follow(form_.imgLenLimoverflow, overflow, [this, overflow] {
+    overflow->SetFile(PictureFile(form_.imgLenLimoverflow.Shown()));
+    overflow->SetWarning(form_.imgLenLimoverflow.Shown().From != Picture::Source::None);
+  });
+  rows->addWidget(overflow, 2, 2);
+}
+
+}  // namespace trelonit

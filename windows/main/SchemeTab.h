@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+
+#include "workstation/main/frmMain.h"
+
+class QBoxLayout;
+class QGridLayout;
+
+namespace trelonit {
+
+/// Tab "Параметры фермы": scheme, geometry, bracing and the deflection limit.
+class SchemeTab : public QWidget {
+ public:
+  explicit SchemeTab(frmMain& form, QWidget* parent = nullptr);
+
+ private:
+  void AddSchemes(QBoxLayout* column);
+  void AddGeometry(QBoxLayout* column);
+  /// The bracing of one chord out of the plane.
+  struct Bracing {
+    OptionGroup& Options;
+    BoundedArray<frmMain::BracingLength>& Lengths;
+    QString Name;  ///< of the labels with the lengths
+    QString Caption;
+    QString Hint;
+    QStringList Taken;  ///< the length that the calculation takes, in words, by option
+  };
+  void AddBracing(QBoxLayout* column, const Bracing& bracing);
+  /// The lengths of one option, behind it.
+  void AddLengths(QGridLayout* rows, const Bracing& bracing, Long number, QWidget* option);
+  void AddDeflection(QBoxLayout* column);
+
+  frmMain& form_;
+};
+
+}  // namespace trelonit

@@ -1,0 +1,203 @@
+#include "windows/office/OfficeConversion.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QUrl>
+
+#include "platform/files/FileBytes.h"
+#include "windows/office/OfficeProfile.h"
+
+#ifndef Q_OS_WIN
+#include <csignal>
+#include <unistd.h>
+#endif
+
+namespace trelonit {
+
+namespace {
+
+constexpr int watchInterval = 50;    // milliseconds
+constexpr int timeToDie = 5000;      // milliseconds
+constexpr int removalAttempts = 20;  // at the same interval
+
+constexpr QLatin1String profileName("profile");
+
+/// A name of ours: the user's might be taken for an option.
+QString DocumentName(OfficeFormat format) {
+  return format == OfficeFormat::Word ? QStringLiteral("document.doc")
+                                      : QStringLiteral("document.rtf");
+}
+
+/// The extension and the name by which the program knows the writer of the format.
+QString TargetOf(OfficeFormat format) {
+  return format == OfficeFormat::Word ? QStringLiteral("doc:MS Word 97")
+                                      : QStringLiteral("rtf:Rich Text Format");
+}
+
+/// The names by which the program knows the readers of the format, in the order to try them. Left
+/// to find a reader itself it would take a damaged document for a plain text.
+QStringList ReadersOf(OfficeFormat format) {
+  if (format == OfficeFormat::RichText) {
+    return {QStringLiteral("Rich Text Format")};
+  }
+  return {QStringLiteral("MS Word 97"), QStringLiteral("MS Word 95"),
+          QStringLiteral("MS WinWord 6.0")};
+}
+
+/// Nothing of the user's session but what a program needs to start at all.
+QProcessEnvironment CleanEnvironment(const QString& folder) {
+#ifdef Q_OS_WIN
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("TEMP"), folder);
+  environment.insert(QStringLiteral("TMP"), folder);
+#else
+  QProcessEnvironment environment;
+  environment.insert(QStringLiteral("PATH"),
+                     qEnvironmentVariable("PATH", QStringLiteral("/usr/local/bin:/usr/bin:/bin")));
+  environment.insert(QStringLiteral("HOME"), folder);
+  environment.insert(QStringLiteral("TMPDIR"), folder);
+  environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
+  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+  // It shall not even look for a display.
+  environment.insert(QStringLiteral("SAL_USE_VCLPLUGIN"), QStringLiteral("svp"));
+#endif
+  return environment;
+}
+
+/// A converter and all that it starts; none of them outlives this object.
+class ProcessTree {
+ public:
+  ProcessTree(const QString& program, const QStringList& arguments, const QString& folder);
+  ProcessTree(const ProcessTree&) = delete;
+  ProcessTree& operator=(const ProcessTree&) = delete;
+  ~ProcessTree();
+
+  /// Waits for the converter's end. Raises 57 for a bad end or none within the time.
+  void Finish(std::chrono::milliseconds timeLimit, ConversionWatch* watch);
+
+ private:
+  QProcess process_;
+  qint64 leader_ = 0;
+};
+
+ProcessTree::ProcessTree(const QString& program, const QStringList& arguments,
+                         const QString& folder) {
+  process_.setProgram(program);
+  process_.setArguments(arguments);
+  process_.setWorkingDirectory(folder);
+  process_.setProcessEnvironment(CleanEnvironment(folder));
+  process_.setStandardInputFile(QProcess::nullDevice());
+  process_.setStandardOutputFile(QProcess::nullDevice());
+  process_.setStandardErrorFile(QProcess::nullDevice());
+#ifndef Q_OS_WIN
+  // The whole group is killed by the leader's number.
+  process_.setChildProcessModifier([] { ::setsid(); });
+#endif
+  process_.start();
+  if (!process_.waitForStarted(-1)) {
+    throw RuntimeError(ErrorNumber::DeviceIoError);
+  }
+  leader_ = process_.processId();
+}
+
+ProcessTree::~ProcessTree() {
+  // Also behind a converter that has ended: it may have left others at work in the folder.
+#ifdef Q_OS_WIN
+  QProcess::execute(QStringLiteral("taskkill"), {QStringLiteral("/T"), QStringLiteral("/F"),
+                                                 QStringLiteral("/PID"), QString::number(leader_)});
+#else
+  ::kill(static_cast<pid_t>(-leader_), SIGKILL);
+#endif
+  process_.waitForFinished(timeToDie);
+}
+
+void ProcessTree::Finish(std::chrono::milliseconds timeLimit, ConversionWatch* watch) {
+  QElapsedTimer time;
+  time.start();
+  while (process_.state() != QProcess::NotRunning && !process_.waitForFinished(watchInterval)) {
+    if (watch != nullptr && watch->Cancelled()) {
+      throw ConversionCancelled();
+    }
+    if (time.hasExpired(timeLimit.count())) {
+      throw RuntimeError(ErrorNumber::DeviceIoError);
+    }
+  }
+  if (process_.exitStatus() != QProcess::NormalExit || process_.exitCode() != 0) {
+    throw RuntimeError(ErrorNumber::DeviceIoError);
+  }
+}
+
+/// A folder of one conversion, gone with this object.
+class WorkFolder {
+ public:
+  explicit WorkFolder(const std::string& place)
+      : folder_(QDir(place.empty() ? QDir::tempPath() : QString::fromStdString(place))
+                    .absoluteFilePath(QStringLiteral("trelonit-XXXXXX"))) {
+    if (!folder_.isValid()) {
+      throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+    folder_.setAutoRemove(false);
+  }
+  WorkFolder(const WorkFolder&) = delete;
+  WorkFolder& operator=(const WorkFolder&) = delete;
+  ~WorkFolder() {
+    // Who was just killed may still make a last file.
+    for (int attempt = 0; attempt < removalAttempts && !folder_.remove(); ++attempt) {
+      QThread::msleep(watchInterval);
+    }
+  }
+
+  QString Path(const QString& name) const { return folder_.filePath(name); }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+/// The bytes; empty where there is no such file.
+std::string ReadResult(const QString& path) {
+  DiskFiles files;
+  const std::string name = path.toStdString();
+  return files.FileExists(name) ? ReadBytes(files, name) : std::string();
+}
+
+/// One run of the converter; empty where it gives no result.
+std::string Convert(const ConversionSettings& settings, const WorkFolder& folder,
+                    const QString& reader, OfficeFormat from, OfficeFormat to,
+                    ConversionWatch* watch) {
+  const QString target = folder.Path(QStringLiteral("converted"));
+  ProcessTree converter(
+      QString::fromStdString(settings.Program),
+      {QStringLiteral("-env:UserInstallation=") +
+           QUrl::fromLocalFile(folder.Path(profileName)).toString(QUrl::FullyEncoded),
+       QStringLiteral("--headless"), QStringLiteral("--norestore"), QStringLiteral("--nologo"),
+       QStringLiteral("--nodefault"), QStringLiteral("--nolockcheck"),
+       QStringLiteral("--infilter=") + reader, QStringLiteral("--convert-to"), TargetOf(to),
+       QStringLiteral("--outdir"), target, folder.Path(DocumentName(from))},
+      folder.Path(QString()));
+  converter.Finish(settings.TimeLimit, watch);
+  return ReadResult(target + QLatin1Char('/') + DocumentName(to));
+}
+
+}  // namespace
+
+std::string ConvertDocument(const ConversionSettings& settings, std::string_view bytes,
+                            OfficeFormat from, OfficeFormat to) {
+  const std::unique_ptr<ConversionWatch> watch =
+      settings.Watch ? settings.Watch() : std::unique_ptr<ConversionWatch>();
+  const WorkFolder folder(settings.TemporaryFolder);
+  WriteOfficeProfile(folder.Path(profileName));
+  DiskFiles().ReplaceFile(folder.Path(DocumentName(from)).toStdString(), bytes);
+  // The program ends well even when it could not load the document: only its result tells.
+  for (const QString& reader : ReadersOf(from)) {
+    std::string result = Convert(settings, folder, reader, from, to, watch.get());
+    if (!result.empty()) {
+      return result;
+    }
+  }
+  throw RuntimeError(ErrorNumber::DeviceIoError);
+}
+
+}  // namespace trelonit

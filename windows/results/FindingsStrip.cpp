@@ -1,0 +1,183 @@
+#include "windows/results/FindingsStrip.h"
+
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "opinion/Opinion.h"
+#include "windows/binding/Binding.h"
+#include "windows/binding/PictureWidgets.h"
+#include "windows/help/HelpKey.h"
+#include "workstation/report/ReportAppendix.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr int shortestList = 60;
+constexpr int tallestList = 180;
+
+std::optional<Severity> TintOf(const SecondOpinion& opinion) {
+  if (opinion.Figures.HasRefused()) {
+    return Severity::Warning;
+  }
+  if (opinion.Findings.empty() || opinion.Findings.front().Grade == Severity::Note) {
+    return std::nullopt;
+  }
+  return opinion.Findings.front().Grade;
+}
+
+QString WordOf(Severity severity) {
+  return QString::fromUtf8(SeverityWord(severity));
+}
+
+/// "Опасно: 2 Внимание: 1", each in its colour, without those that there are none of.
+QString CountsOf(const std::vector<Finding>& findings, const QPalette& palette) {
+  QStringList counts;
+  for (const Severity severity : {Severity::Danger, Severity::Warning, Severity::Note}) {
+    const auto count = std::count_if(findings.begin(), findings.end(), [&](const Finding& finding) {
+      return finding.Grade == severity;
+    });
+    if (count > 0) {
+      counts << QStringLiteral("<span style=\"color:%1; font-weight:%2\">%3: %4</span>")
+                    .arg(SeverityColor(severity, palette).name(),
+                         severity == Severity::Danger ? QStringLiteral("bold")
+                                                      : QStringLiteral("normal"),
+                         WordOf(severity))
+                    .arg(count);
+    }
+  }
+  return counts.join(QStringLiteral("&nbsp;&nbsp; "));
+}
+
+void SetInk(QLabel& label, const QColor& color, bool bold) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, color);
+  label.setPalette(palette);
+  QFont font = label.font();
+  font.setBold(bold);
+  label.setFont(font);
+}
+
+}  // namespace
+
+FindingsStrip::FindingsStrip(const SecondOpinion& opinion, QWidget* parent)
+    : NoticeFrame(TintOf(opinion), parent), column_(new QVBoxLayout(this)), row_(new QHBoxLayout) {
+  setObjectName(QStringLiteral("Findings"));
+  setAccessibleName(QStringLiteral("Второе мнение"));
+  column_->setContentsMargins(10, 4, 6, 4);
+  column_->addLayout(row_);
+  if (opinion.Figures.HasRefused()) {
+    AddStatement(ToQt(opinion.Figures.Refusal), Severity::Warning);
+  } else if (opinion.Findings.empty()) {
+    AddStatement(QStringLiteral("Второе мнение по %1: замечаний нет").arg(normName), std::nullopt);
+  } else {
+    AddSummary(opinion.Findings);
+  }
+}
+
+void FindingsStrip::AddStatement(const QString& text, std::optional<Severity> severity) {
+  if (severity) {
+    row_->addWidget(NewSeverityMark(*severity));
+  }
+  auto* label = new QLabel(text);
+  label->setObjectName(QStringLiteral("FindingsText"));
+  label->setWordWrap(true);
+  row_->addWidget(label, 1);
+  AddHelp(*row_, QStringLiteral("Второе мнение"), QLatin1String(help_place::Opinion));
+}
+
+void FindingsStrip::AddSummary(const std::vector<Finding>& findings) {
+  const Severity gravest = findings.front().Grade;
+  row_->addWidget(NewSeverityMark(gravest));
+  auto* counts = new QLabel(CountsOf(findings, palette()));
+  counts->setObjectName(QStringLiteral("FindingsCounts"));
+  row_->addWidget(counts);
+  row_->addSpacing(8);
+  auto* text = new ElidedLabel(ToQt(findings.front().Text));
+  text->setObjectName(QStringLiteral("FindingsText"));
+  if (gravest == Severity::Danger) {
+    SetInk(*text, SeverityColor(gravest, palette()), true);
+  }
+  row_->addWidget(text, 1);
+
+  auto* more = new QToolButton;
+  more->setObjectName(QStringLiteral("cmdFindings"));
+  more->setText(QStringLiteral("Все замечания"));
+  more->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  more->setArrowType(Qt::DownArrow);
+  more->setCheckable(true);
+  more->setFocusPolicy(Qt::StrongFocus);
+  more->setAutoRaise(true);
+  row_->addWidget(more);
+  AddList(findings);
+  QObject::connect(more, &QToolButton::toggled, this, [this, more](bool open) {
+    more->setArrowType(open ? Qt::UpArrow : Qt::DownArrow);
+    list_->setVisible(open);
+    FitList();
+  });
+}
+
+void FindingsStrip::FitList() {
+  if (list_ == nullptr || !list_->isVisible()) {
+    return;
+  }
+  const int needed = list_->widget()->layout()->heightForWidth(list_->viewport()->width());
+  list_->setMinimumHeight(std::min(needed, shortestList));
+  list_->setMaximumHeight(std::min(needed, tallestList));
+}
+
+void FindingsStrip::resizeEvent(QResizeEvent* event) {
+  NoticeFrame::resizeEvent(event);
+  FitList();
+}
+
+void FindingsStrip::AddList(const std::vector<Finding>& findings) {
+  list_ = new QScrollArea;
+  list_->setObjectName(QStringLiteral("FindingsList"));
+  list_->setAccessibleName(QStringLiteral("Все замечания"));
+  list_->setWidgetResizable(true);
+  list_->setFrameShape(QFrame::NoFrame);
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  auto* rows = new QWidget;
+  auto* column = new QVBoxLayout(rows);
+  column->setContentsMargins(0, 2, 0, 2);
+  for (const Finding& finding : findings) {
+    auto* line = new NoticeLine(finding.Grade);
+    const QString text = ToQt(finding.Text);
+    line->Text().setText(
+        QStringLiteral("<b>%1.</b> %2").arg(WordOf(finding.Grade), text.toHtmlEscaped()));
+    if (finding.Grade == Severity::Danger) {
+      SetInk(line->Text(), SeverityColor(finding.Grade, palette()), true);
+    }
+    QToolButton* help = AddHelp(line->Row(), text, FindingPlace(finding.Code));
+    SetHelpPlace(*line, help->objectName());
+    column->addWidget(line);
+  }
+  list_->setWidget(rows);
+  // The tint is seen through both.
+  rows->setAutoFillBackground(false);
+  list_->viewport()->setAutoFillBackground(false);
+  list_->hide();
+  column_->addWidget(list_);
+}
+
+QToolButton* FindingsStrip::AddHelp(QHBoxLayout& row, const QString& about, const QString& place) {
+  auto* help = new QToolButton;
+  help->setObjectName(place);
+  help->setText(QStringLiteral("Подробнее"));
+  help->setToolTip(QStringLiteral("Открыть страницу справки"));
+  help->setAccessibleName(QStringLiteral("Подробнее: ") + about);
+  help->setFocusPolicy(Qt::StrongFocus);
+  help->setAutoRaise(true);
+  QPalette link = help->palette();
+  link.setColor(QPalette::ButtonText, link.color(QPalette::Link));
+  help->setPalette(link);
+  QObject::connect(help, &QToolButton::clicked, help, [help, place] { AskForHelp(*help, place); });
+  row.addWidget(help, 0, Qt::AlignTop);
+  return help;
+}
+
+}  // namespace trelonit

@@ -1,0 +1,172 @@
+#include "windows/results/KoeffOfUseWindow.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <algorithm>
+
+#include "windows/binding/Binding.h"
+#include "windows/binding/Layouts.h"
+#include "windows/results/CopyAction.h"
+#include "windows/results/ExplanationView.h"
+#include "windows/results/FindingsStrip.h"
+#include "windows/results/ResultViews.h"
+#include "windows/results/UseGrid.h"
+#include "workstation/design/ElementGroups.h"
+#include "workstation/report/ReportAppendix.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr QSize usualSize{1360, 840};
+/// Shares of the body: the lists over the explanation, the grid beside the pictures.
+constexpr int listShare = 54;
+constexpr int gridShare = 44;
+constexpr int whole = 100;
+
+void CopyLines(const QListWidget& list) {
+  QStringList lines;
+  for (int row = 0; row < list.count(); ++row) {
+    if (list.selectedItems().isEmpty() || list.item(row)->isSelected()) {
+      lines << list.item(row)->text();
+    }
+  }
+  QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+QListWidget* MakeList(frmKoeffOfUse& form) {
+  auto* list = new QListWidget;
+  list->setObjectName(QStringLiteral("lstForces"));
+  list->setAccessibleName(ToQt(form.framForces.Caption()));
+  list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  list->setUniformItemSizes(true);
+  Bind(form.lstForces, list);
+  AddCopy(list, [list] { CopyLines(*list); });
+  return list;
+}
+
+/// A part of a splitter with nothing round its groups.
+struct Side {
+  QWidget* Widget = new QWidget;
+  QVBoxLayout* Column = new QVBoxLayout(Widget);
+
+  Side() { Column->setContentsMargins(0, 0, 0, 0); }
+};
+
+QSplitter* NewSplitter(Qt::Orientation orientation, QWidget* first, QWidget* second, int share) {
+  auto* splitter = new QSplitter(orientation);
+  splitter->setChildrenCollapsible(false);
+  splitter->addWidget(first);
+  splitter->addWidget(second);
+  splitter->setStretchFactor(0, share);
+  splitter->setStretchFactor(1, whole - share);
+  // Only the ratio counts.
+  constexpr int large = 100;
+  splitter->setSizes({share * large, (whole - share) * large});
+  return splitter;
+}
+
+}  // namespace
+
+KoeffOfUseWindow::KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent)
+    : FormDialog(form.Form, form.Unload, parent), form_(form) {
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  resize(usualSize.boundedTo(screen()->availableSize() * 9 / 10));
+  auto* column = new QVBoxLayout(this);
+  AddMenu(column);
+  column->addWidget(new FindingsStrip(form_.Opinion));
+  QWidget* lists = NewLists();
+  QWidget* pictures = NewPictures();
+  QWidget* upper = NewSplitter(Qt::Horizontal, lists, pictures, gridShare);
+  column->addWidget(NewSplitter(Qt::Vertical, upper, NewExplanation(), listShare), 1);
+  AddButtons(column);
+  ShowRow(nullptr);
+}
+
+void KoeffOfUseWindow::AddMenu(QVBoxLayout* column) {
+  auto* bar = new QMenuBar;
+  column->setMenuBar(bar);
+  QMenu* view = bar->addMenu(QStringLiteral("&Вид"));
+  QAction* appendix = view->addAction(ToQt(form_.mnuAppendix.Caption()));
+  appendix->setObjectName(QStringLiteral("mnuAppendix"));
+  appendix->setCheckable(true);
+  Bind(form_.mnuAppendix, appendix);
+  QObject::connect(appendix, &QAction::triggered, this, [this] { form_.mnuAppendix_Click(); });
+}
+
+QWidget* KoeffOfUseWindow::NewLists() {
+  const Side side;
+  auto* grid = new UseGrid(form_);
+  grid->Chosen = [this](const ResultRow* row) { ShowRow(row); };
+  AddGroup<QVBoxLayout>(side.Column, ToQt(form_.framKoef.Caption()), 1)->addWidget(grid);
+  return side.Widget;
+}
+
+QWidget* KoeffOfUseWindow::NewPictures() {
+  const Side side;
+  truss_ = new TrussView(form_.Picture.Bars);
+  truss_->setObjectName(QStringLiteral("TrussView"));
+  truss_->setAccessibleName(QStringLiteral("Ферма с усилиями в стержнях"));
+  AddGroup<QVBoxLayout>(side.Column, QStringLiteral("Ферма"), 3)->addWidget(truss_);
+  auto* row = new QHBoxLayout;
+  side.Column->addLayout(row, 2);
+  auto* chart = new UseChart(form_.Picture.Use);
+  chart->setObjectName(QStringLiteral("UseChart"));
+  chart->setAccessibleName(QStringLiteral("Наибольший коэффициент каждой группы"));
+  AddGroup<QVBoxLayout>(row, QStringLiteral("Наибольший коэффициент группы"), 3)->addWidget(chart);
+  AddGroup<QVBoxLayout>(row, ToQt(form_.framForces.Caption()), 4)->addWidget(MakeList(form_));
+  return side.Widget;
+}
+
+QWidget* KoeffOfUseWindow::NewExplanation() {
+  const Side side;
+  explanation_ = new ExplanationView(form_.Locale);
+  explanation_->setObjectName(QStringLiteral("Explanation"));
+  explanation_->setAccessibleName(QStringLiteral("Как получен коэффициент"));
+  AddGroup<QVBoxLayout>(side.Column, explanation_->accessibleName(), 1)->addWidget(explanation_);
+  return side.Widget;
+}
+
+void KoeffOfUseWindow::AddButtons(QVBoxLayout* column) {
+  auto* close = new QPushButton(ToQt(form_.cmdClose.Caption()));
+  close->setObjectName(QStringLiteral("cmdClose"));
+  QObject::connect(close, &QPushButton::clicked, this, [this] { form_.cmdClose_Click(); });
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(close);
+  column->addLayout(buttons);
+  // Only in its window is it the one that Enter presses wherever the focus is.
+  close->setDefault(true);
+  close->setFocus();
+}
+
+void KoeffOfUseWindow::ShowRow(const ResultRow* row) {
+  const SecondOpinion& opinion = form_.Opinion;
+  if (row == nullptr || row->Checks.empty()) {
+    truss_->Mark(std::nullopt);
+    explanation_->Show(
+        {QStringLiteral("Выберите строку с коэффициентом: здесь появится, как он получен в расчете "
+                        "и по СНиП."),
+         ToQt(opinionLimits)},
+        {{.Told = opinion.FindExplanation(ExplanationSource::Told, std::nullopt, "Progib")}});
+    return;
+  }
+  truss_->Mark(row->Bar ? std::optional(MarkedBar{OptionOf(row->Group), *row->Bar}) : std::nullopt);
+  std::vector<ExplainedCheck> checks;
+  for (const std::string& check : row->Checks) {
+    checks.push_back(
+        {.Told = opinion.FindExplanation(ExplanationSource::Told, row->Group, check),
+         .Opinion = opinion.FindExplanation(ExplanationSource::Opinion, row->Group, check)});
+  }
+  // The one that rules comes first.
+  std::stable_sort(checks.begin(), checks.end(), [](const auto& one, const auto& other) {
+    return one.Greatest() > other.Greatest();
+  });
+  explanation_->Show({}, std::move(checks));
+}
+
+}  // namespace trelonit

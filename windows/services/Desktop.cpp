@@ -1,0 +1,25 @@
+#include "windows/services/Desktop.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+
+#include "workstation/main/ApplicationInfo.h"
+
+namespace trelonit {
+
+Desktop::Desktop() {
+  QApplication::setOrganizationName(QStringLiteral("Trelonit"));
+  QApplication::setApplicationName(QStringLiteral("trelonit"));
+  QApplication::setApplicationDisplayName(QString());
+  // The main form ends the program; while it is hidden, the last window seen may well be another.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setApplicationVersion(QLatin1String(applicationVersion));
+  QApplication::setDesktopFileName(QStringLiteral("ru.trelonit.Trelonit"));
+  if (buttons_.load(QStringLiteral("qtbase_ru"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&buttons_);
+  }
+}
+
+}  // namespace trelonit

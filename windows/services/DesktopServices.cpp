@@ -1,0 +1,191 @@
+#include "windows/services/DesktopServices.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLocale>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProcess>
+#include <QSettings>
+#include <algorithm>
+
+#include "editor/document/HtmlWriter.h"
+#include "editor/rtf/RtfReader.h"
+#include "editor/rtf/RtfWriter.h"
+#include "platform/errors/RuntimeError.h"
+#include "windows/binding/Binding.h"
+#include "windows/editor/RichDocumentHtml.h"
+#include "windows/help/HelpWindow.h"
+#include "windows/help/HtmlHelp.h"
+#include "workstation/main/ApplicationInfo.h"
+
+namespace trelonit {
+
+namespace {
+
+QMessageBox::Icon IconOf(MessageStyle style) {
+  switch (style) {
+    case MessageStyle::Critical:
+      return QMessageBox::Critical;
+    case MessageStyle::QuestionYesNo:
+    case MessageStyle::QuestionYesNoCancel:
+      return QMessageBox::Question;
+    case MessageStyle::Exclamation:
+      return QMessageBox::Warning;
+    case MessageStyle::Information:
+      return QMessageBox::Information;
+    case MessageStyle::Plain:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageStyle style) {
+  if (style == MessageStyle::QuestionYesNo) {
+    return QMessageBox::Yes | QMessageBox::No;
+  }
+  if (style == MessageStyle::QuestionYesNoCancel) {
+    return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton SafeButton(MessageStyle style) {
+  if (style == MessageStyle::QuestionYesNo) {
+    return QMessageBox::No;
+  }
+  return style == MessageStyle::QuestionYesNoCancel ? QMessageBox::Cancel : QMessageBox::Ok;
+}
+
+std::string RunDialog(const FileDialogRequest& request, QFileDialog::AcceptMode mode) {
+  // "description (*.ext)|*.ext": Qt takes the description with its pattern in brackets.
+  const QString filter = ToQt(request.Filter).section(QLatin1Char('|'), 0, 0);
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.Title), {}, filter);
+  dialog.setAcceptMode(mode);
+  dialog.setDefaultSuffix(ToQt(request.Extension));
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile
+                                                     : QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return {};
+  }
+  return FromQt(dialog.selectedFiles().front());
+}
+
+/// The names under which programs hand rich text on.
+const QStringList richTextForms{QStringLiteral("text/rtf"), QStringLiteral("application/rtf"),
+                                QStringLiteral("text/richtext")};
+
+QString SettingName(const std::string& section, const std::string& key) {
+  return ToQt(section) + QLatin1Char('/') + ToQt(key);
+}
+
+}  // namespace
+
+MessageAnswer DesktopMessages::Show(const Message& message) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(message.Title.empty() ? QString::fromUtf8(applicationTitle)
+                                           : ToQt(message.Title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(message.Text));
+  box.setIcon(IconOf(message.Style));
+  box.setStandardButtons(ButtonsOf(message.Style));
+  // The lines of the texts are broken where they are meant to be.
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    constexpr int widest = 900;
+    const QRect lines =
+        label->fontMetrics().boundingRect(QRect(0, 0, widest, widest), 0, box.text());
+    label->setMinimumWidth(std::min(lines.width() + 2, widest));
+  }
+  // Closing a question without an answer is the safe one.
+  box.setEscapeButton(SafeButton(message.Style));
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return MessageAnswer::Yes;
+    case QMessageBox::No:
+      return MessageAnswer::No;
+    case QMessageBox::Cancel:
+      return MessageAnswer::Cancel;
+    default:
+      return MessageAnswer::Ok;
+  }
+}
+
+std::string DesktopDialogs::AskSaveName(const FileDialogRequest& request) {
+  return RunDialog(request, QFileDialog::AcceptSave);
+}
+
+std::string DesktopDialogs::AskOpenName(const FileDialogRequest& request) {
+  return RunDialog(request, QFileDialog::AcceptOpen);
+}
+
+bool DesktopClipboard::HasText() {
+  return !QApplication::clipboard()->text().isEmpty();
+}
+
+std::string DesktopClipboard::Text() {
+  return FromQt(QApplication::clipboard()->text());
+}
+
+void DesktopClipboard::SetText(const std::string& text) {
+  QApplication::clipboard()->setText(ToQt(text));
+}
+
+std::string DesktopClipboard::RichText() {
+  const QMimeData* content = QApplication::clipboard()->mimeData();
+  if (content == nullptr) {
+    return {};
+  }
+  for (const QString& form : richTextForms) {
+    if (content->hasFormat(form)) {
+      return content->data(form).toStdString();
+    }
+  }
+  // Web pages are copied as HTML alone.
+  return content->hasHtml() ? WriteRtf(FromHtml(FromQt(content->html()))) : std::string();
+}
+
+void DesktopClipboard::SetRichText(const std::string& rtf, const std::string& plain) {
+  auto content = std::make_unique<QMimeData>();
+  content->setText(ToQt(plain));
+  content->setHtml(ToQt(WriteHtml(ReadRtf(rtf), applicationTitle)));
+  for (const QString& form : richTextForms) {
+    content->setData(form, QByteArray::fromStdString(rtf));
+  }
+  QApplication::clipboard()->setMimeData(content.release());
+}
+
+std::string DesktopSettings::Get(const std::string& section, const std::string& key,
+                                 const std::string& fallback) {
+  return FromQt(QSettings().value(SettingName(section, key), ToQt(fallback)).toString());
+}
+
+void DesktopSettings::Set(const std::string& section, const std::string& key,
+                          const std::string& value) {
+  QSettings().setValue(SettingName(section, key), ToQt(value));
+}
+
+void DesktopShell::StartProgram(const std::string& path) {
+  if (!QProcess::startDetached(ToQt(path), {})) {
+    throw RuntimeError(ErrorNumber::FileNotFound);
+  }
+}
+
+void DesktopShell::OpenHelp([[maybe_unused]] const std::string& path) {
+#ifdef _WIN32
+  ShowHtmlHelp(path);
+#else
+  help_.Open();
+#endif
+}
+
+NumberLocale DesktopNumberLocale() {
+  const QLocale locale;
+  return {.DecimalSeparator = FromQt(locale.decimalPoint()),
+          .GroupSeparator = FromQt(locale.groupSeparator()),
+          .GroupSize = 3};
+}
+
+}  // namespace trelonit

@@ -1,0 +1,245 @@
+#include "workstation/design/ProjectFile.h"
+
+#include <array>
+#include <istream>
+#include <optional>
+
+#include "platform/errors/Guard.h"
+#include "platform/text/CodePage1251.h"
+#include "workstation/design/modUtility.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr const char* header = "Trelo calculation save file";
+constexpr const char* arrayDelimiter = ";";
+
+/// Sections in the order of the file: the support diagonals before the diagonals, unlike storage.
+constexpr std::array<SectionPlace, sectionCount> fileOrder{
+    sectionUpPoyas, sectionDwnPoyas, sectionOpornRaskos, sectionRaskos, sectionStoyka};
+
+void ShowOpenFailure(const RuntimeError& error, const Services& services) {
+  // Reading and writing share text and title; that is intended.
+  services.Messages.Show(
+      {.Title = "WriteApplParameters",
+       .Text = "Ошибка создания файла для записи ! err discription : \n" + error.Description(),
+       .Style = MessageStyle::Critical});
+}
+
+class ProjectWriter {
+ public:
+  explicit ProjectWriter(const NumberLocale& locale) : locale_(locale) {}
+
+  void Put(const std::string& value) { text_ += '"' + EncodeCodePage1251(value) + "\"\r\n"; }
+  void Put(Long value) { Put(std::to_string(value)); }
+  void Put(double value) { Put(NumberToText(value, locale_)); }
+  void Put(bool value) { Put(BooleanToText(value)); }
+  void Put(const BoundedArray<double>& values) {
+    Put(values.IsAllocated() ? JoinDoubles(values, arrayDelimiter, locale_) : std::string());
+  }
+
+  std::string Take() { return std::move(text_); }
+
+ private:
+  const NumberLocale& locale_;
+  std::string text_;
+};
+
+/// Lines of a file whatever it holds. A line longer than any project can need is cut, so that a
+/// damaged file costs no memory.
+class LineReader {
+ public:
+  explicit LineReader(std::istream& stream) : buffer_(*stream.rdbuf()) {}
+
+  /// The next line without its end; nothing at the end of the file.
+  std::optional<std::string> Next() {
+    using Traits = std::istream::traits_type;
+    int byte = buffer_.sbumpc();
+    if (Traits::eq_int_type(byte, Traits::eof())) {
+      return std::nullopt;
+    }
+    std::string line;
+    for (; !Traits::eq_int_type(byte, Traits::eof()) && byte != '\n'; byte = buffer_.sbumpc()) {
+      if (line.size() < maxLineLength) {
+        line.push_back(Traits::to_char_type(byte));
+      }
+    }
+    if (!line.empty() && line.back() == '\r') {
+      line.pop_back();
+    }
+    return line;
+  }
+
+  /// Lines up to the end of the file.
+  int CountRest() {
+    int count = 0;
+    bool open = false;
+    std::array<char, 65536> block{};
+    for (std::streamsize got; (got = buffer_.sgetn(block.data(), block.size())) > 0;) {
+      for (std::streamsize place = 0; place < got; ++place) {
+        open = block[static_cast<std::size_t>(place)] != '\n';
+        if (!open && count < projectLineCount) {
+          ++count;
+        }
+      }
+    }
+    return open ? count + 1 : count;
+  }
+
+ private:
+  static constexpr std::size_t maxLineLength = 64 * 1024;
+  std::streambuf& buffer_;
+};
+
+/// The text between the first two quotes of a line; an unquoted line whole.
+std::string Unquote(const std::string& line) {
+  const std::size_t open = line.find('"');
+  if (open == std::string::npos) {
+    return line;
+  }
+  return line.substr(open + 1, line.find('"', open + 1) - open - 1);
+}
+
+/// Reads item after item. Past the end the last text stays, and the fields are converted from it;
+/// a text that does not convert leaves its field at 0.
+class ProjectReader {
+ public:
+  ProjectReader(std::istream* stream, const NumberLocale& locale) : locale_(locale) {
+    if (stream != nullptr) {
+      lines_.emplace(*stream);
+    }
+  }
+
+  const std::string& NextItem() {
+    if (lines_) {
+      if (const auto line = lines_->Next()) {
+        item_ = DecodeCodePage1251(Unquote(*line));
+      }
+    }
+    return item_;
+  }
+
+  void Get(std::string& field) { field = NextItem(); }
+  void Get(double& field) { field = ParseNumber(NextItem(), locale_); }
+  void Get(Integer& field) {
+    PassOver([&] { field = TextToInteger(NextItem(), locale_); });
+  }
+  /// Whole numbers of the file are 16-bit ones, also where the record has more room.
+  void Get(Long& field) {
+    Integer value = 0;
+    Get(value);
+    field = value;
+  }
+  void Get(bool& field) {
+    PassOver([&] { field = TextToBoolean(NextItem(), locale_); });
+  }
+  void Get(BoundedArray<double>& field) {
+    field = SplitDoubles(NextItem(), arrayDelimiter, locale_);
+  }
+
+ private:
+  const NumberLocale& locale_;
+  std::optional<LineReader> lines_;
+  std::string item_;
+};
+
+/// Hands every field to the archive in the order of the file: the one place that knows the order.
+template <class Archive, class Record, class SectionStep>
+void ForEachField(Archive& archive, Record& record, SectionStep&& section) {
+  archive(record.TreloType);
+  archive(record.UpPoyasBrace);
+  archive(record.DownPoyasBrace);
+  archive(record.LengthF);
+  archive(record.Hight);
+  archive(record.LenOporn);
+  archive(record.PanelNum);
+  archive(record.SteelName);
+  archive(record.Ry);
+  archive(record.Density);
+  archive(record.ModulYung);
+  archive(record.LimitFlex);
+  archive(record.Nadegnost);
+  archive(record.UsloviyaRabot);
+  archive(record.ProgibOn);
+  archive(record.LenLim);
+  archive(record.ProgibUpper);
+  archive(record.ActiveGroup);
+  for (const SectionPlace place : fileOrder) {
+    auto& fields = record.Sections[place];
+    archive(fields.SizeIdx);
+    archive(fields.TypeIdx);
+    archive(fields.Gdist);
+    archive(fields.Paired);
+    archive(fields.Layout);
+    section(fields);
+  }
+  archive(record.DinloadOn);
+  archive(record.OwnWeightOn);
+  archive(record.AllPanelsOn);
+  archive(record.PForceTool);
+  archive(record.UpPForce);
+  archive(record.UpDistForce);
+  archive(record.DwnPForce);
+  archive(record.DwnDistForce);
+}
+
+}  // namespace
+
+std::string ProjectText(const ProjectRecord& record, const NumberLocale& locale) {
+  ProjectWriter writer(locale);
+  writer.Put(std::string(header));
+  auto put = [&writer](const auto& field) { writer.Put(field); };
+  ForEachField(put, record, [](const SectionRec&) {});
+  // Nothing ever sets the last flag; its line is part of the format.
+  writer.Put(false);
+  return writer.Take();
+}
+
+bool WriteApplParameters(const std::string& fileName, const ProjectRecord& record,
+                         const Services& services) {
+  // Making the file is one step from outside: it stands there whole or the old one does. So every
+  // failure of it is a failure to create the file, and the user hears of it.
+  try {
+    services.Files.ReplaceFile(fileName, ProjectText(record, services.Locale));
+    return true;
+  } catch (const RuntimeError& error) {
+    ShowOpenFailure(error, services);
+    return false;
+  }
+}
+
+ProjectRecord ReadApplParameters(const std::string& fileName, const ProfileTypeArray& catalogue,
+                                 const Services& services) {
+  std::unique_ptr<std::istream> stream;
+  try {
+    stream = services.Files.OpenForReading(fileName);
+  } catch (const RuntimeError& error) {
+    ShowOpenFailure(error, services);
+  }
+  const int lines = stream ? LineReader(*stream).CountRest() : 0;
+  if (lines < projectLineCount) {
+    services.Messages.Show({.Title = "ReadApplParameters",
+                            .Text = "Ошибка чтения файла сохранения.\n"
+                                    "колличество строк не соответствует ожидаемому!",
+                            .Style = MessageStyle::Critical});
+  }
+  if (stream) {
+    stream->clear();
+    stream->seekg(0);
+  }
+  ProjectReader reader(stream.get(), services.Locale);
+  if (reader.NextItem() != header) {
+    services.Messages.Show({.Title = "",
+                            .Text = "Ошибка считывания первой строки файла сохранения !",
+                            .Style = MessageStyle::Critical});
+  }
+  ProjectRecord record;
+  auto get = [&reader](auto& field) { reader.Get(field); };
+  ForEachField(get, record, [&catalogue](SectionRec& section) {
+    PassOver([&] { section.Profile = catalogue[section.TypeIdx].Rec[section.SizeIdx]; });
+  });
+  return record;
+}
+
+}  // namespace trelonit

@@ -1,0 +1,293 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "catalogue/SectionLayouts.h"
+#include "checks/modCheckueStress.h"
+#include "platform/forms/Controls.h"
+#include "platform/system/Services.h"
+#include "workstation/design/DesignModel.h"
+#include "workstation/design/ElementGroups.h"
+#include "workstation/design/ProjectFile.h"
+#include "workstation/design/Selection.h"
+#include "workstation/main/LoadPreview.h"
+#include "workstation/main/RunningCaption.h"
+#include "workstation/report/ReportLines.h"
+#include "workstation/results/ResultLists.h"
+
+namespace trelonit {
+
+/// The one main form: the model of a design, its inputs and its commands. Controls are public
+/// state, handlers are named after control and event; nothing here knows a window.
+class frmMain {
+ public:
+  /// How the form reaches what it opens, set by whoever owns it all. A window that is not there
+  /// (yet) leaves its command disabled.
+  struct Openers {
+    std::function<void(const ResultLists&)> ShowKoeffOfUse;
+    std::function<void()> ShowDataManager;
+    std::function<void()> ShowParamerty;
+    std::function<void()> ShowSteel;
+    std::function<void()> ShowAbout;
+    /// Shows what automatic selection offers; gives the proposal that the user takes, if any.
+    std::function<std::optional<SelectionProposal>(const SelectionOffer&)> ShowSearch;
+    /// The report: a new one begins with what drawings are made from, its pieces follow, then its
+    /// editor is shown.
+    std::function<void(const Calculation&)> BeginOtchet;
+    ReportSink AppendOtchet;
+    std::function<void()> ShowOtchet;
+    std::function<void()> EndProgram;
+  };
+
+  /// An entry of a menu, or a menu with entries.
+  struct MenuItem {
+    std::string Name;
+    std::string Caption;
+    bool Enabled = true;
+    std::function<void()> Click;
+    std::vector<MenuItem> Items;
+  };
+
+  frmMain(Services services, Openers openers);
+  frmMain(const frmMain&) = delete;
+  frmMain& operator=(const frmMain&) = delete;
+  ~frmMain() = default;
+
+  DesignModel Model;
+
+  // --- start, tabs, menus (frmMain.cpp)
+  void Form_Load();
+  void tabMain_Click(Integer previousTab);
+  std::vector<MenuItem> Menus();
+  /// The entry with this name; one without a command, disabled, where there is none.
+  MenuItem FindMenuItem(const std::string& name);
+  bool HasSteelWindow() const { return static_cast<bool>(openers_.ShowSteel); }
+  void mnuCalc_Click();
+  void mnuSearch_Click();
+  void mnuOtchet_Click();
+  void mnuProfile_Click();
+  void optio_Click();
+  void cmdSteelGet_Click();
+  void UserHelp_Click();
+  void Exit_Click();
+  void tmrRuningString_Timer();
+  void Timer1_Timer();
+
+  // --- scheme and geometry (frmMainGeometry.cpp)
+  void imgTreloType_Click(Long scheme);
+  void cmbPanelNum_Click();
+  void txtLengthF_LostFocus();
+  void chkProgib_Click();
+  void WritePanelNumEven(Long first);
+  void WritePanelNumAll(Long first);
+  void WriteLenLim();
+  void WriteGdist();
+  /// The one gate that copies the geometry into the analysis input. What it refuses leaves the
+  /// input as it was and brings the first tab up.
+  void CheckGeometry();
+
+  // --- sections (frmMainSections.cpp)
+  void optElementSection_Click(Long option);
+  void imgProfileSecSelect_Click(Long layout);
+  void cmbTypeProfile_Click();
+  void cmbSectType_Click();
+  void cmbGdist_Click();
+  void FillProfileLists(Long layout);
+  /// Subscript of the last size with this name; 1 after a warning where there is none.
+  Long FindSizeIndex(Long typeIdx, const std::string& name);
+
+  // --- loads (frmMainLoads.cpp)
+  void ReDimLoadArrays();
+  void FillKnotListP(bool upper);
+  void FillKnotListQ(bool upper);
+  void RefreshLoadPreview();
+  void imgPForce_Click();
+  void imgDistForce_Click();
+  void cmbKnotNum_Click();
+  void tglUpPoyas_Click();
+  void tglDwnPoyas_Click();
+  void chkAllPanels_Click();
+  void cmdAddForce_Click();
+  void cmdClearLoads_Click();
+  void chkOwnWeight_Click();
+
+  // --- commands (frmMainCalculate.cpp)
+  void cmdCalculate_Click();
+  void cmdCalcAndSelect_Click();
+  void cmdShowResults_Click();
+  /// The numbers of the checks as they stand in the boxes.
+  CheckNumbers ReadCheckNumbers() const;
+
+  // --- beside the inputs and the results (frmMainOpinion.cpp)
+  /// Subtracts the own weight that a restored project had in its loads already.
+  void cmdTakeOwnWeightOut_Click();
+  /// Leaves it there: it is the user's own load.
+  void cmdKeepOwnWeight_Click();
+  /// Takes the own weight of the last calculation out of the loads: a project that is saved without
+  /// it is calculated as this one was. Does nothing where none is inside.
+  void WithdrawOwnWeightFromLoads();
+
+  // --- project files (frmMainProject.cpp)
+  // Each returns whether the command was carried out.
+  bool SaveParam_Click();
+  bool Restore_Click();
+  /// Restores a project that was handed over, without a dialog; the messages are the command's.
+  bool OpenProject(const std::string& name);
+
+  // --- controls
+  Label Form;
+  TabControl tabMain;
+  BoundedArray<Label> StatusBarMain{1, 6};
+  Timer tmrRuningString;
+  Timer Timer1;
+
+  BoundedArray<Image> imgTreloType{1, 10};
+  Image imgMain;
+  TextBox txtLengthF;
+  TextBox txtHight;
+  TextBox txtLenOporn;
+  ComboBox cmbPanelNum;
+  OptionGroup optUpPoyas{4};
+  OptionGroup optDownPoyas{4};
+  /// Length out of the plane by bracing option, for the truss as it stands in the boxes: what the
+  /// calculation takes, red where that is less than what the caption means.
+  struct BracingLength {
+    Label Taken;
+    Label ByCaption;
+  };
+  BoundedArray<BracingLength> lblUpPoyasLength{1, 4};
+  BoundedArray<BracingLength> lblDownPoyasLength{1, 4};
+  CheckBox chkProgib;
+  ComboBox cmbLenlim;
+  OptionButton optBP;
+  OptionButton optNP;
+  TextBox txtProgib;
+  Label lblProgib;
+  Image imgLenLimoverflow;
+
+  OptionGroup optElementSection{groupCount};
+  BoundedArray<Image> imgProfileSecSelect{1, 11};
+  ComboBox cmbKatalog;
+  ComboBox cmbTypeProfile;
+  ComboBox cmbSectType;
+  ComboBox cmbGdist;
+  /// Why the figures of the shown section are not those of a published table; hidden where they
+  /// are.
+  Label lblSectionSource;
+  Image imgProfView;
+  BoundedArray<Image> imgProfileSec{1, groupCount};
+  BoundedArray<Label> lblProfilName{1, groupCount};
+  Line linUpPoyas;
+  Line linDownPoyas;
+  BoundedArray<Line> linRaskos{1, 2};
+  BoundedArray<Line> linStoyka{1, 3};
+  Line linOpornRaskos;
+
+  Image imgPForce;
+  Image imgDistForce;
+  Image imgLoadPreview;
+  OptionButton tglUpPoyas;
+  OptionButton tglDwnPoyas;
+  ComboBox cmbKnotNum;
+  TextBox txtForceVal;
+  CheckBox chkAllPanels;
+  CheckBox chkOwnWeight;
+  /// That own weight seems to be inside the loads of the restored project; hidden otherwise.
+  Label lblOwnWeightTwice;
+  CheckBox chkDinloadEnable;
+  LoadPreview Preview;
+  /// Called after the schematic of the loads has changed.
+  std::function<void()> PreviewChanged;
+
+  Label lblStillName;
+  TextBox txtRy;
+  TextBox txtUsloviyaRabot;
+  TextBox txtNadegnost;
+  // Hidden values, edited in a window of their own.
+  TextBox txtDensitSteel;
+  TextBox txtModulYung;
+  TextBox txtLimitFlex;
+
+  /// Whether a report ends with the second opinion.
+  bool ReportAppendix = false;
+
+ private:
+  void SetStartDefaults();
+  void LoadCatalogue();
+  void ConnectEvents();
+
+  double Number(const TextBox& box) const;
+  Long PanelNum() const;
+  void FillPanelNum(Long first, Long step);
+  /// The large picture. Raises for a scheme that has none.
+  void ShowScheme(Long scheme);
+  void RefreshHopt();
+  void ShowVerticals(bool shown);
+  void WarnProportions();
+
+  void ColourGroup(Long option);
+  Long SelectedGroup() const { return optElementSection.Selected(); }
+  SectionRec& SelectedSection();
+  /// The truss as the boxes have it, whatever the geometry check said of it.
+  TreloData ShownGeometry() const;
+  void RefreshBracingLengths();
+  void RefreshSectionSource(const SectionRec& section);
+  /// Looks for it in the loads as they stand.
+  void FindOwnWeightInside();
+  void SetOwnWeightInside(std::optional<double> perMetre);
+  void RefreshOwnWeightTwice();
+  /// The own weight that would be counted twice, tonnes per metre.
+  std::optional<double> DoubledOwnWeight() const;
+  SecondOpinion OpinionOfLast() const;
+  void MarkLayout(Long layout);
+  void ShowLayout(const SectionLayout& layout);
+  void FillSizes(Long typeIdx);
+  void WithdrawOwnWeightOfOldSection();
+
+  void FillKnotList(bool upper);
+  void FillList(Long last);
+  /// Takes own weight out of the loads; false, with a message, where no amount is inside.
+  bool TakeOwnWeightOut();
+  /// Marks the tool; its picture and the box that only counts with the other one follow it.
+  void ChooseLoadTool(bool nodal);
+  void BuildChord(bool upper);
+  void ColourChosenMark();
+  void ShowMarksOfShownChord();
+  void NotifyPreview();
+
+  /// On the tab with the commands; false where the geometry was refused on the way.
+  bool GoToCommands();
+  /// Analysis, check and the own weight; what all three commands begin with.
+  void CalculateModel();
+  /// The deflection of the last calculation where it is asked for.
+  void CalculateProgib();
+  /// The lists, the deflection and the results window; what the first two end with.
+  void ShowResults();
+  /// All pieces of the report in order, into its editor.
+  void FillOtchet();
+  std::optional<SelectionProposal> ProposeByOpinion();
+  void TakeProposal(const SelectionProposal& proposal);
+  void ShowProgib(const ProgibResult& progib);
+
+  ProjectRecord CollectProject() const;
+  /// The routine gives the name of the file, or nothing where there is none.
+  bool RestoreFrom(const std::function<std::string()>& nameOfFile);
+  void ApplyProject(const ProjectRecord& record);
+  /// Sizes and pictures of all groups as the model has them.
+  void ShowSectionSummary();
+  void FillInputs(const ProjectRecord& record);
+
+  Services services_;
+  Openers openers_;
+  RunningCaption runningCaption_;
+  Long waitCounter_ = 1;
+  // Own weight that the loads of the restored project seem to hold, until the user has decided.
+  std::optional<double> ownWeightInside_;
+  // The sections of the last proposal that was taken over.
+  std::optional<SectionArray> takenSections_;
+};
+
+}  // namespace trelonit

@@ -1,0 +1,167 @@
+#include "analysis/modMaxProgib.h"
+#include "platform/errors/Guard.h"
+#include "workstation/design/OpinionSelection.h"
+#include "workstation/design/OwnWeight.h"
+#include "workstation/main/frmMain.h"
+#include "workstation/report/ReportAppendix.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr Integer limitOverflowBitmap = 101;
+constexpr int progibDecimals = 5;
+
+}  // namespace
+
+CheckNumbers frmMain::ReadCheckNumbers() const {
+  return {.Ry = Number(txtRy),
+          .E = Number(txtModulYung),
+          .Yc = Number(txtUsloviyaRabot),
+          .Gn = Number(txtNadegnost),
+          .Density = Number(txtDensitSteel),
+          .Dynamic = chkDinloadEnable.Checked(),
+          .LimitUser = Number(txtLimitFlex)};
+}
+
+void frmMain::cmdCalculate_Click() {
+  Guard(services_.Messages, "cmdCalculate_Click", [&] {
+    CalculateModel();
+    ShowResults();
+  });
+}
+
+void frmMain::cmdCalcAndSelect_Click() {
+  Guard(services_.Messages, "cmdCalcAndSelect_Click", [&] {
+    CalculateModel();
+    const SelectionOffer offer{
+        .Proposal = ShowTold(
+            services_.Messages,
+            [&](Messages& told) { return SelectSections(Model.Last, Model.ProfileTypes, told); }),
+        .ByOpinion = [this] { return ProposeByOpinion(); }};
+    if (openers_.ShowSearch) {
+      if (const std::optional<SelectionProposal> taken = openers_.ShowSearch(offer)) {
+        TakeProposal(*taken);
+      }
+    }
+    ShowResults();
+  });
+}
+
+void frmMain::cmdShowResults_Click() {
+  Guard(services_.Messages, "cmdShowResults_Click", [&] {
+    CalculateModel();
+    if (openers_.BeginOtchet) {
+      openers_.BeginOtchet(Model.Last);
+    }
+    if (openers_.AppendOtchet) {
+      FillOtchet();
+    }
+    if (openers_.ShowOtchet) {
+      openers_.ShowOtchet();
+    }
+  });
+}
+
+void frmMain::FillOtchet() {
+  const NumberLocale& locale = services_.Locale;
+  WriteReport(Model.Last,
+              {.SteelName = lblStillName.Caption(),
+               .ProgibOn = chkProgib.Checked(),
+               .ProgibUpper = optBP.Value(),
+               .LenLim = cmbLenlim.Text()},
+              locale, openers_.AppendOtchet);
+  CalculateProgib();
+  if (const std::optional<ProgibResult>& progib = Model.Last.Progib) {
+    WriteReportProgib(*progib, locale, openers_.AppendOtchet);
+    txtProgib.SetText(FormatShown(progib->Value, progibDecimals, locale));
+  }
+  WriteReportAdditional(Model.Last, locale, openers_.AppendOtchet);
+  if (ReportAppendix) {
+    WriteReportAppendix(Model.Last.CheckData, OpinionOfLast(), locale, openers_.AppendOtchet);
+  }
+}
+
+void frmMain::CalculateModel() {
+  const CheckNumbers numbers = ReadCheckNumbers();
+  const auto calculate = [&] {
+    Model.Last = ShowTold(services_.Messages, Calculate(Model, numbers));
+  };
+  calculate();
+  // There is one re-analysis a command: the mass does not depend on the forces.
+  if (chkOwnWeight.Checked() && PutOwnWeight(Model, OwnWeightPerMetreOf(Model.Last))) {
+    calculate();
+    RefreshLoadPreview();
+  }
+}
+
+void frmMain::CalculateProgib() {
+  Calculation& last = Model.Last;
+  last.Progib.reset();
+  if (chkProgib.Checked()) {
+    const double progib =
+        ShowTold(services_.Messages, CalcProgib(last.TreloData, last.TreloResult, last.CheckData,
+                                                optBP.Value(), last.Numbers.E));
+    last.Progib = JudgeProgib(progib, last.TreloData.LengthF, cmbLenlim.Text(), services_.Locale);
+  }
+}
+
+std::optional<SelectionProposal> frmMain::ProposeByOpinion() {
+  const Opinion opinion = FormOpinion(Judged(Model.Last));
+  if (opinion.HasRefused()) {
+    services_.Messages.Show(
+        {.Title = "Подбор по СНиП", .Text = opinion.Refusal, .Style = MessageStyle::Exclamation});
+    return std::nullopt;
+  }
+  return SelectByOpinion(Model, Model.ProfileTypes, Model.Last.Numbers, chkOwnWeight.Checked());
+}
+
+void frmMain::TakeProposal(const SelectionProposal& proposal) {
+  if (proposal.Settled) {
+    static_cast<Design&>(Model) = proposal.Settled->Inputs;
+    Model.Last = proposal.Settled->Result;
+    RefreshLoadPreview();
+  } else {
+    // Loads and forces stay: the changed mass reaches them with the next calculation.
+    Model.ElementSection = proposal.Sections;
+    Model.Last.ElementSection = proposal.Sections;
+    Model.Last.CheckData = proposal.Check;
+  }
+  takenSections_ = Model.ElementSection;
+  RefreshSectionSource(SelectedSection());
+  for (Long option = 1; option <= groupCount; ++option) {
+    lblProfilName[option].SetCaption(
+        Model.ElementSection[PlaceOfOption(option)].Profile.Name.Trimmed());
+  }
+}
+
+void frmMain::ShowResults() {
+  ResultLists lists{.lstForces = BuildForceList(Model.Last, services_.Locale),
+                    .MSFlexGKoefUse = BuildUtilisationGrid(Model.Last, services_.Locale),
+                    .Picture = {.Bars = BuildBars(Model.Last),
+                                .Use = BuildUse(Model.Last),
+                                .OverLimit = RowsOverLimit(Model.Last)}};
+  CalculateProgib();
+  if (const std::optional<ProgibResult>& progib = Model.Last.Progib) {
+    for (std::string& line : ProgibLines(*progib, services_.Locale)) {
+      lists.lstForces.push_back(std::move(line));
+    }
+    ShowProgib(*progib);
+  }
+  lists.Opinion = OpinionOfLast();
+  lists.Rows = BuildResultRows(Model.Last, lists.Opinion.Figures, services_.Locale);
+  lists.Locale = services_.Locale;
+  lists.Of = Model.Last;
+  if (openers_.ShowKoeffOfUse) {
+    openers_.ShowKoeffOfUse(lists);
+  }
+}
+
+void frmMain::ShowProgib(const ProgibResult& progib) {
+  tabMain.SetTab(0);
+  txtProgib.SetText(FormatShown(progib.Value, progibDecimals, services_.Locale));
+  imgLenLimoverflow.Show(progib.Satisfied ? Picture()
+                                          : services_.Resources.Bitmap(limitOverflowBitmap));
+}
+
+}  // namespace trelonit
