@@ -27,6 +27,16 @@ std::function<void()> Opener(const std::function<void(Form&)>& show, Form& form)
 
 }  // namespace
 
+LookPiece LookOf(const ReportPiece& piece) {
+  LookPiece look{.Role = piece.Heading   ? ReportRole::Heading
+                         : piece.Warning ? ReportRole::Warning
+                                         : ReportRole::Line};
+  for (const ReportSpan& span : piece.Spans) {
+    look.Spans.push_back({.Text = span.Text, .Strong = span.Is != ReportSpan::Kind::Caption});
+  }
+  return look;
+}
+
 Program::Program(Services services, Windows windows)
     : services_(services),
       windows_(std::move(windows)),
@@ -75,10 +85,11 @@ frmMain::Openers Program::MakeOpeners() {
   if (windows_.ShowOtchet) {
     openers.BeginOtchet = [this](const Calculation& snapshot) {
       snapshot_ = snapshot;
-      report_.clear();
       NewOtchet({}).BeginReport();
     };
-    openers.AppendOtchet = [this](const ReportPiece& piece) { AppendOtchet(piece); };
+    openers.AppendOtchet = [this](const ReportPiece& piece) {
+      otchet_->AppendReport(LookOf(piece));
+    };
     openers.ShowOtchet = [this] { ShowOtchet(); };
   }
   openers.EndProgram = windows_.EndProgram;
@@ -123,14 +134,6 @@ void Program::DrawReported() {
   if (windows_.ShowDrawings) {
     windows_.ShowDrawings();
   }
-}
-
-void Program::AppendOtchet(const ReportPiece& piece) {
-  report_.push_back(piece);
-  const ReportRole role = piece.Heading   ? ReportRole::Heading
-                          : piece.Warning ? ReportRole::Warning
-                                          : ReportRole::Line;
-  otchet_->AppendReport(piece.Text, role);
 }
 
 void Program::ShowOtchet() {

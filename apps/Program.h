@@ -4,7 +4,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "catalogue/frmDataManager.h"
 #include "checks/frmParamerty.h"
@@ -19,6 +18,9 @@
 #include "workstation/main/frmMain.h"
 
 namespace trelonit {
+
+/// A piece of the report as the editor shows it.
+LookPiece LookOf(const ReportPiece& piece);
 
 /// The composition root: owns the forms and hands each one what it opens. Which windows there are
 /// to show them, if any, is up to the caller.
@@ -54,10 +56,6 @@ class Program {
   const std::optional<ResultLists>& LastResults() const { return lastResults_; }
   /// What automatic selection proposed last; nothing before it did.
   const std::optional<SelectionProposal>& LastProposal() const { return lastProposal_; }
-  /// The design of the last report, which its drawings show too; nothing before one was begun.
-  const std::optional<Calculation>& Snapshot() const { return snapshot_; }
-  /// The pieces of the last report, in order.
-  const std::vector<ReportPiece>& Report() const { return report_; }
 
   /// Opens the file that a command line names, quotes round it or not: a project in the main form,
   /// anything else in the document window, until the user closes it.
@@ -70,7 +68,6 @@ class Program {
   std::optional<SelectionProposal> OpenSearch(const SelectionOffer& offer);
   /// A document window as it opens, with an empty document.
   frmOtchetMain& NewOtchet(const std::string& commandLine);
-  void AppendOtchet(const ReportPiece& piece);
   void DrawReported();
   void ShowOtchet();
   void OpenDocument(const std::string& commandLine);
@@ -79,8 +76,8 @@ class Program {
   Windows windows_;
   std::optional<ResultLists> lastResults_;
   std::optional<SelectionProposal> lastProposal_;
+  // The design of the last report, which its drawings show too.
   std::optional<Calculation> snapshot_;
-  std::vector<ReportPiece> report_;
   NoCommonDialogs noDialogs_;
   std::unique_ptr<RichTextBox> richText_;
   std::optional<frmOtchetMain> otchet_;

@@ -38,7 +38,7 @@ class World {
   NoMessages Messages;
 
  private:
-  ConsoleDialogs dialogs_;
+  NoDialogs dialogs_;
   MemoryClipboard clipboard_;
   MemorySettings settings_;
   NoRegistry registry_;

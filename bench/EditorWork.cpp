@@ -91,7 +91,7 @@ class Work {
  private:
   MemorySettings settings_;
   ConsoleMessages messages_{std::cerr};
-  ConsoleDialogs dialogs_;
+  NoDialogs dialogs_;
   MemoryClipboard clipboard_;
   NoRegistry registry_;
   NoAutomation automation_;

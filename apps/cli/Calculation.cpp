@@ -9,9 +9,8 @@ bool Restore(ConsoleSession& session, const std::string& project) {
   if (!session.Start()) {
     return false;
   }
-  session.SetOpenName(project);
   frmMain& form = session.Main();
-  if (!form.Restore_Click() || session.MetRuntimeError()) {
+  if (!session.OpenProject(project) || session.MetRuntimeError()) {
     return false;
   }
   form.tabMain.SetTab(calculateTab);

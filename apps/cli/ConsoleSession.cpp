@@ -37,12 +37,12 @@ bool ConsoleSession::MetRuntimeError() const {
   return TellFailure(Messages());
 }
 
-void ConsoleSession::SetSaveName(const std::string& name) {
-  dialogs_.SetSaveName(FullPath(name));
+bool ConsoleSession::OpenProject(const std::string& name) {
+  return Main().OpenProject(FullPath(name));
 }
 
-void ConsoleSession::SetOpenName(const std::string& name) {
-  dialogs_.SetOpenName(FullPath(name));
+bool ConsoleSession::SaveProject(const std::string& name) {
+  return Main().SaveProject(FullPath(name));
 }
 
 Status Print(const std::string& text) {

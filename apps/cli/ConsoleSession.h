@@ -12,8 +12,7 @@ namespace trelonit::cli {
 /// Exit status of the program.
 enum class Status : int { Done = 0, Failed = 1, WrongUsage = 2, Danger = 3 };
 
-/// The program with console services: messages on standard error, dialogs answered by the names of
-/// the command line.
+/// The program with console services: messages on standard error, no dialogs.
 class ConsoleSession {
  public:
   explicit ConsoleSession(MessageAnswer toQuestions = MessageAnswer::No,
@@ -32,12 +31,13 @@ class ConsoleSession {
   /// Whether some routine has ended in its failure tail.
   bool MetRuntimeError() const;
 
-  void SetSaveName(const std::string& name);
-  void SetOpenName(const std::string& name);
+  /// A name of the command line in full, for the messages tell it.
+  bool OpenProject(const std::string& name);
+  bool SaveProject(const std::string& name);
 
  private:
   ConsoleMessages messages_;
-  ConsoleDialogs dialogs_;
+  NoDialogs dialogs_;
   MemoryClipboard clipboard_;
   MemorySettings settings_;
   NoRegistry registry_;

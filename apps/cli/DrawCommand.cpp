@@ -47,17 +47,14 @@ std::shared_ptr<Drawing> Drawn(const Calculation& design) {
   return messages.Shown().empty() ? host.ActiveDocument() : nullptr;
 }
 
-/// The drawing of the report that the session makes.
+/// A design of which there is no report is not drawn either: its texts are that of the report.
 std::shared_ptr<Drawing> DrawnProject(const std::string& project) {
-  bool shown = false;
-  ConsoleSession session(MessageAnswer::No,
-                         {.ShowOtchet = [&shown](frmOtchetMain&) { shown = true; }});
-  if (!Restore(session, project)) {
-    return nullptr;
-  }
-  session.Main().cmdShowResults_Click();
-  const std::optional<Calculation>& design = session.TheProgram().Snapshot();
-  return shown && !session.MetRuntimeError() && design ? Drawn(*design) : nullptr;
+  ConsoleSession session;
+  const auto unread = [](const ReportPiece&) {};
+  return Restore(session, project) && session.Main().MakeReport(unread) &&
+                 !session.MetRuntimeError()
+             ? Drawn(session.Main().Model.Last)
+             : nullptr;
 }
 
 }  // namespace

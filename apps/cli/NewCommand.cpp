@@ -7,8 +7,7 @@ Status RunNew(const NewOptions& options) {
   if (!session.Start()) {
     return Status::Failed;
   }
-  session.SetSaveName(options.Output);
-  return session.Main().SaveParam_Click() ? Status::Done : Status::Failed;
+  return session.SaveProject(options.Output) ? Status::Done : Status::Failed;
 }
 
 }  // namespace trelonit::cli

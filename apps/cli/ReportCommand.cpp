@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -6,7 +8,7 @@
 #include "apps/cli/Commands.h"
 #include "apps/cli/OutputFile.h"
 #include "editor/document/HtmlWriter.h"
-#include "editor/rtf/RtfReader.h"
+#include "editor/rtf/RtfWriter.h"
 
 namespace trelonit::cli {
 
@@ -19,9 +21,15 @@ constexpr const char* reportTitle = "Расчет фермы";
 std::string AsText(const Pieces& pieces) {
   std::string text;
   for (const ReportPiece& piece : pieces) {
-    text += piece.Text;
+    text += piece.Text();
   }
   return text;
+}
+
+RichDocument AsDocument(const Pieces& pieces) {
+  std::vector<LookPiece> looks;
+  std::transform(pieces.begin(), pieces.end(), std::back_inserter(looks), LookOf);
+  return ReportDocument(looks);
 }
 
 /// For a terminal, which wants no carriage returns.
@@ -61,30 +69,27 @@ Status RunReport(const ReportOptions& options, const Paper& paper) {
   if (form == ReportForm::Pdf && !paper.Pdf) {
     return paper.HandOver();
   }
-  std::string richText;
-  ConsoleSession session(MessageAnswer::No, {.ShowOtchet = [&richText](frmOtchetMain& shown) {
-                           richText = shown.RTF.TextRTF();
-                         }});
+  ConsoleSession session;
   if (!Restore(session, options.Project)) {
     return Status::Failed;
   }
   session.Main().ReportAppendix = options.Appendix;
-  session.Main().cmdShowResults_Click();
-  if (richText.empty() || session.MetRuntimeError()) {
+  Pieces pieces;
+  if (!session.Main().MakeReport([&](const ReportPiece& piece) { pieces.push_back(piece); }) ||
+      session.MetRuntimeError()) {
     return Status::Failed;
   }
-  const Pieces& pieces = session.TheProgram().Report();
   switch (*form) {
     case ReportForm::Lines:
       return Print(AsLines(pieces));
     case ReportForm::Text:
       return WriteOutput(options.Output, AsText(pieces));
     case ReportForm::Page:
-      return WriteOutput(options.Output, WriteHtml(ReadRtf(richText), reportTitle));
+      return WriteOutput(options.Output, WriteHtml(AsDocument(pieces), reportTitle));
     case ReportForm::RichText:
-      return WriteOutput(options.Output, richText);
+      return WriteOutput(options.Output, WriteRtf(AsDocument(pieces)));
     case ReportForm::Pdf:
-      return WriteOutput(options.Output, paper.Pdf(ReadRtf(richText), reportTitle));
+      return WriteOutput(options.Output, paper.Pdf(AsDocument(pieces), reportTitle));
   }
   return Status::Failed;
 }

@@ -75,8 +75,7 @@ Status RunSelect(const SelectOptions& options) {
     if (options.Opinion) {
       form.WithdrawOwnWeightFromLoads();
     }
-    session.SetSaveName(options.Output);
-    if (!form.SaveParam_Click()) {
+    if (!session.SaveProject(options.Output)) {
       return fail();
     }
   }

@@ -43,7 +43,7 @@ class MemoryRichTextBox : public RichTextBox {
   void LockUpdates() override {}
   void UnlockUpdates() override {}
 
-  const RichDocument& Document() const { return document_; }
+  const RichDocument& Document() const override { return document_; }
   void SetDocument(RichDocument document);
 
  private:

@@ -1,38 +1,54 @@
 #pragma once
 
+#include <functional>
 #include <string>
-#include <string_view>
 #include <utility>
+#include <vector>
 
+#include "editor/document/RichDocument.h"
 #include "editor/document/RichTextBox.h"
-#include "editor/undo/clsUndo.h"
 
 namespace trelonit {
 
 /// What a piece of the report is, as far as its look goes.
 enum class ReportRole { Line, Heading, Warning };
 
-/// Appends pieces of the calculation report to the end of a box, through its undo class: each piece
-/// is one step. The text stays as it is; headings, titles of groups, values and warnings look
-/// different, so that the report reads as a document. The
-/// box shows nothing of it before the typist goes.
+/// A part of a piece; strong are values and titles.
+struct LookSpan {
+  std::string Text;
+  bool Strong = false;
+};
+
+struct LookPiece {
+  std::vector<LookSpan> Spans;
+  ReportRole Role = ReportRole::Line;
+};
+
+/// Appends pieces of the calculation report to the end of a box. The text stays as it is; headings,
+/// titles of groups, values and warnings look different, so that the report reads as a document.
+/// The box shows nothing of it before the typist goes.
 class ReportTypist {
  public:
-  /// The font is that of the plain lines.
-  ReportTypist(RichTextBox& rtf, clsUndo& undo, CharFormat font)
-      : rtf_(rtf), undo_(undo), font_(std::move(font)) {}
+  /// Puts a text in the place of the selection.
+  using Insert = std::function<void(const std::string&)>;
 
-  void Append(const std::string& text, ReportRole role);
+  /// The font is that of the plain lines.
+  ReportTypist(RichTextBox& rtf, Insert insert, CharFormat font)
+      : rtf_(rtf), insert_(std::move(insert)), font_(std::move(font)) {}
+
+  void Append(const LookPiece& piece);
 
  private:
-  void MarkLines(Long start, std::string_view text, bool warning);
   void Mark(Long start, Long length, const CharFormat& look);
 
   RichTextBox& rtf_;
   UpdateLock lock_{rtf_};
-  clsUndo& undo_;
+  Insert insert_;
   CharFormat font_;
   bool first_ = true;
 };
+
+/// The report as a document, without an editor.
+RichDocument ReportDocument(const std::vector<LookPiece>& pieces);
 
 }  // namespace trelonit

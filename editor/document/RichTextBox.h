@@ -36,6 +36,7 @@ class RichTextBox : public ControlState {
   virtual Long TextLength() const = 0;
   /// The whole document in rich text format.
   virtual std::string TextRTF() const = 0;
+  virtual const RichDocument& Document() const = 0;
   /// What does not begin as rich text is taken as plain text.
   virtual void SetTextRTF(const std::string& rtf) = 0;
 

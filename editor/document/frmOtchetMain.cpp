@@ -381,12 +381,13 @@ void frmOtchetMain::BeginReport() {
   NewDocument();
   Form.SetCaption(windowTitle);
   Undo.SetRichEditing(true);
-  typist_.emplace(RTF, Undo, font_);
+  typist_.emplace(
+      RTF, [this](const std::string& text) { Undo.InsertText(text); }, font_);
 }
 
-void frmOtchetMain::AppendReport(const std::string& text, ReportRole role) {
+void frmOtchetMain::AppendReport(const LookPiece& piece) {
   if (typist_) {
-    typist_->Append(text, role);
+    typist_->Append(piece);
   }
 }
 

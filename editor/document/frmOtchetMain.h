@@ -112,7 +112,7 @@ class frmOtchetMain {
   // --- the calculation report (frmOtchetMain.cpp)
   /// Empties the text for a new report.
   void BeginReport();
-  void AppendReport(const std::string& text, ReportRole role);
+  void AppendReport(const LookPiece& piece);
   /// Shows the report from its beginning.
   void EndReport();
 

@@ -171,8 +171,7 @@ bool Make(const Example& example, const std::string& folder) {
   form.tabMain.SetTab(2);
   EnterLoads(form, example);
   // Saved before the first calculation: own weight is asked for and not yet inside the loads.
-  session.SetSaveName(JoinPath(folder, example.File));
-  if (!form.SaveParam_Click()) {
+  if (!session.SaveProject(JoinPath(folder, example.File))) {
     return false;
   }
   form.cmdCalculate_Click();

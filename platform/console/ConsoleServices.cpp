@@ -31,14 +31,6 @@ MessageAnswer ConsoleMessages::Show(const Message& message) {
   return message.Style == MessageStyle::QuestionYesNoCancel ? MessageAnswer::Cancel : toQuestions_;
 }
 
-std::string ConsoleDialogs::AskSaveName(const FileDialogRequest&) {
-  return std::exchange(saveName_, {});
-}
-
-std::string ConsoleDialogs::AskOpenName(const FileDialogRequest&) {
-  return std::exchange(openName_, {});
-}
-
 std::string MemorySettings::Get(const std::string& section, const std::string& key,
                                 const std::string& fallback) {
   const auto found = values_.find({section, key});

@@ -29,17 +29,11 @@ class ConsoleMessages : public MessageService {
   std::vector<Message> shown_;
 };
 
-/// Answers each dialog with the name from the command line once; asked again, it cancels.
-class ConsoleDialogs : public DialogService {
+/// Dialogs of a program without windows: every one is cancelled.
+class NoDialogs : public DialogService {
  public:
-  void SetSaveName(std::string name) { saveName_ = std::move(name); }
-  void SetOpenName(std::string name) { openName_ = std::move(name); }
-  std::string AskSaveName(const FileDialogRequest& request) override;
-  std::string AskOpenName(const FileDialogRequest& request) override;
-
- private:
-  std::string saveName_;
-  std::string openName_;
+  std::string AskSaveName(const FileDialogRequest&) override { return {}; }
+  std::string AskOpenName(const FileDialogRequest&) override { return {}; }
 };
 
 /// A clipboard of the process's own.

@@ -66,15 +66,13 @@ class WithoutHost : public WholeProgram {
 };
 
 TEST_F(WholeProgram, FillsTheDocumentWindowWithTheReport) {
-  std::string text;
-  inWindow = [&](frmOtchetMain& form) { text = form.RTF.Text(); };
+  RichDocument shown;
+  inWindow = [&](frmOtchetMain& form) { shown = form.RTF.Document(); };
   program.Main().cmdShowResults_Click();
-  std::string pieces;
-  for (const ReportPiece& piece : program.Report()) {
-    pieces += piece.Text;
-  }
-  EXPECT_TRUE(text.starts_with("\r\nРасчет фермы\r\n"));
-  EXPECT_EQ(text, pieces);
+  std::vector<LookPiece> pieces;
+  program.Main().MakeReport([&](const ReportPiece& piece) { pieces.push_back(LookOf(piece)); });
+  ASSERT_GT(shown.Paragraphs.size(), 100U);
+  EXPECT_EQ(shown, ReportDocument(pieces));
 }
 
 TEST_F(WholeProgram, DrawsWhatTheReportTellsWhateverTheInputsHaveBecome) {

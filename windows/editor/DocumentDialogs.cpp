@@ -12,7 +12,6 @@
 #include <QPrinter>
 #include <QToolBar>
 
-#include "editor/rtf/RtfReader.h"
 #include "platform/errors/Guard.h"
 #include "platform/files/Files.h"
 #include "windows/binding/Binding.h"
@@ -59,10 +58,6 @@ FileChoice RunDialog(const FileChoice& offered, const QString& title,
           static_cast<Long>(filters.indexOf(dialog.selectedNameFilter())) + 1};
 }
 
-RichDocument DocumentOf(const RichTextBox& box) {
-  return ReadRtf(box.TextRTF());
-}
-
 }  // namespace
 
 DocumentDialogs::DocumentDialogs() = default;
@@ -101,14 +96,14 @@ void DocumentDialogs::PrintDocument(const RichTextBox& document, const std::stri
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Печать"));
   if (dialog.exec() == QDialog::Accepted) {
-    PaintDocument(DocumentOf(document), printer);
+    PaintDocument(document.Document(), printer);
   }
 }
 
 void DocumentDialogs::PreviewDocument(const RichTextBox& document, const std::string& title) {
   QPrinter& printer = Printer();
   printer.setDocName(ToQt(title));
-  const RichDocument pages = DocumentOf(document);
+  const RichDocument pages = document.Document();
   QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Предварительный просмотр - ") + ToQt(title));
   dialog.resize(900, 760);
@@ -136,7 +131,7 @@ void DocumentDialogs::StorePdf(const RichTextBox& document, const std::string& t
     DesktopMessages messages;
     Guard(messages, "StorePdf", [&] {
       DiskFiles().ReplaceFile(FromQt(dialog.selectedFiles().front()),
-                              WritePdf(DocumentOf(document), title, Printer().pageLayout()));
+                              WritePdf(document.Document(), title, Printer().pageLayout()));
     });
   }
 }

@@ -61,7 +61,7 @@ class QtRichTextBox : public RichTextBox {
   void LockUpdates() override;
   void UnlockUpdates() override;
 
-  const RichDocument& Document() const { return text_.Document(); }
+  const RichDocument& Document() const override { return text_.Document(); }
   void SetDocument(RichDocument document);
 
   /// Every key before the box acts on it; a code set to 0 means that the box must not get it. Codes

@@ -19,6 +19,13 @@ FileDialogRequest Request(const std::string& title, const std::string& extension
 
 }  // namespace
 
+bool MayReplace(const std::string& name, const Services& services) {
+  return !IsThisFileExists(name, services) ||
+         services.Messages.Show({.Title = "Переписать файл ?",
+                                 .Text = "Такой файл уже существует! Заменить?",
+                                 .Style = MessageStyle::QuestionYesNo}) == MessageAnswer::Yes;
+}
+
 std::string ShowSaveDialog(const std::string& title, const std::string& extension,
                            const std::string& description, const Services& services) {
   const FileDialogRequest request = Request(title, extension, description);
@@ -27,14 +34,7 @@ std::string ShowSaveDialog(const std::string& title, const std::string& extensio
     return {};
   }
   // The length counts for the first name only. A cancelled dialog leaves no name, which ends this.
-  while (IsThisFileExists(name, services)) {
-    const MessageAnswer answer =
-        services.Messages.Show({.Title = "Переписать файл ?",
-                                .Text = "Такой файл уже существует! Заменить?",
-                                .Style = MessageStyle::QuestionYesNo});
-    if (answer == MessageAnswer::Yes) {
-      break;
-    }
+  while (!MayReplace(name, services)) {
     name = services.Dialogs.AskSaveName(request);
   }
   return name;

@@ -118,6 +118,9 @@ class frmMain {
   void cmdCalculate_Click();
   void cmdCalcAndSelect_Click();
   void cmdShowResults_Click();
+  /// The same for whoever has no editor: calculates and hands the report over. Returns whether it
+  /// came to its end; what kept it from there has been shown.
+  bool MakeReport(const ReportSink& sink);
   /// The numbers of the checks as they stand in the boxes.
   CheckNumbers ReadCheckNumbers() const;
 
@@ -134,7 +137,8 @@ class frmMain {
   // Each returns whether the command was carried out.
   bool SaveParam_Click();
   bool Restore_Click();
-  /// Restores a project that was handed over, without a dialog; the messages are the command's.
+  // The same with a name that is known, without a dialog; the messages are the commands'.
+  bool SaveProject(const std::string& name);
   bool OpenProject(const std::string& name);
 
   // --- controls
@@ -266,14 +270,16 @@ class frmMain {
   void CalculateProgib();
   /// The lists, the deflection and the results window; what the first two end with.
   void ShowResults();
-  /// All pieces of the report in order, into its editor.
-  void FillOtchet();
+  /// All pieces of the report in order.
+  void WriteOtchet(const ReportSink& sink);
   std::optional<SelectionProposal> ProposeByOpinion();
   void TakeProposal(const SelectionProposal& proposal);
   void ShowProgib(const ProgibResult& progib);
 
   ProjectRecord CollectProject() const;
-  /// The routine gives the name of the file, or nothing where there is none.
+  // The one way out and the one way in. The routine gives the name of the file, or nothing where
+  // there is none.
+  bool SaveTo(const std::function<std::string()>& nameOfFile);
   bool RestoreFrom(const std::function<std::string()>& nameOfFile);
   void ApplyProject(const ProjectRecord& record);
   /// Sizes and pictures of all groups as the model has them.

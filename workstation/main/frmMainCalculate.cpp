@@ -55,7 +55,7 @@ void frmMain::cmdShowResults_Click() {
       openers_.BeginOtchet(Model.Last);
     }
     if (openers_.AppendOtchet) {
-      FillOtchet();
+      WriteOtchet(openers_.AppendOtchet);
     }
     if (openers_.ShowOtchet) {
       openers_.ShowOtchet();
@@ -63,22 +63,29 @@ void frmMain::cmdShowResults_Click() {
   });
 }
 
-void frmMain::FillOtchet() {
+bool frmMain::MakeReport(const ReportSink& sink) {
+  return Guard(services_.Messages, "cmdShowResults_Click", [&] {
+    CalculateModel();
+    WriteOtchet(sink);
+  });
+}
+
+void frmMain::WriteOtchet(const ReportSink& sink) {
   const NumberLocale& locale = services_.Locale;
   WriteReport(Model.Last,
               {.SteelName = lblStillName.Caption(),
                .ProgibOn = chkProgib.Checked(),
                .ProgibUpper = optBP.Value(),
                .LenLim = cmbLenlim.Text()},
-              locale, openers_.AppendOtchet);
+              locale, sink);
   CalculateProgib();
   if (const std::optional<ProgibResult>& progib = Model.Last.Progib) {
-    WriteReportProgib(*progib, locale, openers_.AppendOtchet);
+    WriteReportProgib(*progib, locale, sink);
     txtProgib.SetText(FormatShown(progib->Value, progibDecimals, locale));
   }
-  WriteReportAdditional(Model.Last, locale, openers_.AppendOtchet);
+  WriteReportAdditional(Model.Last, locale, sink);
   if (ReportAppendix) {
-    WriteReportAppendix(Model.Last.CheckData, OpinionOfLast(), locale, openers_.AppendOtchet);
+    WriteReportAppendix(Model.Last.CheckData, OpinionOfLast(), locale, sink);
   }
 }
 

@@ -15,10 +15,19 @@ constexpr const char* projectDescription = "trelo save files";
 }  // namespace
 
 bool frmMain::SaveParam_Click() {
+  return SaveTo([this] {
+    return ShowSaveDialog(dialogTitle, projectExtension, projectDescription, services_);
+  });
+}
+
+bool frmMain::SaveProject(const std::string& name) {
+  return SaveTo([&] { return MayReplace(name, services_) ? name : std::string(); });
+}
+
+bool frmMain::SaveTo(const std::function<std::string()>& nameOfFile) {
   bool saved = false;
   Guard(services_.Messages, "Save comand", [&] {
-    const std::string name =
-        ShowSaveDialog(dialogTitle, projectExtension, projectDescription, services_);
+    const std::string name = nameOfFile();
     if (name.empty() || name == " ") {
       services_.Messages.Show({.Text = "Сохранение отменено !"});
       return;

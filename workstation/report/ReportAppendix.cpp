@@ -37,7 +37,7 @@ class Appendix {
 
   void Write() {
     out_.Heading("Приложение. Второе мнение : ");
-    out_.Line(std::string("Нормы : ") + normName);
+    out_.Words("Нормы : ", normName);
     if (opinion_.Figures.HasRefused()) {
       out_.Warning(opinion_.Figures.Refusal);
     } else {
@@ -74,12 +74,12 @@ class Appendix {
       for (const MemberCheckRow& check : memberChecks) {
         const double told = check_.*row.Block.*check.Told;
         const double judged = group.Figure(check.Check);
-        const std::string line = std::string(row.Name) + ", " + check.Name + " : расчет " +
-                                 Figure(told) + ", СНиП " + Figure(judged);
+        const std::string caption = std::string(row.Name) + ", " + check.Name + " : ";
+        const std::string figures = "расчет " + Figure(told) + ", СНиП " + Figure(judged);
         if (judged > 1) {
-          out_.Warning(line);
+          out_.WarningWords(caption, figures);
         } else {
-          out_.Line(line);
+          out_.Words(caption, figures);
         }
       }
     }
@@ -111,19 +111,17 @@ class Appendix {
         line += FormulaInLine(step.Formula, locale_) + " = " +
                 FormulaInLine(step.Substitution, locale_) + " = ";
       }
-      line += NumberToText(RoundToDecimals(step.Value, 5), locale_);
-      line +=
-          (step.Unit.empty() ? "" : " " + step.Unit) + (step.Note.empty() ? "" : " — " + step.Note);
-      out_.Line(line);
+      out_.Words(line, NumberToText(RoundToDecimals(step.Value, 5), locale_) +
+                           (step.Unit.empty() ? "" : " " + step.Unit) +
+                           (step.Note.empty() ? "" : " — " + step.Note));
     }
-    const std::string result = "  " + FormulaInLine(explanation.Formula, locale_) + " = " +
-                               FormulaInLine(explanation.Substitution, locale_) + " = " +
-                               Figure(explanation.Value) +
-                               (explanation.Passed ? " ≤ 1" : " > 1: не выполнено");
+    const std::string caption = "  " + FormulaInLine(explanation.Formula, locale_) + " = " +
+                                FormulaInLine(explanation.Substitution, locale_) + " = ";
+    const std::string figure = Figure(explanation.Value);
     if (explanation.Passed) {
-      out_.Line(result);
+      out_.Words(caption, figure + " ≤ 1");
     } else {
-      out_.Warning(result);
+      out_.WarningWords(caption, figure + " > 1: не выполнено");
     }
     for (const std::string& rule : explanation.OwnRules) {
       out_.Line("  Правило программы. " + rule);

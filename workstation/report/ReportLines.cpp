@@ -83,7 +83,7 @@ class Report {
     out_.Value("Длинна фермы - ", data.LengthF);
     out_.Value("Высота фермы - ", data.Hight);
     out_.Value("Длинна опорных панелей фермы - ", data.LenOporn);
-    out_.Line("Количество напелей верхнего пояса - " + std::to_string(data.PanelNum));
+    out_.Words("Количество напелей верхнего пояса - ", std::to_string(data.PanelNum));
     out_.Heading("Раскрепление поясов фермы : ");
     WriteBracing("Верхний пояс", data.UpPoyasBrace);
     WriteBracing("Нижний пояс", data.DownPoyasBrace);
@@ -105,7 +105,7 @@ class Report {
     out_.Value("Предельная гибкость сжатого элемента, заданая пользователем Flim = ",
                calculation_.Numbers.LimitUser);
     if (inputs_.ProgibOn) {
-      out_.Line("Предельно допустимый прогиб = L * " + inputs_.LenLim);
+      out_.Words("Предельно допустимый прогиб = ", "L * " + inputs_.LenLim);
       out_.Line(inputs_.ProgibUpper ? "Расчет прогиба по верхнему поясу "
                                     : "Расчет прогиба по нижнему поясу ");
     }
@@ -125,7 +125,7 @@ class Report {
 
   void WriteSection(const std::string& title, SectionPlace place, const GroupCheck& check) {
     const SectionRec& section = calculation_.ElementSection[place];
-    out_.Line(title);
+    out_.Title(title);
     out_.Line("Тип металлопроката " + section.Profile.Type.Padded());
     out_.Line("Типоразмер металлопроката " + section.Profile.Name.Padded());
     if (const std::string layout = LayoutLine(section.Layout); !layout.empty()) {
@@ -159,13 +159,12 @@ class Report {
                      const BoundedArray<double>& loads) {
     out_.Heading(heading);
     // All rows go in at once, zeros too.
-    std::string rows;
+    ReportSpans rows;
     for (Long number = loads.LowerBound(); number <= loads.UpperBound(); ++number) {
-      rows += (number > loads.LowerBound() ? std::string(ReportWriter::lineEnd) : std::string()) +
-              place + std::to_string(number) +
-              " , приложенное усилие : " + out_.Number(loads[number]) + " тонн ";
+      out_.AddValue(rows, place + std::to_string(number) + " , приложенное усилие : ",
+                    out_.Number(loads[number]), " тонн ");
     }
-    out_.Line(rows);
+    out_.Rows(std::move(rows));
   }
 
   void WriteForces() {
@@ -183,7 +182,7 @@ class Report {
   }
 
   void WriteForceRows(const std::string& title, const BoundedArray<double>& forces) {
-    out_.Line(title);
+    out_.Title(title);
     for (Long bar = forces.LowerBound(); bar <= forces.UpperBound(); ++bar) {
       // A Latin C begins the row.
       out_.Value(" Cтержень № " + std::to_string(bar) + " , усилие : ", forces[bar], " тонн ");
@@ -203,11 +202,11 @@ class Report {
   }
 
   void WriteCoefficients(const std::string& title, const GroupCheck& check) {
-    out_.Line(title);
+    out_.Title(title);
     // A coefficient of 0 was not asked for and has no line.
     const auto above0 = [this](const std::string& text, double value) {
       if (value > 1) {
-        out_.Warning(text + out_.Number(value));
+        out_.WarningValue(text, value);
       } else if (value > 0) {
         out_.Value(text, value);
       }
@@ -264,6 +263,14 @@ void WriteSlenderness(ReportWriter& out, const SlendernessWords& group) {
 }
 
 }  // namespace
+
+std::string ReportPiece::Text() const {
+  std::string text;
+  for (const ReportSpan& span : Spans) {
+    text += span.Text;
+  }
+  return text;
+}
 
 void WriteReport(const Calculation& calculation, const ReportInputs& inputs,
                  const NumberLocale& locale, const ReportSink& sink) {

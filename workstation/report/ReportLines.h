@@ -2,20 +2,36 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/text/NumberText.h"
 #include "workstation/design/Calculation.h"
 
 namespace trelonit {
 
-/// A text that the report appends at once, line ends (carriage return, line feed) included.
-struct ReportPiece {
+/// A part of a line of the report.
+struct ReportSpan {
+  enum class Kind {
+    Caption,  ///< words, line ends included
+    Value,
+    Unit,  ///< behind its value
+    Title  ///< of the lines that follow
+  };
   std::string Text;
+  Kind Is = Kind::Caption;
+
+  friend bool operator==(const ReportSpan&, const ReportSpan&) = default;
+};
+
+/// What the report appends at once: mostly a line, its end (carriage return, line feed) included.
+struct ReportPiece {
+  std::vector<ReportSpan> Spans;
   /// A heading of the report, with a line end before it.
   bool Heading = false;
   /// Tells that a limit is exceeded.
   bool Warning = false;
 
+  std::string Text() const;
   friend bool operator==(const ReportPiece&, const ReportPiece&) = default;
 };
 

@@ -55,7 +55,7 @@ void RunAnyCommand(OtchetDesk& desk) {
       break;
     case 8:
       form.BeginReport();
-      form.AppendReport("\r\nРасчет\r\n", ReportRole::Heading);
+      form.AppendReport({.Spans = {{"\r\nРасчет\r\n"}}, .Role = ReportRole::Heading});
       form.EndReport();
       break;
     case 9:

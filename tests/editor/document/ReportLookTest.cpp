@@ -21,7 +21,12 @@ class Report : public OtchetTest {
   using Runs = std::vector<TextRun>;
   const Runs& Line(std::size_t number) { return box.Document().Paragraphs.at(number).Runs; }
   void Append(const std::string& text, ReportRole role = ReportRole::Line) {
-    form.AppendReport(text, role);
+    form.AppendReport({.Spans = {{text}}, .Role = role});
+  }
+  /// A line with a value.
+  void Append(const std::string& caption, const std::string& figure,
+              ReportRole role = ReportRole::Line) {
+    form.AppendReport({.Spans = {{caption}, {figure, true}, {"\r\n"}}, .Role = role});
   }
   void Begin() {
     form.BeginReport();
@@ -87,57 +92,41 @@ TEST_F(Report, GivesAHeadingBehindOtherLinesTheSmallerSize) {
 
 TEST_F(Report, MarksTheValueBehindItsCaption) {
   Begin();
-  Append("Высота фермы : 2.5\r\n");
-  Append("N = -10\r\n");
-  Append("t - 8\r\n");
-  Append("t - -8\r\n");
-  Append("a : b = c - d\r\n");
-  Append("1-2 и 3:4\r\n");
-  Append("a = b : c\r\n");
+  Append("Высота фермы : ", "2.5");
+  form.AppendReport({.Spans = {{"N = "}, {"-10", true}, {" тонн ", true}, {"\r\n"}}});
+  Append("a : b = c - 8\r\n");
   EXPECT_EQ(Line(2), (Runs{{u"Высота фермы : ", plain}, {u"2.5", value}}));
-  EXPECT_EQ(Line(3), (Runs{{u"N = ", plain}, {u"-10", value}}));
-  EXPECT_EQ(Line(4), (Runs{{u"t - ", plain}, {u"8", value}}));
-  EXPECT_EQ(Line(5), (Runs{{u"t - ", plain}, {u"-8", value}}));
-  EXPECT_EQ(Line(6), (Runs{{u"a : b = ", plain}, {u"c - d", value}}));
-  EXPECT_EQ(Line(7), (Runs{{u"1-2 и 3:4", plain}}));
-  EXPECT_EQ(Line(8), (Runs{{u"a = b : ", plain}, {u"c", value}}));
+  EXPECT_EQ(Line(3), (Runs{{u"N = ", plain}, {u"-10 тонн ", value}}));
+  // What is a value is told, not found.
+  EXPECT_EQ(Line(4), (Runs{{u"a : b = c - 8", plain}}));
 }
 
-TEST_F(Report, TakesADashBetweenWordsForNoCaption) {
+TEST_F(Report, MarksTheTitleOfAGroup) {
   Begin();
-  Append("Пояс - Уголок\r\n");
-  Append("Сечение : Пояс - Уголок\r\n");
-  Append("Нагрузки - \r\n");
-  EXPECT_EQ(Line(2), (Runs{{u"Пояс - Уголок", plain}}));
-  EXPECT_EQ(Line(3), (Runs{{u"Сечение : ", plain}, {u"Пояс - Уголок", value}}));
-  EXPECT_EQ(Line(4), (Runs{{u"Нагрузки - ", plain}}));
-}
-
-TEST_F(Report, MarksALineWithoutAValueAsATitle) {
-  Begin();
-  Append("Верхний пояс : \r\n");
+  Append("", "Верхний пояс : ");
   EXPECT_EQ(Line(2), (Runs{{u"Верхний пояс : ", value}}));
 }
 
-TEST_F(Report, LooksAtEachLineOfAPiece) {
+TEST_F(Report, MarksEachLineOfAPiece) {
   Begin();
-  Append("Пояс : \r\na = 1\r\n\r\nконец\r\n");
-  EXPECT_EQ(Line(2), (Runs{{u"Пояс : ", value}}));
-  EXPECT_EQ(Line(3), (Runs{{u"a = ", plain}, {u"1", value}}));
-  EXPECT_EQ(Line(4), Runs{});
-  EXPECT_EQ(Line(5), (Runs{{u"конец", plain}}));
+  form.AppendReport({.Spans = {{"a = "}, {"1", true}, {"\r\n\r\nb = "}, {"2", true}, {"\r\n"}}});
+  EXPECT_EQ(Line(2), (Runs{{u"a = ", plain}, {u"1", value}}));
+  EXPECT_EQ(Line(3), Runs{});
+  EXPECT_EQ(Line(4), (Runs{{u"b = ", plain}, {u"2", value}}));
 }
 
 TEST_F(Report, CountsCharactersOutsideTheBasicPlaneAsTheBoxDoes) {
   Begin();
-  Append("\U0001F600 : \U0001F600\r\nb = 2\r\n");
+  Append("\U0001F600 : ", "\U0001F600");
+  Append("b = ", "2");
   EXPECT_EQ(Line(2), (Runs{{u"\U0001F600 : ", plain}, {u"\U0001F600", value}}));
   EXPECT_EQ(Line(3), (Runs{{u"b = ", plain}, {u"2", value}}));
 }
 
 TEST_F(Report, WritesWarningsInTheirColour) {
   Begin();
-  Append("Прогиб больше, K = 1.2\r\nУвеличьте сечение\r\n", ReportRole::Warning);
+  Append("Прогиб больше, K = ", "1.2", ReportRole::Warning);
+  Append("Увеличьте сечение\r\n", ReportRole::Warning);
   Append("дальше\r\n");
   EXPECT_EQ(Line(2), (Runs{{u"Прогиб больше, K = ", Look(9, false, warningColor)},
                            {u"1.2", Look(9, true, warningColor)}}));
@@ -150,7 +139,7 @@ TEST_F(Report, BuildsItsLooksUponTheFontOfTheEditor) {
   dialogs.ToFont.push_back(chosen);
   form.mnuFormatFont_Click();
   Begin();
-  Append("N = 1\r\n");
+  Append("N = ", "1");
   CharFormat title = chosen;
   title.FontSize = 17;
   title.Bold = true;

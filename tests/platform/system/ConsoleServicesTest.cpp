@@ -75,24 +75,6 @@ TEST(ConsoleMessages, KeepsWhatItHasShown) {
   EXPECT_EQ(messages.Shown(), (std::vector<Message>{first, second}));
 }
 
-TEST(ConsoleDialogs, CancelWithoutAName) {
-  ConsoleDialogs dialogs;
-  EXPECT_EQ(dialogs.AskSaveName({}), "");
-  EXPECT_EQ(dialogs.AskOpenName({}), "");
-}
-
-TEST(ConsoleDialogs, AnswerOnceEach) {
-  ConsoleDialogs dialogs;
-  dialogs.SetSaveName("out.tsav");
-  dialogs.SetOpenName("in.tsav");
-  EXPECT_EQ(dialogs.AskOpenName({}), "in.tsav");
-  EXPECT_EQ(dialogs.AskSaveName({}), "out.tsav");
-  EXPECT_EQ(dialogs.AskOpenName({}), "");
-  EXPECT_EQ(dialogs.AskSaveName({}), "");
-  dialogs.SetSaveName("again.tsav");
-  EXPECT_EQ(dialogs.AskSaveName({}), "again.tsav");
-}
-
 TEST(MemoryClipboard, KeepsTheLastText) {
   MemoryClipboard clipboard;
   EXPECT_FALSE(clipboard.HasText());

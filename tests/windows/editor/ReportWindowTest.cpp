@@ -28,9 +28,7 @@ class ReportWindowOnScreen : public ::testing::Test {
   }
   std::string ReportText() {
     std::string text;
-    for (const ReportPiece& piece : screen.Root.Report()) {
-      text += piece.Text;
-    }
+    screen.Root.Main().MakeReport([&](const ReportPiece& piece) { text += piece.Text(); });
     return text;
   }
   /// The widget's text with the line ends of the report.
@@ -155,7 +153,8 @@ TEST_F(ReportWindowOnScreen, IsUndonePieceByPiece) {
   Show([this] { Trigger("mnuOtchet"); },
        [this] {
          const std::string whole = ReportText();
-         const std::string last = screen.Root.Report().back().Text;
+         std::string last;
+         screen.Root.Main().MakeReport([&](const ReportPiece& piece) { last = piece.Text(); });
          document->findChild<QAction*>("mnuEdit0")->trigger();
          EXPECT_TRUE(ShownText() == whole.substr(0, whole.size() - last.size()));
          document->findChild<QAction*>("mnuEdit1")->trigger();

@@ -56,6 +56,24 @@ TEST_F(SaveCommand, WritesANewFileWithoutAWord) {
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
+TEST_F(SaveCommand, WithAKnownNameNeedsNoDialog) {
+  EXPECT_TRUE(form.SaveProject(projectPath));
+  EXPECT_EQ(Files().at(projectPath), ProjectBytes(StartUpValues()));
+  EXPECT_EQ(DialogsShown(), 0U);
+  EXPECT_EQ(desk.TakeMessages(), Messages());
+}
+
+TEST_F(SaveCommand, WithAKnownNameAsksBeforeItWritesAFileOver) {
+  Files()[projectPath] = bytesBefore;
+  EXPECT_FALSE(form.SaveProject(projectPath));
+  EXPECT_EQ(desk.TakeMessages(), (Messages{ReplaceQuestion(), Cancelled()}));
+  EXPECT_EQ(Files().at(projectPath), bytesBefore);
+  desk.Outside.Messages.Answers = {MessageAnswer::Yes};
+  EXPECT_TRUE(form.SaveProject(projectPath));
+  EXPECT_EQ(desk.TakeMessages(), Messages{ReplaceQuestion()});
+  EXPECT_EQ(Files().at(projectPath), ProjectBytes(StartUpValues()));
+}
+
 TEST_F(SaveCommand, TakesTheNameAsItStandsInTheDialog) {
   EXPECT_TRUE(Save({"/проекты/ферма"}));
   EXPECT_EQ(Files().count("/проекты/ферма"), 1U);

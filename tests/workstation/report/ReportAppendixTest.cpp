@@ -22,7 +22,7 @@ class ReportAppendix : public ::testing::Test {
     ReportPieces pieces;
     WriteReportAppendix(desk.Main.Model.Last.CheckData, desk.Results.back().Opinion,
                         desk.Outside.Locale,
-                        [&pieces](const ReportPiece& piece) { pieces.push_back(piece); });
+                        [&pieces](const ReportPiece& piece) { pieces.push_back(Flat(piece)); });
     return pieces;
   }
   ReportText Lines() { return LinesOf(Pieces()); }
@@ -64,13 +64,13 @@ TEST_F(ReportAppendix, ListsTheFindingsOfTheResults) {
 
 TEST_F(ReportAppendix, WarnsOfDangersAndOfWhatTheNormRefuses) {
   for (const ReportPiece& piece : Pieces()) {
-    const bool danger = piece.Text.starts_with("Опасно. ");
-    const bool refused = piece.Text.find(" > 1: не выполнено") != std::string::npos;
+    const bool danger = piece.Text().starts_with("Опасно. ");
+    const bool refused = piece.Text().find(" > 1: не выполнено") != std::string::npos;
     if (danger || refused) {
-      EXPECT_TRUE(piece.Warning) << piece.Text;
+      EXPECT_TRUE(piece.Warning) << piece.Text();
     }
-    if (piece.Warning && piece.Text.find(" : расчет ") == std::string::npos) {
-      EXPECT_TRUE(danger || refused) << piece.Text;
+    if (piece.Warning && piece.Text().find(" : расчет ") == std::string::npos) {
+      EXPECT_TRUE(danger || refused) << piece.Text();
     }
   }
 }

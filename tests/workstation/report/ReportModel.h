@@ -79,7 +79,7 @@ class NumberedDesign {
   }
 
   static ReportSink Into(ReportPieces& pieces) {
-    return [&pieces](const ReportPiece& piece) { pieces.push_back(piece); };
+    return [&pieces](const ReportPiece& piece) { pieces.push_back(Flat(piece)); };
   }
 
   Calculation Of;

@@ -13,7 +13,7 @@ ReportText HeadingsOf(const ReportPieces& pieces) {
   ReportText headings;
   for (const ReportPiece& piece : pieces) {
     if (piece.Heading) {
-      headings.push_back(std::regex_replace(piece.Text, std::regex("[\r\n]"), ""));
+      headings.push_back(std::regex_replace(piece.Text(), std::regex("[\r\n]"), ""));
     }
   }
   return headings;
@@ -34,12 +34,12 @@ TEST(ReportPiecesOf, MarkTheHeadings) {
 
 TEST(ReportPiecesOf, GiveAHeadingALineEndOnEitherSideAndAnyOtherLineOneBehindIt) {
   for (const ReportPiece& piece : NumberedDesign().Pieces()) {
-    EXPECT_EQ(piece.Text.starts_with("\r\n"), piece.Heading) << piece.Text;
-    EXPECT_TRUE(piece.Text.ends_with("\r\n")) << piece.Text;
+    EXPECT_EQ(piece.Text().starts_with("\r\n"), piece.Heading) << piece.Text();
+    EXPECT_TRUE(piece.Text().ends_with("\r\n")) << piece.Text();
     if (piece.Heading) {
-      EXPECT_EQ(LinesOf(piece.Text).size(), 2U) << piece.Text;
-    } else if (piece.Text.find("приложенное") == std::string::npos) {
-      EXPECT_EQ(LinesOf(piece.Text).size(), 1U) << piece.Text;
+      EXPECT_EQ(LinesOf(piece.Text()).size(), 2U) << piece.Text();
+    } else if (piece.Text().find("приложенное") == std::string::npos) {
+      EXPECT_EQ(LinesOf(piece.Text()).size(), 1U) << piece.Text();
     }
   }
 }
@@ -143,7 +143,7 @@ TEST(ReportNumbers, OfAMassBeyondEveryReactionRaise) {
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), 6);
   }
-  EXPECT_EQ(pieces.back().Text, "Реакция правой опоры фермы : 30.5\r\n");
+  EXPECT_EQ(pieces.back().Text(), "Реакция правой опоры фермы : 30.5\r\n");
 }
 
 TEST(ReportOfAnEmptyResult, StopsAtTheForcesAndKeepsWhatStandsBefore) {
@@ -160,9 +160,9 @@ TEST(ReportOfAnEmptyResult, StopsAtTheForcesAndKeepsWhatStandsBefore) {
   ASSERT_LT(pieces.size(), whole.size());
   EXPECT_TRUE(std::equal(pieces.begin(), pieces.end(), whole.begin()));
   ASSERT_GT(pieces.size(), 2U);
-  EXPECT_EQ((pieces.end() - 2)->Text,
+  EXPECT_EQ((pieces.end() - 2)->Text(),
             "Усилия записаны для каждой группы стержней слева на право \r\n");
-  EXPECT_EQ(pieces.back().Text, "Верхний пояс : \r\n");
+  EXPECT_EQ(pieces.back().Text(), "Верхний пояс : \r\n");
 }
 
 TEST(ReportOfAnEmptyResult, HasItsEndAllTheSame) {

@@ -13,21 +13,28 @@ namespace trelonit::test {
 using ReportPieces = std::vector<ReportPiece>;
 
 inline ReportPiece PlainPiece(const std::string& text) {
-  return {.Text = text, .Heading = false};
+  return {.Spans = {{text}}};
 }
 inline ReportPiece HeadingPiece(const std::string& text) {
-  return {.Text = text, .Heading = true};
+  return {.Spans = {{text}}, .Heading = true};
 }
 
 inline ReportPiece WarningPiece(const std::string& text) {
-  return {.Text = text, .Warning = true};
+  return {.Spans = {{text}}, .Warning = true};
+}
+
+/// A piece as one text, whatever its parts are.
+inline ReportPiece Flat(const ReportPiece& piece) {
+  ReportPiece flat = piece;
+  flat.Spans = {{piece.Text()}};
+  return flat;
 }
 
 /// The pieces one after the other.
 inline std::string Joined(const ReportPieces& pieces) {
   std::string text;
   for (const ReportPiece& piece : pieces) {
-    text += piece.Text;
+    text += piece.Text();
   }
   return text;
 }
