@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "platform/system/ProgramFolder.h"
+
 namespace trelonit::cli {
 
 namespace {

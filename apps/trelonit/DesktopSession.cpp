@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "platform/system/ProgramFolder.h"
 #include "windows/dialogs/AboutWindow.h"
 #include "windows/dialogs/DataManagerWindow.h"
 #include "windows/dialogs/ParamertyWindow.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <map>
 #include <ostream>
 #include <string>
@@ -8,9 +7,7 @@
 #include <vector>
 
 #include "platform/system/Services.h"
-#ifdef _WIN32
-#include "platform/win32/Win32Shell.h"
-#endif
+#include "platform/system/SystemShell.h"
 
 namespace trelonit {
 
@@ -76,17 +73,6 @@ class NoAutomation : public AutomationService {
   AutomationHandle Create(const std::string& programIdentifier) override;
 };
 
-#ifdef _WIN32
-using SystemShell = Win32Shell;
-#else
-/// The names of a machine that has no places of Windows.
-class SystemShell : public ShellService {
- public:
-  std::string ComputerName() override;
-  std::string UserName() override;
-};
-#endif
-
 /// A machine without a desktop: nothing can be started; names and places are the system's.
 class ConsoleShell : public SystemShell {
  public:
@@ -98,14 +84,5 @@ class SystemClock : public ClockService {
  public:
   ClockReading Now() override;
 };
-
-/// The folder that this program was started from; empty where the system does not tell.
-std::filesystem::path ExecutableFolder();
-
-/// The folder for the catalogue files: the executable's own where it already holds them or is
-/// writable, otherwise the program's folder in the user's data folder (made if missing), so that an
-/// installed program works without rights. An installed program takes its own folder only where it
-/// holds the files: a superuser could write there, and nobody would take them away again.
-std::string FindProgramFolder();
 
 }  // namespace trelonit

@@ -5,8 +5,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <locale>
-#include <stdexcept>
 #include <system_error>
 
 #include "platform/errors/RuntimeError.h"
@@ -233,27 +231,6 @@ bool ReadParts(std::string_view text, char separator, double& value) {
 }
 
 }  // namespace
-
-#ifndef _WIN32  // see win32/Win32Locale.cpp
-
-NumberLocale SystemNumberLocale() {
-  NumberLocale result;
-  try {
-    const std::locale system("");
-    const auto& form = std::use_facet<std::numpunct<wchar_t>>(system);
-    result.DecimalSeparator = Utf8(std::u32string(1, static_cast<char32_t>(form.decimal_point())));
-    const std::string grouping = form.grouping();
-    if (!grouping.empty() && grouping[0] > 0 && form.thousands_sep() != L'\0') {
-      result.GroupSeparator = Utf8(std::u32string(1, static_cast<char32_t>(form.thousands_sep())));
-      result.GroupSize = grouping[0];
-    }
-  } catch (const std::runtime_error&) {
-    // The environment names a locale that is not installed: the neutral form serves.
-  }
-  return result;
-}
-
-#endif
 
 std::string NumberToText(double value, const NumberLocale& locale) {
   if (Finite(value) == 0) {

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "platform/system/Process.h"
+#include "platform/system/ProgramFolder.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/WindowsHeader.h"
 
@@ -53,6 +55,20 @@ std::optional<int> RunWithOwnCommandLine(const std::filesystem::path& program) {
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
   return static_cast<int>(status);
+}
+
+int RunConsoleProgram(int /*argc*/, char** /*argv*/, const std::function<int(int, char**)>& work) {
+  // The given arguments are in the code page of the system, which not every name fits into.
+  Utf8Console console;
+  return work(console.ArgumentCount(), console.Arguments());
+}
+
+std::string ProgramFileName(std::string name) {
+  return name + ".exe";
+}
+
+HandedOver HandOverTo(const std::string& fileName, char** /*argv*/) {
+  return {.Status = RunWithOwnCommandLine(ExecutableFolder() / fileName)};
 }
 
 }  // namespace trelonit

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/console/ConsoleServices.h"
+#include "platform/system/ProgramFolder.h"
 #include "platform/text/NumberText.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/Win32Console.h"

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/console/ConsoleServices.h"
+#include "platform/system/ProgramFolder.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/WindowsHeader.h"
 #include "tests/win32/ErrorOf.h"

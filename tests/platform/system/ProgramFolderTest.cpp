@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/console/ConsoleServices.h"
+#include "platform/system/ProgramFolder.h"
 
 namespace trelonit::test {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "platform/system/Services.h"
 
 namespace trelonit {
 
-/// The names and places of a Windows machine: the base of every shell there.
-class Win32Shell : public ShellService {
+/// The names and places of this machine: the base of every shell. A machine that is no Windows has
+/// the names only.
+class SystemShell : public ShellService {
  public:
   std::string ComputerName() override;
   std::string UserName() override;
@@ -17,8 +17,5 @@ class Win32Shell : public ShellService {
   std::string SendToFolder() override;
   void RemoveShortcut(const std::string& path) override;
 };
-
-/// The file of the running program; empty where the system does not tell.
-std::filesystem::path ExecutablePath();
 
 }  // namespace trelonit

@@ -1,8 +1,10 @@
-#include "platform/win32/Win32Shell.h"
-
+#include <cstdlib>
 #include <memory>
 #include <shlobj.h>
 
+#include "platform/system/LocalTime.h"
+#include "platform/system/ProgramFolder.h"
+#include "platform/system/SystemShell.h"
 #include "platform/win32/SystemError.h"
 #include "platform/win32/Utf16.h"
 
@@ -30,7 +32,18 @@ std::filesystem::path ExecutablePath() {
   return path;
 }
 
-std::string Win32Shell::ComputerName() {
+std::filesystem::path UserDataFolder() {
+  const wchar_t* base = _wgetenv(L"LOCALAPPDATA");
+  return std::filesystem::path(base != nullptr ? base : L".") / "trelonit";
+}
+
+std::tm LocalTime(std::time_t time) {
+  std::tm local{};
+  localtime_s(&local, &time);
+  return local;
+}
+
+std::string SystemShell::ComputerName() {
   std::wstring name(MAX_COMPUTERNAME_LENGTH + 1, L'\0');
   DWORD length = MAX_COMPUTERNAME_LENGTH + 1;
   if (!GetComputerNameW(name.data(), &length)) {
@@ -40,7 +53,7 @@ std::string Win32Shell::ComputerName() {
   return FromWide(name);
 }
 
-std::string Win32Shell::UserName() {
+std::string SystemShell::UserName() {
   constexpr DWORD longestName = 257;
   std::wstring name(longestName, L'\0');
   DWORD length = longestName;
@@ -50,7 +63,7 @@ std::string Win32Shell::UserName() {
   return FromWide(name.c_str());
 }
 
-std::string Win32Shell::ProgramPath() {
+std::string SystemShell::ProgramPath() {
   const std::filesystem::path path = ExecutablePath();
   if (path.empty()) {
     throw LastError();
@@ -64,7 +77,7 @@ std::string Win32Shell::ProgramPath() {
   return FromWide(name);
 }
 
-std::string Win32Shell::SystemFolder() {
+std::string SystemShell::SystemFolder() {
   std::wstring folder(longestPath, L'\0');
   const UINT length = GetSystemDirectoryW(folder.data(), longestPath);
   if (length == 0) {
@@ -74,7 +87,7 @@ std::string Win32Shell::SystemFolder() {
   return FromWide(folder);
 }
 
-std::string Win32Shell::SendToFolder() {
+std::string SystemShell::SendToFolder() {
   wchar_t* folder = nullptr;
   const HRESULT result = SHGetKnownFolderPath(FOLDERID_SendTo, 0, nullptr, &folder);
   // The memory is the caller's even where the call fails.
@@ -85,7 +98,7 @@ std::string Win32Shell::SendToFolder() {
   return FromWide(folder);
 }
 
-void Win32Shell::RemoveShortcut(const std::string& path) {
+void SystemShell::RemoveShortcut(const std::string& path) {
   if (!DeleteFileW(ToWide(path).c_str())) {
     throw LastError();
   }

@@ -1,0 +1,26 @@
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <unistd.h>
+
+#include "platform/system/Process.h"
+#include "platform/system/ProgramFolder.h"
+
+namespace trelonit {
+
+int RunConsoleProgram(int argc, char** argv, const std::function<int(int, char**)>& work) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  return work(argc, argv);
+}
+
+std::string ProgramFileName(std::string name) {
+  return name;
+}
+
+HandedOver HandOverTo(const std::string& fileName, char** argv) {
+  const std::filesystem::path path = ExecutableFolder() / fileName;
+  ::execv(path.c_str(), argv);  // comes back only where it fails
+  return {.Status = std::nullopt, .Reason = std::strerror(errno)};
+}
+
+}  // namespace trelonit
