@@ -19,18 +19,8 @@ namespace trelonit {
 DesktopSession::DesktopSession() : program_(Bundle(), MakeWindows()) {}
 
 Services DesktopSession::Bundle() {
-  return {messages_,
-          dialogs_,
-          clipboard_,
-          settings_,
-          registry_,
-          drawings_.Automation(),
-          shell_,
-          clock_,
-          resources_,
-          files_,
-          DesktopNumberLocale(),
-          FindProgramFolder()};
+  return {messages_, dialogs_, clipboard_, settings_, machine_->Registry(),  drawings_.Automation(),
+          shell_,    clock_,   resources_, files_,    DesktopNumberLocale(), FindProgramFolder()};
 }
 
 Program::Windows DesktopSession::MakeWindows() {
@@ -52,7 +42,7 @@ Program::Windows DesktopSession::MakeWindows() {
                 return box;
               },
           .Dialogs = &documentDialogs_,
-          .Associations = &associations_,
+          .Associations = associations_.get(),
           .EndProgram = [] { QApplication::exit(0); }};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/Program.h"
+#include "apps/trelonit/Machine.h"
 #include "resources/EmbeddedResources.h"
 #include "windows/drawing/DrawingDesk.h"
 #include "windows/editor/DocumentDialogs.h"
@@ -11,14 +12,6 @@
 #include "windows/office/ConversionProgress.h"
 #include "windows/office/OfficeAutomation.h"
 #include "windows/services/DesktopServices.h"
-#ifdef _WIN32
-#include "editor/associations/ModAss.h"
-#include "platform/win32/ComAutomation.h"
-#include "platform/win32/Win32Registry.h"
-#else
-#include "editor/associations/MimeAssociations.h"
-#include "windows/services/MimeDefaults.h"
-#endif
 
 namespace trelonit {
 
@@ -61,11 +54,6 @@ class DesktopSession {
   DesktopDialogs dialogs_;
   DesktopClipboard clipboard_;
   DesktopSettings settings_;
-#ifdef _WIN32
-  Win32Registry registry_;
-#else
-  NoRegistry registry_;
-#endif
   HelpViewer help_;
   HelpKey helpKey_{[this](const QString& place) { help_.OpenPlace(place); }};
   DesktopShell shell_{help_};
@@ -73,16 +61,9 @@ class DesktopSession {
   EmbeddedResources resources_;
   DiskFiles files_;
   OfficeAutomation office_{clipboard_, files_, {.Watch = ShowConversionProgress}};
-#ifdef _WIN32
-  // The machine's own programs come first.
-  ComAutomation programs_{&office_};
-  DrawingDesk drawings_{&programs_};
-  RegistryAssociations associations_{Bundle()};
-#else
-  DrawingDesk drawings_{&office_};
-  MimeDefaults mimeDefaults_{files_, settings_};
-  MimeAssociations associations_{mimeDefaults_};
-#endif
+  std::unique_ptr<Machine> machine_ = MakeMachine(office_);
+  DrawingDesk drawings_{&machine_->Programs()};
+  std::unique_ptr<FileAssociations> associations_ = MakeAssociations(Bundle());
   DocumentDialogs documentDialogs_;
   Program program_;
   // The box of the present document; the program owns it.

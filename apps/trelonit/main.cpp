@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "apps/trelonit/DesktopSession.h"
+#include "apps/trelonit/Machine.h"
 #include "platform/errors/RuntimeError.h"
 #include "windows/services/Desktop.h"
 #include "workstation/main/ApplicationInfo.h"
@@ -52,21 +53,6 @@ std::optional<int> AnswerCommandLine(int argc, char** argv) {
   return std::nullopt;
 }
 
-/// The file to open, empty for none; nothing where the arguments that the toolkit has left are no
-/// such command line.
-std::optional<std::string> HandedFile(const QStringList& arguments) {
-#ifdef _WIN32
-  // The registry's command hands a name over without quotes: blanks in it have made several
-  // arguments of one name.
-  return arguments.mid(1).join(QLatin1Char(' ')).toStdString();
-#else
-  if (arguments.size() > 2 || arguments.value(1).startsWith(QLatin1Char('-'))) {
-    return std::nullopt;
-  }
-  return arguments.value(1).toStdString();
-#endif
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -75,7 +61,7 @@ int main(int argc, char** argv) {
   }
   try {
     Application application(argc, argv);
-    const std::optional<std::string> file = HandedFile(QApplication::arguments());
+    const std::optional<std::string> file = trelonit::HandedFile(QApplication::arguments());
     if (!file) {
       std::fprintf(stderr, "trelonit: можно открыть один файл; справка: trelonit --help\n");
       return 2;

@@ -127,12 +127,11 @@ Integer KeyCodeOf(const PressedKey& pressed) {
 }
 
 Integer KeyCodeOf(const QKeyEvent& event) {
-#if defined(Q_OS_WIN)
-  if (event.nativeVirtualKey() != 0) {
+  const QString platform = QGuiApplication::platformName();
+  // There the code is the very one that is asked for.
+  if (platform == QLatin1String("windows") && event.nativeVirtualKey() != 0) {
     return static_cast<Integer>(event.nativeVirtualKey() & 0xFF);
   }
-#endif
-  const QString platform = QGuiApplication::platformName();
   const bool located =
       platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
   return KeyCodeOf({.Key = event.key(),

@@ -25,7 +25,7 @@ HtmlHelpAFunction FindHtmlHelpA() {
 
 }  // namespace
 
-void ShowHtmlHelp(const std::string& path) {
+bool ShowHtmlHelp(const std::string& path) {
   constexpr UINT displayTopic = 0;
   const HtmlHelpAFunction htmlHelp = FindHtmlHelpA();
   const QWidget* window = QApplication::activeWindow();
@@ -35,6 +35,7 @@ void ShowHtmlHelp(const std::string& path) {
   if (htmlHelp == nullptr || htmlHelp(owner, file.constData(), displayTopic, 0) == nullptr) {
     throw RuntimeError(ErrorNumber::FileNotFound);
   }
+  return true;
 }
 
 }  // namespace trelonit

@@ -8,12 +8,8 @@
 #include <QUrl>
 
 #include "platform/files/FileBytes.h"
+#include "windows/office/OfficeHost.h"
 #include "windows/office/OfficeProfile.h"
-
-#ifndef Q_OS_WIN
-#include <csignal>
-#include <unistd.h>
-#endif
 
 namespace trelonit {
 
@@ -47,26 +43,6 @@ QStringList ReadersOf(OfficeFormat format) {
           QStringLiteral("MS WinWord 6.0")};
 }
 
-/// Nothing of the user's session but what a program needs to start at all.
-QProcessEnvironment CleanEnvironment(const QString& folder) {
-#ifdef Q_OS_WIN
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(QStringLiteral("TEMP"), folder);
-  environment.insert(QStringLiteral("TMP"), folder);
-#else
-  QProcessEnvironment environment;
-  environment.insert(QStringLiteral("PATH"),
-                     qEnvironmentVariable("PATH", QStringLiteral("/usr/local/bin:/usr/bin:/bin")));
-  environment.insert(QStringLiteral("HOME"), folder);
-  environment.insert(QStringLiteral("TMPDIR"), folder);
-  environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
-  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-  // It shall not even look for a display.
-  environment.insert(QStringLiteral("SAL_USE_VCLPLUGIN"), QStringLiteral("svp"));
-#endif
-  return environment;
-}
-
 /// A converter and all that it starts; none of them outlives this object.
 class ProcessTree {
  public:
@@ -92,10 +68,7 @@ ProcessTree::ProcessTree(const QString& program, const QStringList& arguments,
   process_.setStandardInputFile(QProcess::nullDevice());
   process_.setStandardOutputFile(QProcess::nullDevice());
   process_.setStandardErrorFile(QProcess::nullDevice());
-#ifndef Q_OS_WIN
-  // The whole group is killed by the leader's number.
-  process_.setChildProcessModifier([] { ::setsid(); });
-#endif
+  LeadItsTree(process_);
   process_.start();
   if (!process_.waitForStarted(-1)) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
@@ -105,12 +78,7 @@ ProcessTree::ProcessTree(const QString& program, const QStringList& arguments,
 
 ProcessTree::~ProcessTree() {
   // Also behind a converter that has ended: it may have left others at work in the folder.
-#ifdef Q_OS_WIN
-  QProcess::execute(QStringLiteral("taskkill"), {QStringLiteral("/T"), QStringLiteral("/F"),
-                                                 QStringLiteral("/PID"), QString::number(leader_)});
-#else
-  ::kill(static_cast<pid_t>(-leader_), SIGKILL);
-#endif
+  KillTree(leader_);
   process_.waitForFinished(timeToDie);
 }
 

@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+#include "windows/office/OfficeHost.h"
+
 namespace trelonit {
 
 namespace {
@@ -22,30 +24,11 @@ QStringList FoldersOfPath() {
   return folders;
 }
 
-QStringList UsualFolders() {
-#ifdef Q_OS_WIN
-  return {qEnvironmentVariable("ProgramFiles") + QStringLiteral("/LibreOffice/program"),
-          qEnvironmentVariable("ProgramFiles(x86)") + QStringLiteral("/LibreOffice/program")};
-#else
-  QStringList folders{QStringLiteral("/usr/local/bin"), QStringLiteral("/usr/bin"),
-                      QStringLiteral("/usr/lib/libreoffice/program"),
-                      QStringLiteral("/usr/lib64/libreoffice/program"),
-                      QStringLiteral("/Applications/LibreOffice.app/Contents/MacOS")};
-  // The makers' own packages: one folder a version, the newest of them first.
-  const QDir versions(QStringLiteral("/opt"));
-  for (const QString& name : versions.entryList({QStringLiteral("libreoffice*")}, QDir::Dirs,
-                                                QDir::Name | QDir::Reversed)) {
-    folders += versions.filePath(name) + QStringLiteral("/program");
-  }
-  return folders;
-#endif
-}
-
 }  // namespace
 
 std::string FindOfficeProgram() {
   // An empty list would be searched as PATH itself, with its relative folders.
-  const QStringList folders = FoldersOfPath() + UsualFolders();
+  const QStringList folders = FoldersOfPath() + UsualOfficeFolders();
   return QStandardPaths::findExecutable(QStringLiteral("soffice"), folders).toStdString();
 }
 

@@ -173,12 +173,10 @@ void DesktopShell::StartProgram(const std::string& path) {
   }
 }
 
-void DesktopShell::OpenHelp([[maybe_unused]] const std::string& path) {
-#ifdef _WIN32
-  ShowHtmlHelp(path);
-#else
-  help_.Open();
-#endif
+void DesktopShell::OpenHelp(const std::string& path) {
+  if (!ShowHtmlHelp(path)) {
+    help_.Open();
+  }
 }
 
 NumberLocale DesktopNumberLocale() {

@@ -1,0 +1,9 @@
+#include "windows/main/LockKeys.h"
+
+namespace trelonit {
+
+LockKeys ReadLockKeys() {
+  return {};
+}
+
+}  // namespace trelonit
