@@ -5,16 +5,13 @@
 #include <utility>
 
 #include "editor/document/TextUnits.h"
+#include "editor/rtf/RtfHealth.h"
 #include "editor/rtf/RtfReader.h"
 #include "editor/rtf/RtfWriter.h"
 
 namespace trelonit {
 
 namespace {
-
-bool BeginsAsRichText(const std::string& bytes) {
-  return bytes.rfind("{\\rtf", 0) == 0;
-}
 
 std::size_t DocumentLength(const RichDocument& document) {
   std::size_t length = (document.Paragraphs.size() - 1) * lineEndUnits.size();
@@ -97,7 +94,7 @@ std::string MemoryRichTextBox::TextRTF() const {
 }
 
 void MemoryRichTextBox::SetTextRTF(const std::string& rtf) {
-  if (BeginsAsRichText(rtf)) {
+  if (BeginsAsRtf(rtf)) {
     SetDocument(ReadRtf(rtf));
   } else {
     SetText(rtf);
@@ -186,7 +183,7 @@ void MemoryRichTextBox::SetSelText(const std::string& text) {
 }
 
 void MemoryRichTextBox::SetSelRTF(const std::string& rtf) {
-  if (!BeginsAsRichText(rtf)) {
+  if (!BeginsAsRtf(rtf)) {
     SetSelText(rtf);
     return;
   }

@@ -7,6 +7,7 @@
 
 #include "editor/rtf/RtfAssembly.h"
 #include "editor/rtf/RtfCodePages.h"
+#include "editor/rtf/RtfHealth.h"
 #include "editor/rtf/RtfKeywords.h"
 #include "editor/rtf/RtfLimits.h"
 #include "editor/rtf/RtfLooks.h"
@@ -16,8 +17,6 @@
 namespace trelonit {
 
 namespace {
-
-constexpr std::string_view signature = "{\\rtf";
 
 /// Where the characters of a group go.
 enum class Destination { Text, FontTable, PlainFontName, ColourTable, Nowhere };
@@ -338,7 +337,7 @@ char16_t Reader::Decoded(unsigned char byte) {
 }  // namespace
 
 RichDocument ReadRtf(std::string_view bytes) {
-  if (bytes.substr(0, signature.size()) != signature) {
+  if (!BeginsAsRtf(bytes)) {
     throw RuntimeError(ErrorNumber::TypeMismatch);
   }
   return Reader(bytes).Read();

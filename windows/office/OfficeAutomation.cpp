@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "editor/document/MemoryRichTextBox.h"
+#include "editor/rtf/RtfHealth.h"
 #include "editor/rtf/RtfReader.h"
 #include "editor/rtf/RtfWriter.h"
 #include "platform/files/FileBytes.h"
@@ -15,7 +16,6 @@ namespace trelonit {
 
 namespace {
 
-constexpr std::string_view richTextSignature = "{\\rtf";
 constexpr std::string_view compoundSignature = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 /// The name of the stream that every Word document has, in UTF-16.
 constexpr std::string_view wordStream("W\0o\0r\0d\0D\0o\0c\0u\0m\0e\0n\0t\0", 24);
@@ -94,14 +94,14 @@ std::string WordSession::ReadDocument(const std::string& path) {
   }
   std::string bytes = ReadBytes(files_, path);
   // Word opens rich text whatever the name says.
-  if (bytes.starts_with(richTextSignature)) {
+  if (BeginsAsRtf(bytes)) {
     return bytes;
   }
   if (!IsWordDocument(bytes)) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
   }
   std::string rtf = ConvertDocument(settings_, bytes, OfficeFormat::Word, OfficeFormat::RichText);
-  if (!rtf.starts_with(richTextSignature)) {
+  if (!BeginsAsRtf(rtf)) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
   }
   return rtf;
@@ -119,7 +119,7 @@ void WordSession::SaveDocument(const std::string& path, const std::string& rtf) 
 /// Read and written anew, so that nothing but what the editor can hold reaches the converter.
 std::string WordSession::ClipboardAsRichText() {
   const std::string rtf = clipboard_.RichText();
-  if (rtf.starts_with(richTextSignature)) {
+  if (BeginsAsRtf(rtf)) {
     return WriteRtf(ReadRtf(rtf));
   }
   MemoryRichTextBox box;
