@@ -7,6 +7,7 @@
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/text/NumberText.h"
+#include "platform/text/Text.h"
 #include "platform/values/Arithmetic.h"
 
 namespace trelonit {
@@ -23,8 +24,7 @@ bool IsOfNumber(char character) {
 
 /// Letters of any alphabet: every byte of a longer character counts as one.
 bool IsLetter(char character) {
-  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
-         static_cast<unsigned char>(character) >= 0x80;
+  return IsLatinLetter(character) || static_cast<unsigned char>(character) >= 0x80;
 }
 
 /// Reads by the usual precedence, operations of one rank from the left.

@@ -3,13 +3,14 @@
 #include <algorithm>
 
 #include "platform/errors/RuntimeError.h"
+#include "platform/text/Text.h"
 
 namespace trelonit::cli {
 
 bool HasExtension(std::string_view name, std::string_view extension) {
   return name.size() > extension.size() &&
          std::equal(extension.rbegin(), extension.rend(), name.rbegin(),
-                    [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b - 'A' + 'a' : b); });
+                    [](char a, char b) { return a == LowerLatin(b); });
 }
 
 Status WriteOutput(const std::string& file, const std::string& bytes) {

@@ -1,5 +1,7 @@
 #include "drawing/host/Drawing.h"
 
+#include "platform/text/Text.h"
+
 namespace trelonit {
 
 namespace {
@@ -16,8 +18,8 @@ std::string FoldedName(std::string_view name) {
   std::string folded(name);
   for (std::size_t place = 0; place < folded.size(); ++place) {
     const unsigned char byte = ByteAt(folded, place);
-    if (byte >= 'a' && byte <= 'z') {
-      folded[place] = static_cast<char>(byte - 'a' + 'A');
+    if (IsLatinLetter(folded[place])) {
+      folded[place] = UpperLatin(folded[place]);
       continue;
     }
     if ((byte != lead0 && byte != lead1) || place + 1 == folded.size()) {

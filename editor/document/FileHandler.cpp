@@ -22,13 +22,6 @@ constexpr std::string_view littleEndianMark = "\xFF\xFE";
 constexpr std::string_view bigEndianMark = "\xFE\xFF";
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
-std::string LowerLatin(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), [](char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-  });
-  return text;
-}
-
 /// Where the extension's point stands, or npos.
 std::size_t PointOf(const std::string& name) {
   const std::size_t folder = name.find_last_of(folderSeparators);
@@ -54,11 +47,11 @@ std::string_view ExtensionFor(DocumentFormat format) {
 /// the name, like a size in "Ферма 1.5 м".
 bool TellsKind(const std::string& extension) {
   constexpr std::size_t longest = 5;
-  const auto latin = [](char letter) { return letter >= 'a' && letter <= 'z'; };
   const auto digit = [](char letter) { return letter >= '0' && letter <= '9'; };
-  return extension.size() <= longest && std::any_of(extension.begin(), extension.end(), latin) &&
+  return extension.size() <= longest &&
+         std::any_of(extension.begin(), extension.end(), IsLatinLetter) &&
          std::all_of(extension.begin(), extension.end(),
-                     [&](char letter) { return latin(letter) || digit(letter); });
+                     [&](char letter) { return IsLatinLetter(letter) || digit(letter); });
 }
 
 std::string FromUtf16(std::string_view bytes, std::size_t high) {
@@ -68,7 +61,7 @@ std::string FromUtf16(std::string_view bytes, std::size_t high) {
     units.push_back(static_cast<char16_t>(static_cast<unsigned char>(bytes[at + high]) << 8 |
                                           static_cast<unsigned char>(bytes[at + 1 - high])));
   }
-  return TextOfUnits(units);
+  return Utf8(units);
 }
 
 std::string Decoded(std::string_view bytes) {

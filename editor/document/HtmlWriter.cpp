@@ -11,6 +11,7 @@
 
 #include "editor/document/FontFamilies.h"
 #include "editor/document/TextUnits.h"
+#include "platform/text/Text.h"
 
 namespace trelonit {
 
@@ -142,7 +143,7 @@ void Writer::WriteParagraph(const RichParagraph& paragraph) {
     }
     empty = false;
     body_ += "<span class=\"f" + std::to_string(ClassOf(run.Format) + 1) + "\">";
-    AppendEscaped(body_, TextOfUnits(run.Text));
+    AppendEscaped(body_, Utf8(run.Text));
     body_ += "</span>";
   }
   // Without anything in it a paragraph has no height.

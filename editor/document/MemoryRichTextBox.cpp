@@ -8,6 +8,7 @@
 #include "editor/rtf/RtfHealth.h"
 #include "editor/rtf/RtfReader.h"
 #include "editor/rtf/RtfWriter.h"
+#include "platform/text/Text.h"
 
 namespace trelonit {
 
@@ -31,7 +32,7 @@ std::string DocumentText(const RichDocument& document) {
       units += run.Text;
     }
   }
-  return TextOfUnits(units);
+  return Utf8(units);
 }
 
 RichDocument PlainDocument(std::u16string_view units, const CharFormat& format) {

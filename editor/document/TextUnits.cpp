@@ -29,16 +29,6 @@ bool Within(char16_t unit, int first, int last) {
   return unit >= first && unit <= last;
 }
 
-constexpr char16_t replacement = 0xFFFD;
-
-bool IsHighSurrogate(char16_t unit) {
-  return Within(unit, 0xD800, 0xDBFF);
-}
-
-bool IsLowSurrogate(char16_t unit) {
-  return Within(unit, 0xDC00, 0xDFFF);
-}
-
 }  // namespace
 
 std::u16string Units(std::string_view text) {
@@ -65,24 +55,8 @@ std::u16string Units(std::string_view text) {
   return units;
 }
 
-std::string TextOfUnits(std::u16string_view units) {
-  std::string text;
-  text.reserve(units.size() * 2);
-  for (std::size_t place = 0; place < units.size(); ++place) {
-    const char16_t unit = units[place];
-    if (IsHighSurrogate(unit) && place + 1 < units.size() && IsLowSurrogate(units[place + 1])) {
-      ++place;
-      AppendUtf8(text, 0x10000 + ((static_cast<char32_t>(unit) - 0xD800) << 10) +
-                           (static_cast<char32_t>(units[place]) - 0xDC00));
-    } else {
-      AppendUtf8(text, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? replacement : unit);
-    }
-  }
-  return text;
-}
-
 std::string WithWholeLineEnds(std::string_view text) {
-  return TextOfUnits(Units(text));
+  return Utf8(Units(text));
 }
 
 Long UnitCount(std::string_view text) {

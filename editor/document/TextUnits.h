@@ -17,9 +17,6 @@ constexpr std::u16string_view lineEndUnits = u"\r\n";
 /// Malformed bytes become U+FFFD.
 std::u16string Units(std::string_view text);
 
-/// Back to UTF-8; half a surrogate pair becomes U+FFFD.
-std::string TextOfUnits(std::u16string_view units);
-
 /// The text as the box takes it in: see Units.
 std::string WithWholeLineEnds(std::string_view text);
 

@@ -3,14 +3,11 @@
 #include <algorithm>
 #include <limits>
 
+#include "platform/text/Text.h"
+
 namespace trelonit {
 
 namespace {
-
-// Without the C library's classification, which follows the user's locale.
-bool IsLetter(char byte) {
-  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
 
 bool IsDigit(char byte) {
   return byte >= '0' && byte <= '9';
@@ -21,13 +18,8 @@ int HexValue(char byte) {
   if (IsDigit(byte)) {
     return byte - '0';
   }
-  if (byte >= 'a' && byte <= 'f') {
-    return byte - 'a' + 10;
-  }
-  if (byte >= 'A' && byte <= 'F') {
-    return byte - 'A' + 10;
-  }
-  return -1;
+  const char lower = LowerLatin(byte);
+  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
 RtfToken ByteToken(RtfToken::Kind kind, unsigned char byte) {
@@ -68,7 +60,7 @@ RtfToken RtfTokens::Escaped() {
     return {};
   }
   const char byte = bytes_[place_];
-  if (IsLetter(byte)) {
+  if (IsLatinLetter(byte)) {
     return ControlWord();
   }
   ++place_;
@@ -85,7 +77,7 @@ RtfToken RtfTokens::Escaped() {
 
 RtfToken RtfTokens::ControlWord() {
   const std::size_t start = place_;
-  while (place_ < bytes_.size() && IsLetter(bytes_[place_])) {
+  while (place_ < bytes_.size() && IsLatinLetter(bytes_[place_])) {
     ++place_;
   }
   RtfToken token = KindToken(RtfToken::Kind::Word);

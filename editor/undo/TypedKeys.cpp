@@ -2,6 +2,7 @@
 
 #include "editor/document/TextUnits.h"
 #include "platform/text/CodePage1251.h"
+#include "platform/text/Text.h"
 
 namespace trelonit {
 
@@ -34,7 +35,7 @@ std::string TypedText(Integer keyCode, Integer shift) {
   }
   const char16_t character = FromCodePage1251(static_cast<unsigned char>(keyCode));
   const char16_t cased = shift == 0 ? LowerCase(character) : UpperCase(character);
-  return TextOfUnits({&cased, 1});
+  return Utf8({&cased, 1});
 }
 
 }  // namespace trelonit

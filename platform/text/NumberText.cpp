@@ -297,11 +297,7 @@ std::string BooleanToText(bool value) {
 }
 
 bool TextToBoolean(std::string_view text, const NumberLocale& locale) {
-  std::string lower(Trim(text));
-  std::transform(lower.begin(), lower.end(), lower.begin(), [](char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-  });
+  const std::string lower = LowerLatin(std::string(Trim(text)));
   if (lower == "true") {
     return true;
   }

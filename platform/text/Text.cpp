@@ -26,8 +26,52 @@ std::string Utf8(std::u32string_view characters) {
   return text;
 }
 
+bool IsHighSurrogate(char16_t unit) {
+  return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool IsLowSurrogate(char16_t unit) {
+  return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+std::string Utf8(std::u16string_view units) {
+  std::string text;
+  text.reserve(units.size() * 2);
+  for (std::size_t place = 0; place < units.size(); ++place) {
+    const char16_t unit = units[place];
+    if (IsHighSurrogate(unit) && place + 1 < units.size() && IsLowSurrogate(units[place + 1])) {
+      ++place;
+      AppendUtf8(text, 0x10000 + ((static_cast<char32_t>(unit) - 0xD800) << 10) +
+                           (static_cast<char32_t>(units[place]) - 0xDC00));
+    } else {
+      AppendUtf8(text, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? U'\uFFFD' : unit);
+    }
+  }
+  return text;
+}
+
 void AppendUtf8(std::string& text, char32_t character) {
   utf8::unchecked::append(character, std::back_inserter(text));
+}
+
+bool IsLatinLetter(char byte) {
+  const char lower = LowerLatin(byte);
+  return lower >= 'a' && lower <= 'z';
+}
+
+char LowerLatin(char byte) {
+  return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+}
+
+char UpperLatin(char byte) {
+  return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
+}
+
+std::string LowerLatin(std::string text) {
+  for (char& byte : text) {
+    byte = LowerLatin(byte);
+  }
+  return text;
 }
 
 std::string_view TrimRight(std::string_view text) {

@@ -18,7 +18,20 @@ bool IsUtf8(std::string_view bytes);
 /// Back to UTF-8.
 std::string Utf8(std::u32string_view characters);
 
+/// The same from UTF-16; half a surrogate pair becomes U+FFFD.
+std::string Utf8(std::u16string_view units);
+
+bool IsHighSurrogate(char16_t unit);
+bool IsLowSurrogate(char16_t unit);
+
 void AppendUtf8(std::string& text, char32_t character);
+
+// Latin letters and their case, whatever the user's locale is; nothing else changes.
+
+bool IsLatinLetter(char byte);
+char LowerLatin(char byte);
+char UpperLatin(char byte);
+std::string LowerLatin(std::string text);
 
 /// The text without blanks at its right end.
 std::string_view TrimRight(std::string_view text);

@@ -1,5 +1,6 @@
 #include "platform/win32/Utf16.h"
 
+#include "platform/text/Text.h"
 #include "platform/values/Integers.h"
 #include "platform/win32/WindowsHeader.h"
 
@@ -24,13 +25,7 @@ std::wstring ToWide(std::string_view text) {
 }
 
 std::string FromWide(std::wstring_view text) {
-  const int size = CountOf(text.size());
-  std::string narrow(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), size,
-                                                                  nullptr, 0, nullptr, nullptr)),
-                     '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), size, narrow.data(), CountOf(narrow.size()), nullptr,
-                      nullptr);
-  return narrow;
+  return Utf8(std::u16string(text.begin(), text.end()));
 }
 
 }  // namespace trelonit

@@ -8,6 +8,7 @@
 
 #include "editor/document/TextRuns.h"
 #include "editor/document/TextUnits.h"
+#include "platform/text/Text.h"
 
 namespace trelonit::test {
 
@@ -251,7 +252,7 @@ std::string Described(const RichDocument& document) {
     }
     lines << '\n';
     for (const auto& [text, format] : paragraph.Runs) {
-      lines << "  [" << TextOfUnits(text) << "] " << format.FontName << ' ' << format.FontSize
+      lines << "  [" << Utf8(text) << "] " << format.FontName << ' ' << format.FontSize
             << (format.Bold ? " bold" : "") << (format.Italic ? " italic" : "")
             << (format.Underline ? " underlined" : "") << (format.StrikeThru ? " struck" : "")
             << " colour " << format.TextColor << '\n';

@@ -8,6 +8,7 @@
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/system/Services.h"
+#include "platform/text/Text.h"
 
 namespace trelonit {
 
@@ -28,11 +29,8 @@ struct HostMember {
 };
 
 inline bool SameMemberName(std::string_view name1, std::string_view name2) {
-  const auto folded = [](char letter) {
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-  };
   return std::equal(name1.begin(), name1.end(), name2.begin(), name2.end(),
-                    [&](char a, char b) { return folded(a) == folded(b); });
+                    [](char a, char b) { return UpperLatin(a) == UpperLatin(b); });
 }
 
 /// Two tables in one.

@@ -10,6 +10,7 @@
 
 #include "editor/associations/ModAss.h"
 #include "editor/associations/frmAssoc.h"
+#include "platform/text/Text.h"
 #include "tests/editor/document/OtchetDesk.h"
 #include "tests/support/TestServices.h"
 
@@ -36,7 +37,7 @@ class RecordingRegistry : public RegistryService {
   explicit RecordingRegistry(MachineLog& log) : log_(log) {}
 
   std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::string& key) override {
-    const auto found = keys_.find({root, Folded(key)});
+    const auto found = keys_.find({root, LowerLatin(key)});
     return found == keys_.end() ? nullptr : std::make_unique<OpenKey>(found->second);
   }
   void SetValue(RegistryRoot root, const std::string& key, const std::string& name,
@@ -47,13 +48,13 @@ class RecordingRegistry : public RegistryService {
   }
   void DeleteKey(RegistryRoot root, const std::string& key) override {
     log_.Step("delete " + Place(root, key));
-    keys_.erase({root, Folded(key)});
+    keys_.erase({root, LowerLatin(key)});
   }
 
   /// What the machine holds without anybody's doing.
   void Put(RegistryRoot root, const std::string& key, const std::string& name,
            RegistryValue value) {
-    keys_[{root, Folded(key)}][name] = std::move(value);
+    keys_[{root, LowerLatin(key)}][name] = std::move(value);
   }
 
  private:
@@ -73,12 +74,6 @@ class RecordingRegistry : public RegistryService {
 
   static std::string Place(RegistryRoot root, const std::string& key) {
     return (root == RegistryRoot::ClassesRoot ? "classes\\" : "machine\\") + key;
-  }
-  static std::string Folded(std::string key) {
-    for (char& letter : key) {
-      letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    }
-    return key;
   }
 
   MachineLog& log_;

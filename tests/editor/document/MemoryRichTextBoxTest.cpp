@@ -2,6 +2,7 @@
 
 #include "editor/document/MemoryRichTextBox.h"
 #include "editor/document/TextUnits.h"
+#include "platform/text/Text.h"
 #include "tests/editor/document/RichTextBoxContract.h"
 
 namespace trelonit::test {
@@ -80,7 +81,7 @@ RC_GTEST_PROP(MemoryRichTextBox, EditsAndFindsAsAPlainStringDoes, ()) {
     const auto start = static_cast<std::size_t>(box.SelStart());
     const auto length = static_cast<std::size_t>(box.SelLength());
     RC_ASSERT(start + length <= model.size());
-    RC_ASSERT(box.SelText() == TextOfUnits(model.substr(start, length)));
+    RC_ASSERT(box.SelText() == Utf8(model.substr(start, length)));
     if (*rc::gen::inRange(0, 4) == 0) {
       CharFormat format;
       format.Bold = *rc::gen::arbitrary<bool>();

@@ -1,13 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "editor/document/TextUnits.h"
+#include "platform/text/Text.h"
 
 namespace trelonit::test {
 namespace {
 
 TEST(TextUnits, GoToUtf8AndBack) {
   for (const std::string text : {"", "abc", "Ёж\r\n", "\U0001F600\U00010000\U0010FFFF"}) {
-    EXPECT_EQ(TextOfUnits(Units(text)), text);
+    EXPECT_EQ(Utf8(Units(text)), text);
   }
   EXPECT_EQ(Units("\U0001F600"), u"\U0001F600");
 }
@@ -21,7 +22,7 @@ TEST(TextUnits, MakeWholeLineEnds) {
 
 TEST(TextUnits, ReplaceHalvesOfPairsAndBrokenBytes) {
   const std::u16string half{0xD83D, u'a', 0xDE00};
-  EXPECT_EQ(TextOfUnits(half), "\uFFFDa\uFFFD");
+  EXPECT_EQ(Utf8(half), "\uFFFDa\uFFFD");
   EXPECT_EQ(Units("\xFF"), u"\uFFFD");
 }
 

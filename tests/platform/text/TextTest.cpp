@@ -74,6 +74,38 @@ RC_GTEST_PROP(Characters, NeverFailsAndGivesCharactersOnly, ()) {
   RC_ASSERT(characters.empty() == values.empty());
 }
 
+TEST(Utf8OfUtf16, JoinsSurrogatePairs) {
+  // The first and the last character beyond the basic plane, and one of Unicode's own examples.
+  EXPECT_EQ(Utf8(std::u16string{0xD800, 0xDC00}), "\xF0\x90\x80\x80");
+  EXPECT_EQ(Utf8(std::u16string{0xDBFF, 0xDFFF}), "\xF4\x8F\xBF\xBF");
+  EXPECT_EQ(Utf8(std::u16string{u'a', 0xD800, 0xDF02, u'ж'}), "a\xF0\x90\x8C\x82\xD0\xB6");
+}
+
+TEST(Utf8OfUtf16, ReplacesHalvesOfPairs) {
+  EXPECT_EQ(Utf8(std::u16string{0xD83D}), "\uFFFD");
+  EXPECT_EQ(Utf8(std::u16string{0xDE00, 0xD83D}), "\uFFFD\uFFFD");
+  EXPECT_EQ(Utf8(std::u16string{0xD83D, u'a', 0xDE00}), "\uFFFDa\uFFFD");
+}
+
+TEST(LatinCase, ChangesLatinLettersAlone) {
+  EXPECT_EQ(LowerLatin("AZaz@[`{09"), "azaz@[`{09");
+  EXPECT_EQ(LowerLatin("ЖÀ.TSAV"), "ЖÀ.tsav");
+  EXPECT_EQ(UpperLatin('a'), 'A');
+  EXPECT_EQ(UpperLatin('z'), 'Z');
+  for (const char other : std::string("AZ@[`{09")) {
+    EXPECT_EQ(UpperLatin(other), other);
+  }
+}
+
+TEST(IsLatinLetter, IsTrueForBothCasesAndNothingElse) {
+  for (const char letter : std::string("AMZamz")) {
+    EXPECT_TRUE(IsLatinLetter(letter)) << letter;
+  }
+  for (const char other : std::string("@[`{09 _ж")) {
+    EXPECT_FALSE(IsLatinLetter(other)) << other;
+  }
+}
+
 TEST(TrimRight, DropsBlanksAtTheRightEnd) {
   EXPECT_EQ(TrimRight("  ab c  "), "  ab c");
   EXPECT_EQ(TrimRight("ab"), "ab");
