@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t designationSize = decltype(ProfileRec::Name)::Length();
 constexpr std::size_t standardNameSize = decltype(ProfileRec::Type)::Length();
-static_assert(designationSize + standardNameSize + profileNumbers.size() * sizeof(double) ==
+static_assert(designationSize + standardNameSize + profileFields.size() * sizeof(double) ==
               profileRecordSize);
 static_assert(standardNameSize + 2 * sizeof(Long) == indexRecordSize);
 
@@ -72,8 +72,8 @@ std::array<char, profileRecordSize> EncodeProfileRecord(const ProfileRec& record
   EncodeText(record.Name, bytes.data());
   EncodeText(record.Type, bytes.data() + designationSize);
   std::size_t offset = designationSize + standardNameSize;
-  for (const auto number : profileNumbers) {
-    EncodeBits(std::bit_cast<std::uint64_t>(record.*number), bytes.data() + offset);
+  for (const ProfileField& field : profileFields) {
+    EncodeBits(std::bit_cast<std::uint64_t>(record.*field.Number), bytes.data() + offset);
     offset += sizeof(double);
   }
   return bytes;
@@ -84,8 +84,8 @@ ProfileRec DecodeProfileRecord(std::string_view bytes) {
   record.Name = DecodeText<designationSize>(bytes, 0);
   record.Type = DecodeText<standardNameSize>(bytes, designationSize);
   std::size_t offset = designationSize + standardNameSize;
-  for (const auto number : profileNumbers) {
-    record.*number = std::bit_cast<double>(DecodeBits<std::uint64_t>(bytes, offset));
+  for (const ProfileField& field : profileFields) {
+    record.*field.Number = std::bit_cast<double>(DecodeBits<std::uint64_t>(bytes, offset));
     offset += sizeof(double);
   }
   return record;

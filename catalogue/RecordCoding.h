@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "catalogue/ProfileFields.h"
 #include "catalogue/ProfileRecord.h"
 #include "platform/values/Integers.h"
 
@@ -15,12 +16,6 @@ constexpr std::size_t profileRecordSize = 177;
 
 /// Bytes of one record of the index file: Name (50), FirstNum and LastNum.
 constexpr std::size_t indexRecordSize = 58;
-
-/// The numbers of a catalogue record in the order of the data file.
-constexpr std::array<double ProfileRec::*, 14> profileNumbers{
-    &ProfileRec::B,  &ProfileRec::H,  &ProfileRec::t,  &ProfileRec::s,  &ProfileRec::r1,
-    &ProfileRec::r2, &ProfileRec::A,  &ProfileRec::Jy, &ProfileRec::Jz, &ProfileRec::P,
-    &ProfileRec::Wy, &ProfileRec::Wz, &ProfileRec::y0, &ProfileRec::z0};
 
 /// A standard in the index: which records of the data file, numbered from 1, belong to it.
 struct IndexRec {

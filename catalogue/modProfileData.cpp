@@ -6,6 +6,7 @@
 
 #include "catalogue/RecordCoding.h"
 #include "platform/errors/Guard.h"
+#include "platform/files/Paths.h"
 #include "platform/values/Arithmetic.h"
 
 namespace trelonit {

@@ -5,6 +5,7 @@
 #include "apps/cli/TextTable.h"
 #include "catalogue/CatalogueHealth.h"
 #include "catalogue/DataFile.h"
+#include "catalogue/ProfileFields.h"
 #include "platform/errors/RuntimeError.h"
 
 namespace trelonit::cli {
@@ -23,15 +24,17 @@ std::optional<ProfileTypeArray> LoadedCatalogue() {
 }
 
 Row HeadRow() {
-  return {"Name", "B", "H", "t", "s", "r1", "r2", "A", "Jy", "Jz", "P", "Wy", "Wz", "y0", "z0"};
+  Row row{"Name"};
+  for (const ProfileField& field : profileFields) {
+    row.emplace_back(field.Name);
+  }
+  return row;
 }
 
 Row RecordRow(const ProfileRec& record) {
   Row row{record.Name.Trimmed()};
-  for (const double value :
-       {record.B, record.H, record.t, record.s, record.r1, record.r2, record.A, record.Jy,
-        record.Jz, record.P, record.Wy, record.Wz, record.y0, record.z0}) {
-    row.push_back(NumberToText(value, {}));
+  for (const ProfileField& field : profileFields) {
+    row.push_back(NumberToText(record.*field.Number, {}));
   }
   return row;
 }

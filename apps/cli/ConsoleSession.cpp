@@ -1,8 +1,8 @@
 #include "apps/cli/ConsoleSession.h"
 
 #include <algorithm>
-#include <filesystem>
 
+#include "platform/files/Paths.h"
 #include "platform/system/ProgramFolder.h"
 
 namespace trelonit::cli {
@@ -12,14 +12,8 @@ namespace {
 /// What a file dialog would give: the full path. The rules for its names do not see the short ones
 /// of a command line.
 std::string FullPath(const std::string& name) {
-  std::error_code code;
-  const std::filesystem::path full =
-      std::filesystem::absolute(std::u8string(name.begin(), name.end()), code);
-  if (code) {
-    return name;
-  }
-  const std::u8string text = full.u8string();
-  return {text.begin(), text.end()};
+  const std::optional<std::filesystem::path> full = AbsolutePath(name);
+  return full ? Utf8OfPath(*full) : name;
 }
 
 }  // namespace

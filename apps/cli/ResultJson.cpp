@@ -1,6 +1,7 @@
 #include "apps/cli/ResultJson.h"
 
 #include "apps/cli/OpinionJson.h"
+#include "catalogue/ProfileFields.h"
 
 namespace trelonit::cli {
 
@@ -111,22 +112,11 @@ Json ToJson(const CheckResult& check) {
 }
 
 Json ToJson(const ProfileRec& record) {
-  return {{"Name", record.Name.Trimmed()},
-          {"Type", record.Type.Trimmed()},
-          {"B", record.B},
-          {"H", record.H},
-          {"t", record.t},
-          {"s", record.s},
-          {"r1", record.r1},
-          {"r2", record.r2},
-          {"A", record.A},
-          {"Jy", record.Jy},
-          {"Jz", record.Jz},
-          {"P", record.P},
-          {"Wy", record.Wy},
-          {"Wz", record.Wz},
-          {"y0", record.y0},
-          {"z0", record.z0}};
+  Json json{{"Name", record.Name.Trimmed()}, {"Type", record.Type.Trimmed()}};
+  for (const ProfileField& field : profileFields) {
+    json[std::string(field.Name)] = record.*field.Number;
+  }
+  return json;
 }
 
 Json ToJson(const SectionRec& section) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 
 #include "editor/dialogs/ModCmnDlg.h"
@@ -9,6 +10,7 @@
 #include "platform/errors/Guard.h"
 #include "platform/errors/RuntimeError.h"
 #include "platform/files/FileBytes.h"
+#include "platform/files/Paths.h"
 #include "platform/system/AutomationMembers.h"
 #include "platform/text/CodePage1251.h"
 #include "platform/text/Text.h"
@@ -151,14 +153,8 @@ std::string LongPathName(const std::string& name) {
   if (bare.empty()) {
     return {};
   }
-  std::error_code code;
-  const std::filesystem::path whole =
-      std::filesystem::absolute(std::u8string(bare.begin(), bare.end()), code);
-  if (code) {
-    return std::string(bare);
-  }
-  const std::u8string text = whole.lexically_normal().u8string();
-  return {text.begin(), text.end()};
+  const std::optional<std::filesystem::path> whole = AbsolutePath(bare);
+  return whole ? Utf8OfPath(whole->lexically_normal()) : std::string(bare);
 }
 
 DocumentFormat FormatOf(const std::string& name) {

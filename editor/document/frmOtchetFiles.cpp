@@ -5,6 +5,7 @@
 #include "platform/errors/Guard.h"
 #include "platform/errors/RuntimeError.h"
 #include "platform/files/FileBytes.h"
+#include "platform/files/OverwriteQuestion.h"
 
 namespace trelonit {
 
@@ -242,10 +243,7 @@ DocumentFormat frmOtchetMain::PresentFormat() const {
 }
 
 bool frmOtchetMain::MayReplace(const std::string& name) {
-  return name == fileName_ || !services_.Files.FileExists(name) ||
-         services_.Messages.Show({.Title = "Переписать файл ?",
-                                  .Text = "Такой файл уже существует! Заменить?",
-                                  .Style = MessageStyle::QuestionYesNo}) == MessageAnswer::Yes;
+  return name == fileName_ || !services_.Files.FileExists(name) || MayOverwrite(services_.Messages);
 }
 
 bool frmOtchetMain::StoreDocument(const std::string& name, DocumentFormat format) {

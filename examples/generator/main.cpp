@@ -6,6 +6,7 @@
 
 #include "apps/cli/ConsoleSession.h"
 #include "checks/ElementGroups.h"
+#include "platform/files/Paths.h"
 #include "workstation/design/modHelper.h"
 
 namespace {

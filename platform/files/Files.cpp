@@ -11,6 +11,7 @@
 #include "platform/errors/RuntimeError.h"
 #include "platform/files/DiskAccess.h"
 #include "platform/files/FileErrors.h"
+#include "platform/files/Paths.h"
 
 namespace trelonit {
 
@@ -22,7 +23,7 @@ fs::path NativePath(const std::string& path) {
   if (path.empty()) {
     throw RuntimeError(ErrorNumber::BadFileName);
   }
-  return {std::u8string(path.begin(), path.end())};
+  return PathOfUtf8(path);
 }
 
 /// Where the bytes finally go: the file that a symbolic link names, not the link.
@@ -114,15 +115,6 @@ void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) {
 
 std::unique_ptr<FileUpdate> DiskFiles::OpenForUpdate(const std::string& path) {
   return OpenDiskUpdate(NativePath(path));
-}
-
-std::string JoinPath(std::string_view folder, std::string_view name) {
-  std::string path(folder);
-  if (path.empty() || (path.back() != '/' && path.back() != '\\')) {
-    path.push_back('/');
-  }
-  path.append(name);
-  return path;
 }
 
 }  // namespace trelonit

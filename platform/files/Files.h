@@ -52,8 +52,4 @@ class DiskFiles : public FileService {
   std::unique_ptr<FileUpdate> OpenForUpdate(const std::string& path) override;
 };
 
-/// Folder and bare name with exactly one separator between them, whether or not the folder ends
-/// with one (a program started from a drive root has a folder that does).
-std::string JoinPath(std::string_view folder, std::string_view name);
-
 }  // namespace trelonit

@@ -1,17 +1,13 @@
 #include "platform/system/ProgramFolder.h"
 
 #include "platform/files/DiskAccess.h"
+#include "platform/files/Paths.h"
 
 namespace trelonit {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string ToUtf8(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
 
 /// By the licence that an installation puts beside the programs; see packaging/CMakeLists.txt.
 bool IsInstalled(const fs::path& programs) {
@@ -31,12 +27,12 @@ std::string FindProgramFolder() {
   const bool holdsCatalogue =
       fs::exists(own / "GOST profile.dat", code) && fs::exists(own / "Index.ind", code);
   if (!own.empty() && (holdsCatalogue || (!IsInstalled(own) && IsWritableFolder(own)))) {
-    return ToUtf8(own);
+    return Utf8OfPath(own);
   }
   const fs::path user = UserDataFolder();
   // Where this fails, unpacking the catalogue tells the user.
   fs::create_directories(user, code);
-  return ToUtf8(user);
+  return Utf8OfPath(user);
 }
 
 }  // namespace trelonit

@@ -312,12 +312,12 @@ TEST(CatalogueHealth, ReportsAStandardWithoutRecords) {
 RC_GTEST_PROP(CatalogueHealth, NeverFailsAndNeverYieldsANumberThatIsNone, ()) {
   const Long standard = *rc::gen::inRange<Long>(0, standardCount + 2);
   ProfileRec record;
-  for (double ProfileRec::*number : profileNumbers) {
-    record.*number = *rc::gen::oneOf(rc::gen::arbitrary<double>(),
-                                     rc::gen::cast<double>(rc::gen::inRange(-5, 300)),
-                                     rc::gen::element(0.0, 1e-300, 1e-80, 1e80, 1e300, -1e300,
-                                                      std::numeric_limits<double>::infinity(),
-                                                      std::numeric_limits<double>::quiet_NaN()));
+  for (const ProfileField& listed : profileFields) {
+    record.*listed.Number = *rc::gen::oneOf(
+        rc::gen::arbitrary<double>(), rc::gen::cast<double>(rc::gen::inRange(-5, 300)),
+        rc::gen::element(0.0, 1e-300, 1e-80, 1e80, 1e300, -1e300,
+                         std::numeric_limits<double>::infinity(),
+                         std::numeric_limits<double>::quiet_NaN()));
   }
   for (const Deviation& deviation : VerifyCatalogue(CatalogueOf(standard, record))) {
     for (const double number :

@@ -115,8 +115,8 @@ inline ProfileRec NumberedRecord(Long number) {
   record.Name = std::string_view("L" + std::to_string(number));
   record.Type = std::string_view("Уголок " + std::to_string(number));
   double value = number;
-  for (const auto field : profileNumbers) {
-    record.*field = value;
+  for (const ProfileField& listed : profileFields) {
+    record.*listed.Number = value;
     value += 0.125;
   }
   return record;

@@ -219,8 +219,8 @@ RC_GTEST_PROP(DataManagerEdit, TouchesNoByteOutsideTheCurrentRecord, ()) {
 
 RC_GTEST_PROP(DataManagerEdit, WritesNumbersOfFifteenDigitsBackAsTheyWere, ()) {
   ProfileRec record;
-  for (const auto field : profileNumbers) {
-    record.*field = *rc::gen::inRange(-1000000000, 1000000000) / 10000.0;
+  for (const ProfileField& listed : profileFields) {
+    record.*listed.Number = *rc::gen::inRange(-1000000000, 1000000000) / 10000.0;
   }
   MemoryDesk desk(test::BytesOf(record));
   desk.Load();

@@ -87,8 +87,8 @@ std::string BytesAfter(const Announced& edit) {
   ProfileRec record;
   record.Name = std::string_view(texts[0]);
   record.Type = std::string_view(texts[1]);
-  for (const auto field : profileNumbers) {
-    record.*field = edit.State + 0.5;
+  for (const ProfileField& listed : profileFields) {
+    record.*listed.Number = edit.State + 0.5;
   }
   return test::BytesOf(record);
 }

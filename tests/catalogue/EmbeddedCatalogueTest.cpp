@@ -184,8 +184,8 @@ TEST(EmbeddedCatalogue, OpensEachStandardWithItsFirstRow) {
   for (const StandardRow& row : standards) {
     const ProfileRec record = Record(row.FirstNum);
     EXPECT_EQ(record.Name, FixedText<15>(row.FirstDesignation)) << row.Name;
-    for (std::size_t place = 0; place < profileNumbers.size(); ++place) {
-      EXPECT_EQ(record.*profileNumbers[place], row.FirstNumbers[place]) << row.Name << place;
+    for (std::size_t place = 0; place < profileFields.size(); ++place) {
+      EXPECT_EQ(record.*profileFields[place].Number, row.FirstNumbers[place]) << row.Name << place;
     }
   }
 }

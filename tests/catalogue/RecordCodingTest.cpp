@@ -8,6 +8,7 @@
 
 #include "catalogue/RecordCoding.h"
 #include "platform/text/CodePage1251.h"
+#include "resources/generator/CatalogueBlocks.h"
 
 namespace trelonit {
 namespace {
@@ -48,11 +49,19 @@ TEST(RecordCoding, PlacesTheFieldsOfAnIndexRecordByteByByte) {
   EXPECT_EQ(bytes, "Ab" + std::string(48, ' ') + "\x04\x03\x02\x01" + "\xFE\xFF\xFF\xFF");
 }
 
+TEST(ProfileFields, StandInTheOrderOfTheTables) {
+  std::string head = "Name";
+  for (const ProfileField& field : profileFields) {
+    head += "," + std::string(field.Name);
+  }
+  EXPECT_EQ(head, packer::sizesHead);
+}
+
 TEST(RecordCoding, KeepsTheOrderOfTheNumbers) {
   ProfileRec record;
   double value = 0;
-  for (const auto number : profileNumbers) {
-    record.*number = ++value;
+  for (const ProfileField& listed : profileFields) {
+    record.*listed.Number = ++value;
   }
   const ProfileRec expected{.B = 1,
                             .H = 2,
@@ -70,7 +79,7 @@ TEST(RecordCoding, KeepsTheOrderOfTheNumbers) {
                             .z0 = 14};
   EXPECT_EQ(record, expected);
   const std::string bytes = Text(EncodeProfileRecord(record));
-  for (std::size_t place = 0; place < profileNumbers.size(); ++place) {
+  for (std::size_t place = 0; place < profileFields.size(); ++place) {
     std::uint64_t bits = 0;
     for (std::size_t byte = 8; byte-- > 0;) {
       bits = bits << 8 | static_cast<unsigned char>(bytes[65 + 8 * place + byte]);

@@ -2,6 +2,8 @@
 
 #include <system_error>
 
+#include "platform/files/Paths.h"
+
 namespace trelonit {
 
 namespace fs = std::filesystem;
@@ -22,8 +24,7 @@ fs::path InstalledHelpFile(const fs::path& executableFolder) {
 }
 
 void PlaceHelpFile(const fs::path& installed, const std::string& programFolder) {
-  const fs::path target =
-      fs::path(std::u8string(programFolder.begin(), programFolder.end())) / helpFileName;
+  const fs::path target = PathOfUtf8(programFolder) / helpFileName;
   std::error_code code;
   if (installed.empty() || fs::equivalent(installed, target, code)) {
     return;

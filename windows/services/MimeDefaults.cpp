@@ -11,6 +11,7 @@
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/files/FileBytes.h"
+#include "platform/files/Paths.h"
 #include "windows/binding/Binding.h"
 #include "windows/services/MimeAppsList.h"
 

@@ -1,5 +1,6 @@
 #include "workstation/design/FileNames.h"
 
+#include "platform/files/OverwriteQuestion.h"
 #include "platform/text/Text.h"
 #include "workstation/design/modUtility.h"
 
@@ -20,10 +21,7 @@ FileDialogRequest Request(const std::string& title, const std::string& extension
 }  // namespace
 
 bool MayReplace(const std::string& name, const Services& services) {
-  return !IsThisFileExists(name, services) ||
-         services.Messages.Show({.Title = "Переписать файл ?",
-                                 .Text = "Такой файл уже существует! Заменить?",
-                                 .Style = MessageStyle::QuestionYesNo}) == MessageAnswer::Yes;
+  return !IsThisFileExists(name, services) || MayOverwrite(services.Messages);
 }
 
 std::string ShowSaveDialog(const std::string& title, const std::string& extension,

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/errors/Guard.h"
+#include "platform/files/Paths.h"
 
 namespace trelonit {
 

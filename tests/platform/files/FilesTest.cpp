@@ -178,21 +178,6 @@ TEST_F(DiskFilesTest, RaisesPathFileAccessForAFolderInPlaceOfAFile) {
   EXPECT_EQ(Names(), std::vector<std::string>{"folder"});
 }
 
-TEST(JoinPath, PutsOneSeparatorBetween) {
-  EXPECT_EQ(JoinPath("/a/b", "c.dat"), "/a/b/c.dat");
-  EXPECT_EQ(JoinPath("/a/b/", "c.dat"), "/a/b/c.dat");
-  EXPECT_EQ(JoinPath("C:\\a\\", "c.dat"), "C:\\a\\c.dat");
-}
-
-TEST(JoinPath, TakesTheRootAsItIs) {
-  EXPECT_EQ(JoinPath("/", "c.dat"), "/c.dat");
-  EXPECT_EQ(JoinPath("C:\\", "c.dat"), "C:\\c.dat");
-}
-
-TEST(JoinPath, KeepsBlanksAndLettersOfEveryKind) {
-  EXPECT_EQ(JoinPath("/Мои фермы", "GOST profile.dat"), "/Мои фермы/GOST profile.dat");
-}
-
 }  // namespace
 
 }  // namespace trelonit::test

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace trelonit {
+
+// Names of files are UTF-8; the system may keep them otherwise.
+
+std::filesystem::path PathOfUtf8(std::string_view name);
+std::string Utf8OfPath(const std::filesystem::path& path);
+
+/// The name from the working folder on; nothing where that folder is not there.
+std::optional<std::filesystem::path> AbsolutePath(std::string_view name);
+
+/// Folder and bare name with exactly one separator between them, whether or not the folder ends
+/// with one (a program started from a drive root has a folder that does).
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+}  // namespace trelonit
