@@ -6,6 +6,7 @@
 #include "analysis/modTrelo.h"
 #include "platform/errors/Guard.h"
 #include "platform/values/Arithmetic.h"
+#include "platform/values/Units.h"
 
 namespace trelonit {
 
@@ -60,12 +61,12 @@ WorkSums SumWork(const TreloData& data, const TreloResult& real, const TreloResu
   return sums;
 }
 
-/// Deflection in metres by the sum of N u l / (E A). A tonne is 9810 N; with cm2 and MPa that
-/// leaves 98.1.
+/// Deflection in metres by the sum of N u l / (E A), with forces in tonnes, areas in cm2 and E
+/// in MPa.
 Real Deflection(const TreloData& data, const TreloResult& real, const CheckResult& check,
                 const WorkSums& sums, Real E) {
   const auto term = [E](double length, double area, Real sum) {
-    return 98.1 * Real(length) / (area * E) * sum;
+    return megapascals * Real(length) / (area * E) * sum;
   };
   // Intended: the lengths are the same whatever the scheme, although a lower chord bar of scheme 4
   // is 2d long and counts with d here.

@@ -7,6 +7,7 @@
 #include "catalogue/RecordCoding.h"
 #include "platform/errors/Guard.h"
 #include "platform/files/Paths.h"
+#include "platform/system/ProgramNames.h"
 #include "platform/values/Arithmetic.h"
 
 namespace trelonit {
@@ -143,7 +144,7 @@ Long FindSizeIndex(MessageService& messages, const ProfileType& standard, std::s
   if (found != 0) {
     return found;
   }
-  messages.Show({.Title = "Трелонит v 1.0.0 (alpha) отладка",
+  messages.Show({.Title = debugTitle,
                  .Text = "Не найден типоразмер " + std::string(text) +
                          " перехожу в начало списка типоразмеров",
                  .Style = MessageStyle::Exclamation});

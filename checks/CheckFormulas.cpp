@@ -3,25 +3,24 @@
 #include <cmath>
 
 #include "catalogue/SectionComposition.h"
+#include "platform/system/ProgramNames.h"
 #include "platform/values/Arithmetic.h"
+#include "platform/values/Units.h"
 
 namespace trelonit {
 
 namespace {
-
-/// Tonnes per cm2 to MPa.
-constexpr double tonnesPerCm2 = 98.1;
 
 constexpr Long layoutSingleAngle = 1;
 
 }  // namespace
 
 double CalcStrength(double N, double Area, double Ry, double Yc, double Gn) {
-  return Real(N) * Gn * tonnesPerCm2 / (Real(Area) * Ry * Yc);
+  return Real(N) * Gn * megapascals / (Real(Area) * Ry * Yc);
 }
 
 double CalcStability(double N, double Phi, double Area, double Ry, double Yc, double Gn) {
-  return Real(N) * Gn * tonnesPerCm2 / (Real(Phi) * Area * Ry * Yc);
+  return Real(N) * Gn * megapascals / (Real(Phi) * Area * Ry * Yc);
 }
 
 double CalcFlex(double Len, double Area, double J, double Mu) {

@@ -11,9 +11,6 @@ namespace trelonit {
 // moments of inertia in cm4, lengths in m, Ry and E in MPa. All raise the run-time errors of
 // checked arithmetic and never return a NaN or an infinity.
 
-/// Title of the program's own warnings.
-constexpr const char* warningTitle = "Трелонит v 1.0.0 (alpha)";
-
 /// Utilisation N * Gn * 98.1 / (A * Ry * Yc) (clause 5.1); 98.1 turns tonnes per cm2 into MPa.
 double CalcStrength(double N, double Area, double Ry, double Yc, double Gn);
 

@@ -7,6 +7,7 @@
 #include "checks/CheckFormulas.h"
 #include "checks/EffectiveLengths.h"
 #include "checks/ElementGroups.h"
+#include "platform/system/ProgramNames.h"
 #include "platform/values/Arithmetic.h"
 
 namespace trelonit {

@@ -10,13 +10,12 @@
 #include "opinion/Buckling.h"
 #include "platform/errors/RuntimeError.h"
 #include "platform/values/Arithmetic.h"
+#include "platform/values/Units.h"
 
 namespace trelonit {
 
 namespace {
 
-/// 1 t = 9.81 kN: tonnes per cm2 to MPa.
-constexpr double tonnesPerCm2 = 98.1;
 /// Below this share of the greatest force, a force is rounding noise.
 constexpr double noise = 1e-9;
 
@@ -54,7 +53,7 @@ class GroupJudge {
     BarJudgement judged{.Force = truss_.Forces.Forces[place]};
     judged.Compressed = judged.Force < 0 && -judged.Force >= leastCompression_;
     // SNiP II-23-81*, clause 5.1, formula (5).
-    judged.Strength = Magnitude(judged.Force) * importance_ * tonnesPerCm2 / capacity_;
+    judged.Strength = Magnitude(judged.Force) * importance_ * megapascals / capacity_;
     const BarLengths lengths =
         EffectiveLengthsOf(truss_.Model, bar, truss_.UpperHeld, truss_.LowerHeld);
     PutPlane(judged.X, bar, judged, lengths.X, radiusX_);

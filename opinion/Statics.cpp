@@ -6,6 +6,7 @@
 
 #include "opinion/BandSystem.h"
 #include "platform/values/Arithmetic.h"
+#include "platform/values/Units.h"
 
 namespace trelonit {
 
@@ -175,9 +176,8 @@ std::vector<Displacement> Displacements(const Truss& truss, const std::vector<do
   const Equilibrium equilibrium(truss);
   std::vector<double> shortenings(equilibrium.Size());
   for (std::size_t bar = 0; bar < truss.Bars.size(); ++bar) {
-    // A tonne is 9810 N; with cm2 and MPa that leaves 98.1.
     shortenings[equilibrium.UnknownOfBar(bar)] =
-        -(98.1 * Real(forces[bar]) * truss.Bars[bar].Length / (Real(areas[bar]) * E));
+        -(megapascals * Real(forces[bar]) * truss.Bars[bar].Length / (Real(areas[bar]) * E));
   }
   const std::vector<double> found = equilibrium.Movements().Solve(std::move(shortenings));
   std::vector<Displacement> moved(truss.Joints.size());

@@ -8,8 +8,8 @@
 #include "apps/trelonit/DesktopSession.h"
 #include "apps/trelonit/Machine.h"
 #include "platform/errors/RuntimeError.h"
+#include "platform/system/ProgramNames.h"
 #include "windows/services/Desktop.h"
-#include "workstation/main/ApplicationInfo.h"
 
 namespace {
 

@@ -39,7 +39,6 @@ require(${metadata} "<mediatype>${project}</mediatype>")
 require(${metadata} "<release version=\"${VERSION}\" ")
 require(packaging/debian/changelog "trelonit (${VERSION}) ")
 require(CHANGELOG.md "## ${VERSION} ")
-require(workstation/main/ApplicationInfo.h "applicationVersion = \"${VERSION}\"")
 
 # The licence's text stands in two files. Debian's calls it Expat and writes a point for an empty
 # line.

@@ -4,7 +4,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 
-#include "workstation/main/ApplicationInfo.h"
+#include "platform/system/ProgramNames.h"
 
 namespace trelonit {
 

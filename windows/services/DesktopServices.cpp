@@ -15,11 +15,11 @@
 #include "editor/rtf/RtfReader.h"
 #include "editor/rtf/RtfWriter.h"
 #include "platform/errors/RuntimeError.h"
+#include "platform/system/ProgramNames.h"
 #include "windows/binding/Binding.h"
 #include "windows/editor/RichDocumentHtml.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/help/HtmlHelp.h"
-#include "workstation/main/ApplicationInfo.h"
 
 namespace trelonit {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "workstation/main/ApplicationInfo.h"
+#include "platform/system/ProgramNames.h"
 
 namespace trelonit {
 

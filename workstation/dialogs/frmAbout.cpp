@@ -5,9 +5,9 @@
 #include <variant>
 
 #include "platform/errors/Guard.h"
+#include "platform/system/ProgramNames.h"
 #include "platform/text/Text.h"
 #include "workstation/design/modUtility.h"
-#include "workstation/main/ApplicationInfo.h"
 
 namespace trelonit {
 

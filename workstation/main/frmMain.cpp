@@ -2,10 +2,10 @@
 
 #include "catalogue/modProfileData.h"
 #include "platform/errors/Guard.h"
+#include "platform/system/ProgramNames.h"
 #include "platform/text/Text.h"
 #include "workstation/design/OwnWeight.h"
 #include "workstation/design/modUtility.h"
-#include "workstation/main/ApplicationInfo.h"
 #include "workstation/main/WaitCaption.h"
 
 namespace trelonit {

@@ -1,6 +1,7 @@
 #include "analysis/Scheme.h"
 #include "checks/CheckFormulas.h"
 #include "platform/errors/Guard.h"
+#include "platform/system/ProgramNames.h"
 #include "platform/values/Arithmetic.h"
 #include "workstation/main/frmMain.h"
 

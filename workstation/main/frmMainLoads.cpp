@@ -1,5 +1,6 @@
 #include "checks/CheckFormulas.h"
 #include "platform/errors/Guard.h"
+#include "platform/system/ProgramNames.h"
 #include "platform/values/Arithmetic.h"
 #include "workstation/design/Loads.h"
 #include "workstation/design/OwnWeight.h"

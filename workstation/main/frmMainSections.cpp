@@ -1,6 +1,7 @@
 #include "catalogue/modProfileData.h"
 #include "checks/CheckFormulas.h"
 #include "platform/errors/Guard.h"
+#include "platform/system/ProgramNames.h"
 #include "workstation/main/frmMain.h"
 
 namespace trelonit {
