@@ -66,13 +66,14 @@ struct WalkedTruss {
   Real r1, r2, r3;
 };
 
-/// Sets bar forces that are rounding noise, below 1e-11 of the greatest one, to 0. A bar that
-/// carries nothing must not count as compressed because its force came out as -1e-15: the checks
-/// ask for the sign.
+/// Sets bar forces that are rounding noise, below 1e-11 of the greatest one, to 0: the program's
+/// own rule. A bar that carries nothing must not count as compressed because its force came out as
+/// -1e-15: the checks ask for the sign.
 void DropRoundingNoise(WalkedTruss& truss);
 
 /// The record of the walk; the bar table is sized and empty, lengths and angles are still 0.
-/// Balanced when each residual, shown with 4 decimals, reads back as exactly 0.
+/// Balanced, by the program's own rule, when each residual, shown with 4 decimals, reads back as
+/// exactly 0.
 TreloResult ResultOf(const WalkedTruss& truss);
 
 /// Puts a bar's force at its joint pair in both orders.

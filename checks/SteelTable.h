@@ -7,8 +7,9 @@
 
 namespace trelonit {
 
-/// Design resistances of a steel in a range of thicknesses, MPa as text; "-" where the norm gives
-/// no value.
+/// Design resistances of a steel in a range of thicknesses (SNiP II-23-81*, table 51*), MPa as
+/// text;
+/// "-" where the norm gives no value.
 struct ThickRange {
   FixedText<15> Caption;
   FixedText<3> RySheet;

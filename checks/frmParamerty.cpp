@@ -36,6 +36,8 @@ void frmParamerty::cmdApply_Click() {
   }
 }
 
+// The bounds of all three are the program's own rules.
+
 void frmParamerty::TakeLimitFlex() {
   const Integer flex = RoundToInteger(ParseNumber(txtLimFlex.Text(), services_.Locale));
   if (flex <= 0) {

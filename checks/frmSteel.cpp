@@ -14,8 +14,8 @@ constexpr Integer steelBlock = 101;
 constexpr Long usualImportance = 2;
 constexpr std::size_t coefficientColumn = 2;
 
-/// Working-condition coefficients by kind of structure (SNiP II-23-81*, table 6). One of them holds
-/// for the whole truss, whatever kind of element its row describes.
+/// Working-condition coefficients by kind of structure (SNiP II-23-81*, table 6*). One of them
+/// holds for the whole truss, whatever kind of element its row describes.
 const std::vector<Grid::Row>& ConditionRows() {
   static const std::vector<Grid::Row> rows{
       {"№ п/п", "Тип конструкций, сечений", "Yc"},
@@ -48,6 +48,7 @@ const std::vector<Grid::Row>& ConditionRows() {
   return rows;
 }
 
+/// Reliability coefficients by importance (GOST 27751-88), as the program's own four options.
 struct Importance {
   const char* Caption;
   double Gn;
@@ -123,6 +124,7 @@ void frmSteel::Form_Load() {
     cmbSteelName.Select(0);
   }
   optOtvetstven.Select(usualImportance);
+  // The program's own rule: without a click on it the option that is shown does not count.
   Gn = 1;
 }
 

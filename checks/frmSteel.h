@@ -39,6 +39,7 @@ class frmSteel {
   void cmdApply_Click();
 
   std::vector<SteelRec> Steels;
+  // Until the user chooses; the program's own rule.
   double Gn = 1;
   double Yc = 0.9;
 

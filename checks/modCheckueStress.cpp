@@ -71,7 +71,8 @@ class Check {
       PutExtremes(check_.Stoyka, res_.StoykaForce);
     }
     PutExtremes(check_.Raskos, StripEnds(res_.RaskosForce));
-    // Intended: the support diagonals are judged by the greatest force of all diagonals.
+    // Intended, and the program's own rule: the support diagonals are judged by the greatest force
+    // of all diagonals.
     PutExtremes(check_.OpornRaskos, res_.RaskosForce);
   }
 
@@ -86,7 +87,7 @@ class Check {
   }
 
   void PutSlenderness() {
-    // The lengths have their length factors in them already.
+    // The program's own rule: the lengths are effective ones already, whatever table 11 has.
     constexpr double Mu = 1;
     for (const ElementGroupRow& group : elementGroups) {
       GroupCheck& block = check_.*group.Block;
@@ -101,6 +102,7 @@ class Check {
     }
   }
 
+  /// Without a phi there is no alpha of table 19*; 0 is the program's own rule then.
   double Alpha(const GroupCheck& block, double phi) const {
     if (!(phi > 0)) {
       return 0;
@@ -147,6 +149,7 @@ class Check {
           Real(block.FlexX) / (compressed ? block.LimitX.Compress : block.LimitX.Tension);
       block.KFlexY =
           Real(block.FlexY) / (compressed ? block.LimitY.Compress : block.LimitY.Tension);
+      // The user's limit is the program's own check.
       block.KUserX = Real(block.FlexX) / numbers_.LimitUser;
       block.KUserY = Real(block.FlexY) / numbers_.LimitUser;
     }
