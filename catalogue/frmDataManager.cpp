@@ -265,7 +265,7 @@ void frmDataManager::CheckueDB_Click() {
       repaired[number].Name = RepairedName(repaired[number].Name, number);
     }
     // Nothing is rewritten before the copy is there.
-    services_.Files.ReplaceFile(path + ".bak", ReadBytes(services_.Files, path));
+    CopyBytes(services_.Files, path, path + ".bak");
   });
   if (!ready) {
     return;

@@ -48,6 +48,7 @@ double CalcPhi(double FlexBar, double Ry, double E) {
 }
 
 double CalcAlpha(double N, double Ry, double Area, double Phi, double Yc) {
+  // Not megapascals: the two products may differ in their last digit.
   const Real alpha = Real(N) * 10 * 9.81 / (Real(Phi) * Area * Ry * Yc);
   return alpha > 1.0 ? Real(1) : alpha;
 }

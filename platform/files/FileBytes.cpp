@@ -20,4 +20,12 @@ std::string ReadBytes(FileService& files, const std::string& path) {
   return bytes;
 }
 
+std::string ReadBytesIfThere(FileService& files, const std::string& path) {
+  return files.FileExists(path) ? ReadBytes(files, path) : std::string();
+}
+
+void CopyBytes(FileService& files, const std::string& from, const std::string& to) {
+  files.ReplaceFile(to, ReadBytes(files, from));
+}
+
 }  // namespace trelonit

@@ -2,6 +2,8 @@
 
 #include <system_error>
 
+#include "platform/errors/Guard.h"
+#include "platform/files/FileBytes.h"
 #include "platform/files/Paths.h"
 
 namespace trelonit {
@@ -38,15 +40,10 @@ void PlaceHelpFile(const fs::path& installed, const std::string& programFolder) 
       fs::last_write_time(target, missing) >= fs::last_write_time(installed, code)) {
     return;
   }
-  // Under another name first: a copy that breaks off leaves no half file.
-  fs::path copy = target;
-  copy += ".new";
-  if (fs::copy_file(installed, copy, fs::copy_options::overwrite_existing, code)) {
-    fs::rename(copy, target, code);
-  }
-  if (code) {
-    fs::remove(copy, missing);
-  }
+  PassOver([&] {
+    DiskFiles files;
+    CopyBytes(files, Utf8OfPath(installed), Utf8OfPath(target));
+  });
 }
 
 }  // namespace trelonit

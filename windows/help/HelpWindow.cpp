@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "platform/system/ProgramNames.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/binding/Units.h"
 #include "windows/help/HelpPageView.h"
@@ -31,11 +32,15 @@ namespace {
 constexpr int sideWidth = 300;
 constexpr int pageRole = Qt::UserRole;
 
+QString OwnTitle() {
+  return QString::fromUtf8(applicationTitle) + QStringLiteral(": справка");
+}
+
 }  // namespace
 
 HelpWindow::HelpWindow() {
   setObjectName(QStringLiteral("HelpWindow"));
-  setWindowTitle(QStringLiteral("Трелонит: справка"));
+  setWindowTitle(OwnTitle());
   setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
   setContextMenuPolicy(Qt::NoContextMenu);
   AddPage();
@@ -285,7 +290,7 @@ void HelpWindow::ShowPlace(const QUrl& url) {
   page_->Mark({});
   const QString page = HelpPages::PageAt(url);
   const QString file = page.section(QLatin1Char('#'), 0, 0);
-  setWindowTitle(QStringLiteral("%1 - Трелонит: справка").arg(page_->documentTitle()));
+  setWindowTitle(page_->documentTitle() + QStringLiteral(" - ") + OwnTitle());
   QTreeWidgetItem* entry = nullptr;
   for (QTreeWidgetItemIterator item(contents_); *item != nullptr; ++item) {
     const QString listed = (*item)->data(0, pageRole).toString();

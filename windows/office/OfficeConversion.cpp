@@ -124,13 +124,6 @@ class WorkFolder {
   QTemporaryDir folder_;
 };
 
-/// The bytes; empty where there is no such file.
-std::string ReadResult(const QString& path) {
-  DiskFiles files;
-  const std::string name = path.toStdString();
-  return files.FileExists(name) ? ReadBytes(files, name) : std::string();
-}
-
 /// One run of the converter; empty where it gives no result.
 std::string Convert(const ConversionSettings& settings, const WorkFolder& folder,
                     const QString& reader, OfficeFormat from, OfficeFormat to,
@@ -146,7 +139,8 @@ std::string Convert(const ConversionSettings& settings, const WorkFolder& folder
        QStringLiteral("--outdir"), target, folder.Path(DocumentName(from))},
       folder.Path(QString()));
   converter.Finish(settings.TimeLimit, watch);
-  return ReadResult(target + QLatin1Char('/') + DocumentName(to));
+  DiskFiles files;
+  return ReadBytesIfThere(files, (target + QLatin1Char('/') + DocumentName(to)).toStdString());
 }
 
 }  // namespace

@@ -96,11 +96,6 @@ std::optional<std::string> Without(const std::string& line, const std::string& m
   return programs.empty() ? std::nullopt : std::optional(LineOf(mimeType, programs));
 }
 
-/// Empty where there is no such file.
-std::string ReadText(FileService& files, const std::string& path) {
-  return files.FileExists(path) ? ReadBytes(files, path) : std::string();
-}
-
 /// Access that fails in any other way than by right or room is one error to the caller.
 template <class Access>
 auto Stored(Access&& access) {
@@ -123,7 +118,7 @@ auto Stored(Access&& access) {
 
 std::string MimeDefaults::Read(const std::string& path) const {
   try {
-    return ReadText(files_, path);
+    return ReadBytesIfThere(files_, path);
   } catch (const RuntimeError&) {
     return {};
   }
@@ -189,7 +184,7 @@ std::string MimeDefaults::ListInForce(const std::string& mimeType) const {
 }
 
 std::string MimeDefaults::ReadUserList(const std::string& name) const {
-  return Stored([&] { return ReadText(files_, JoinPath(UserFolder(), name)); });
+  return Stored([&] { return ReadBytesIfThere(files_, JoinPath(UserFolder(), name)); });
 }
 
 void MimeDefaults::WriteUserList(const std::string& name, const std::string& text) {

@@ -33,6 +33,29 @@ TEST(BytesOfAFile, ThatIsNotThereRaise53) {
   EXPECT_EQ(NumberOf(files, "/missing"), 53);
 }
 
+TEST(BytesOfAFile, AreNoneWhereItNeedNotBeThere) {
+  MemoryFiles files;
+  files.Content["/a"] = "bytes";
+  EXPECT_EQ(ReadBytesIfThere(files, "/a"), "bytes");
+  EXPECT_EQ(ReadBytesIfThere(files, "/missing"), "");
+}
+
+TEST(CopyOfAFile, TakesTheOthersPlace) {
+  MemoryFiles files;
+  files.Content["/a"] = "new";
+  files.Content["/b"] = "old one";
+  CopyBytes(files, "/a", "/b");
+  EXPECT_EQ(files.Content["/a"], "new");
+  EXPECT_EQ(files.Content["/b"], "new");
+}
+
+TEST(CopyOfAFile, ThatIsNotThereLeavesTheOtherAlone) {
+  MemoryFiles files;
+  files.Content["/b"] = "old one";
+  EXPECT_THROW(CopyBytes(files, "/a", "/b"), RuntimeError);
+  EXPECT_EQ(files.Content["/b"], "old one");
+}
+
 #ifdef __linux__
 TEST(BytesOfAFile, Raise57WhereTheReadingBreaksOff) {
   FailingDisk disk;
