@@ -1,7 +1,8 @@
 cmake_minimum_required(VERSION 3.22)
 
-# Fails when a folder includes a header of a folder that it may not use, or when a folder outside
-# windows/ and apps/ includes a Qt header.
+# Fails when a folder includes a header of a folder that it may not use, when a folder outside
+# windows/ and apps/ includes a Qt header, or when a source asks which system it is for: that
+# stands in platform/posix and platform/win32, or in a source that CMake chooses.
 
 set(allowed_platform "platform")
 set(allowed_resources "resources" "platform")
@@ -17,7 +18,8 @@ set(opinion_records "checks/CheckNumbers.h|checks/ElementGroups.h|analysis/Check
 analysis/ElementGroup.h|analysis/Scheme.h|analysis/modDatatypes.h")
 set(wrong "")
 set(files_seen 0)
-foreach(folder platform resources analysis catalogue checks opinion workstation editor drawing)
+set(folders platform resources analysis catalogue checks opinion workstation editor drawing)
+foreach(folder ${folders})
   file(GLOB_RECURSE sources "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(source ${sources})
     math(EXPR files_seen "${files_seen} + 1")
@@ -36,6 +38,23 @@ foreach(folder platform resources analysis catalogue checks opinion workstation 
           list(APPEND wrong "${source}: ${include}")
         endif()
       endif()
+    endforeach()
+  endforeach()
+endforeach()
+
+foreach(folder ${folders} windows apps)
+  file(GLOB_RECURSE sources "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
+  foreach(source ${sources})
+    if(source MATCHES "/platform/(posix|win32)/")
+      continue()
+    endif()
+    set(systems "^#(if|ifdef|ifndef|elif) .*(_WIN32|Q_OS_|__linux__|__unix__|__APPLE__)")
+    if(NOT folder STREQUAL "windows")
+      string(APPEND systems "|^#include <(unistd\\.h|fcntl\\.h|sys/|pwd\\.h|dlfcn\\.h|spawn\\.h|windows\\.h)")
+    endif()
+    file(STRINGS "${source}" asked REGEX "${systems}")
+    foreach(line ${asked})
+      list(APPEND wrong "${source}: ${line}")
     endforeach()
   endforeach()
 endforeach()
