@@ -1,8 +1,12 @@
+#include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <rapidcheck.h>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -22,6 +26,15 @@
 namespace trelonit::test {
 
 namespace fs = std::filesystem;
+
+/// Any finite double, down to the smallest; of every exponent with the same chance.
+double AnyDouble() {
+  const auto bits = *rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<std::uint64_t>());
+  double value = 0;
+  std::memcpy(&value, &bits, sizeof value);
+  RC_PRE(std::isfinite(value));
+  return value;
+}
 
 /// Number of the run-time error that the body raises, 0 when it raises none.
 int ErrorOf(const std::function<void()>& body) {

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
 #include <rapidcheck.h>
@@ -18,6 +17,7 @@
 namespace trelonit::test {
 
 int ErrorOf(const std::function<void()>& body);
+double AnyDouble();
 
 namespace {
 
@@ -48,15 +48,6 @@ std::int64_t AnyMantissa(int digits) {
   const int length = *rc::gen::inRange(1, digits + 1);
   const std::int64_t limit = PowerOfTen(length);
   return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange<std::int64_t>(-limit + 1, limit));
-}
-
-/// Any finite double, down to the smallest; of every exponent with the same chance.
-double AnyDouble() {
-  const auto bits = *rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<std::uint64_t>());
-  double value = 0;
-  std::memcpy(&value, &bits, sizeof value);
-  RC_PRE(std::isfinite(value));
-  return value;
 }
 
 std::string Without(std::string text, const std::string& part) {

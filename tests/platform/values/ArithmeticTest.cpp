@@ -1,6 +1,4 @@
 #include <cmath>
-#include <cstdint>
-#include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
 #include <limits>
@@ -15,6 +13,7 @@
 namespace trelonit::test {
 
 int ErrorOf(const std::function<void()>& body);
+double AnyDouble();
 
 namespace {
 
@@ -149,15 +148,6 @@ TEST(Functions, AreThoseOfAnglesInRadians) {
 TEST(Functions, GiveTheMagnitude) {
   EXPECT_EQ(static_cast<double>(Magnitude(-2.5)), 2.5);
   EXPECT_EQ(static_cast<double>(Magnitude(2.5)), 2.5);
-}
-
-/// A finite double of any exponent.
-double AnyDouble() {
-  const auto bits = *rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<std::uint64_t>());
-  double value = 0;
-  std::memcpy(&value, &bits, sizeof value);
-  RC_PRE(std::isfinite(value));
-  return value;
 }
 
 void CheckAgainst(double expected, const std::function<Real()>& operation) {
