@@ -306,8 +306,9 @@ ElasticSolution SolveElastic(const TrussModel& model, const std::vector<double>&
                                 (moved[2 * bar.B + 1] - moved[2 * bar.A + 1]) * sine;
     const long double force = axialStiffness[k] / length * stretch;
     solution.BarForces.push_back(static_cast<double>(force));
+    const long double upAtA = force * sine;
     const auto upAt = [&](std::size_t joint) {
-      return bar.A == joint ? force * sine : bar.B == joint ? -force * sine : 0;
+      return bar.A == joint ? upAtA : bar.B == joint ? -upAtA : 0;
     };
     pullAtLeft += upAt(model.LeftSupport);
     pullAtRight += upAt(model.RightSupport);

@@ -184,12 +184,13 @@ TEST(Refusal, OfResultsWithArraysOfAnotherSize) {
         &TreloResult::StoykaForce, &TreloResult::UpKnotLoad, &TreloResult::DwnKnotLoad}) {
     const Long first = (OpinionCase(SnowyTruss(1)).Result.*member).LowerBound();
     const Long last = (OpinionCase(SnowyTruss(1)).Result.*member).UpperBound();
-    for (const auto& [lower, upper] :
+    for (const auto& bounds :
          {std::pair{first, last - 1}, {first, last + 1}, {first - 1, last}, {first + 1, last}}) {
-      SCOPED_TRACE(testing::Message() << lower << " to " << upper);
+      SCOPED_TRACE(testing::Message() << bounds.first << " to " << bounds.second);
       EXPECT_EQ(RefusalAfter(1,
                              [&](OpinionCase& design) {
-                               design.Result.*member = BoundedArray<double>(lower, upper);
+                               design.Result.*member =
+                                   BoundedArray<double>(bounds.first, bounds.second);
                              }),
                 otherTruss);
     }

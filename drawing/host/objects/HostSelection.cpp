@@ -18,9 +18,10 @@ class SelectionSetObject : public HostObject<SelectionSetObject> {
     using Self = SelectionSetObject;
     static constexpr std::array members{
         HostMember<Self>{.Name = "Name",
-                         .Get = [](Self& self) -> AutomationValue { return self.Set()->Name; }},
-        HostMember<Self>{.Name = "Count",
-                         .Get = [](Self& self) { return CountIn(self.Set()->Entities.size()); }},
+                         .Get = [](Self& self) -> AutomationValue { return self.ThisSet()->Name; }},
+        HostMember<Self>{
+            .Name = "Count",
+            .Get = [](Self& self) { return CountIn(self.ThisSet()->Entities.size()); }},
         HostMember<Self>{.Name = "Delete",
                          .Call = [](Self& self, const HostArguments&) -> AutomationValue {
                            self.Delete();
@@ -44,14 +45,14 @@ class SelectionSetObject : public HostObject<SelectionSetObject> {
   std::vector<AutomationHandle> Enumerate() override {
     const std::shared_ptr<HostDocument> document = Alive(document_);
     std::vector<AutomationHandle> entities;
-    for (const std::size_t place : Set()->Entities) {
+    for (const std::size_t place : ThisSet()->Entities) {
       entities.push_back(MakeEntity(*document, document_, place));
     }
     return entities;
   }
 
  private:
-  std::shared_ptr<HostSelectionSet> Set() const {
+  std::shared_ptr<HostSelectionSet> ThisSet() const {
     Alive(document_);
     std::shared_ptr<HostSelectionSet> set = set_.lock();
     if (set == nullptr) {
@@ -60,7 +61,7 @@ class SelectionSetObject : public HostObject<SelectionSetObject> {
     return set;
   }
   void Delete() {
-    const std::shared_ptr<HostSelectionSet> set = Set();
+    const std::shared_ptr<HostSelectionSet> set = ThisSet();
     auto& sets = Alive(document_)->SelectionSets;
     sets.erase(std::remove(sets.begin(), sets.end(), set), sets.end());
   }
@@ -71,7 +72,7 @@ class SelectionSetObject : public HostObject<SelectionSetObject> {
     }
   }
   void SelectOnScreen() {
-    const std::shared_ptr<HostSelectionSet> set = Set();
+    const std::shared_ptr<HostSelectionSet> set = ThisSet();
     const std::shared_ptr<HostDocument> document = Alive(document_);
     const auto& hook = Alive(document->Host)->Hooks.SelectOnScreen;
     if (!hook) {
@@ -85,7 +86,7 @@ class SelectionSetObject : public HostObject<SelectionSetObject> {
   }
   /// All of them or, with a wrong one among them, none.
   void AddItems(const AutomationValue& items) {
-    const std::shared_ptr<HostSelectionSet> set = Set();
+    const std::shared_ptr<HostSelectionSet> set = ThisSet();
     const std::shared_ptr<HostDocument> document = Alive(document_);
     const auto* list = std::get_if<AutomationList>(&items);
     if (list == nullptr) {

@@ -156,7 +156,7 @@ TEST_F(ProjectOnDisk, LeavesNothingOfALongerFileBeforeIt) {
 TEST_F(ProjectOnDisk, KeepsTheOldFileWholeOnAFullDisk) {
   Put("roof.tsav", "what was there before");
   // Nothing at all, and a part of the project, which has more than 300 bytes.
-  for (const rlim_t bytes : {0, 1, 100, 300}) {
+  for (const rlim_t bytes : {0U, 1U, 100U, 300U}) {
     bool saved = true;
     {
       const FullDisk full(bytes);

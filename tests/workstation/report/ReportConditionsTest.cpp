@@ -20,11 +20,10 @@ TEST(ReportOfBracing, NamesEachWayForEachChord) {
                          "Верхний пояс через один узел ", "Верхний пояс во всех узлах "};
   const ReportText lower{"Нижний пояс только по краям ", "Нижний пояс по средине и по краям ",
                          "Нижний пояс через один узел ", "Нижний пояс во всех узлах "};
-  for (Integer up = 1; up <= 4; ++up) {
-    for (Integer down = 1; down <= 4; ++down) {
-      EXPECT_EQ(
-          BracingLines(up, down),
-          (ReportText{"Раскрепление поясов фермы : ", upper.at(up - 1U), lower.at(down - 1U), ""}));
+  for (std::size_t up = 0; up < upper.size(); ++up) {
+    for (std::size_t down = 0; down < lower.size(); ++down) {
+      EXPECT_EQ(BracingLines(static_cast<Integer>(up + 1), static_cast<Integer>(down + 1)),
+                (ReportText{"Раскрепление поясов фермы : ", upper[up], lower[down], ""}));
     }
   }
 }
