@@ -128,7 +128,8 @@ class TrussBuilder {
   }
 
   void PutJoints() {
-    truss_.Joints.resize(static_cast<std::size_t>(n_ + 1 + lastLower_ + 1));
+    const Long joints = n_ + 1 + lastLower_ + 1;
+    truss_.Joints.resize(static_cast<std::size_t>(joints));
     for (Long column = 0; column <= n_; ++column) {
       PutJoint(Chord::Upper, column, 2 * column, scheme_.UpperNumber(column, n_));
     }

@@ -37,7 +37,7 @@ LookPiece LookOf(const ReportPiece& piece) {
   return look;
 }
 
-Program::Program(Services services, Windows windows)
+Program::Program(const Services& services, Windows windows)
     : services_(services),
       windows_(std::move(windows)),
       about_(services),

@@ -49,7 +49,7 @@ class Program {
     std::function<void()> EndProgram;
   };
 
-  Program(Services services, Windows windows);
+  Program(const Services& services, Windows windows);
 
   frmMain& Main() { return main_; }
   /// The results of the last Calculate that came to its end; nothing before one did.

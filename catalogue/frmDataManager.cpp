@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "catalogue/DataFile.h"
 #include "catalogue/RecordCoding.h"
@@ -76,7 +77,7 @@ FixedText<15> RepairedName(const FixedText<15>& name, Long number) {
 }  // namespace
 
 frmDataManager::frmDataManager(Services services, std::function<void()> endProgram)
-    : services_(services), endProgram_(std::move(endProgram)) {
+    : services_(std::move(services)), endProgram_(std::move(endProgram)) {
   Form.SetCaption("Менеджер базы данных проката ");
   lblText[nameBox].SetCaption("Name");
   lblText[typeBox].SetCaption("Type");

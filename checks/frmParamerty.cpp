@@ -1,5 +1,7 @@
 #include "checks/frmParamerty.h"
 
+#include <utility>
+
 #include "platform/errors/Guard.h"
 #include "platform/text/NumberText.h"
 #include "platform/values/Arithmetic.h"
@@ -16,7 +18,7 @@ constexpr const char* doubted = "Параметр принят, но вызыв�
 }  // namespace
 
 frmParamerty::frmParamerty(Services services, Targets targets)
-    : services_(services), targets_(targets) {
+    : services_(std::move(services)), targets_(targets) {
   Form.SetCaption("Дополнительные параметры стали");
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/text/NumberText.h"
@@ -76,7 +77,8 @@ void Activate(TextBox& chosen, TextBox& other) {
 
 }  // namespace
 
-frmSteel::frmSteel(Services services, Targets targets) : services_(services), targets_(targets) {
+frmSteel::frmSteel(Services services, Targets targets)
+    : services_(std::move(services)), targets_(targets) {
   Form.SetCaption("Стали");
   framYc.SetCaption("Коэффициент условия работы элементов :");
   framOtvetstven.SetCaption("Класс ответствености по ГОСТ 27751-88");

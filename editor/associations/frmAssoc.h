@@ -13,6 +13,7 @@ class frmAssoc {
  public:
   /// Both outlive the form.
   frmAssoc(FileAssociations& associations, MessageService& messages);
+  ~frmAssoc() = default;
   frmAssoc(const frmAssoc&) = delete;
   frmAssoc& operator=(const frmAssoc&) = delete;
 

@@ -12,7 +12,7 @@ namespace trelonit {
 enum class DocumentFormat { PlainText, RichText, Word };
 
 /// A longer file is no document for this editor: the box would need many times its size.
-constexpr std::uint64_t longestDocument = 64 * 1024 * 1024;  // bytes
+constexpr std::uint64_t longestDocument = std::uint64_t{64} * 1024 * 1024;  // bytes
 
 /// The extension in lower case without its point; empty where the name has none.
 std::string ExtensionOf(const std::string& name);

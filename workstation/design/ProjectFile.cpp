@@ -88,7 +88,7 @@ class LineReader {
   }
 
  private:
-  static constexpr std::size_t maxLineLength = 64 * 1024;
+  static constexpr std::size_t maxLineLength = std::size_t{64} * 1024;
   std::streambuf& buffer_;
 };
 
