@@ -1,6 +1,7 @@
 #include "editor/dialogs/DateForms.h"
 
 #include <array>
+#include <cstddef>
 
 #include "platform/values/BoundedArray.h"
 
@@ -79,6 +80,7 @@ std::string DateForm(Long index, const ClockReading& reading) {
 
 std::vector<std::string> DateFormList(const ClockReading& reading) {
   std::vector<std::string> list;
+  list.reserve(static_cast<std::size_t>(dateFormCount));
   for (Long index = 0; index < dateFormCount; ++index) {
     list.push_back(DateForm(index, reading));
   }
