@@ -15,7 +15,7 @@ NumberLocale SystemNumberLocale() {
     const std::string grouping = form.grouping();
     if (!grouping.empty() && grouping[0] > 0 && form.thousands_sep() != L'\0') {
       result.GroupSeparator = Utf8(std::u32string(1, static_cast<char32_t>(form.thousands_sep())));
-      result.GroupSize = grouping[0];
+      result.GroupSize = static_cast<unsigned char>(grouping[0]);
     }
   } catch (const std::runtime_error&) {
     // The environment names a locale that is not installed: the neutral form serves.
