@@ -25,7 +25,7 @@ std::string PackField(const CsvTable& table, const CsvLine& line, std::size_t co
     table.Refuse(line, "\"" + text + "\" is longer than " + std::to_string(fieldLengths[column]) +
                            " characters");
   }
-  const std::string packed = EncodeCodePage1251(text);
+  std::string packed = EncodeCodePage1251(text);
   if (DecodeCodePage1251(packed) != text ||
       packed.find_first_of(blockSeparators) != std::string::npos) {
     table.Refuse(line, "\"" + text + "\" has a character that the block cannot hold");

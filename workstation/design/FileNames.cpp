@@ -40,7 +40,7 @@ std::string ShowSaveDialog(const std::string& title, const std::string& extensio
 
 std::string ShowOpenDialog(const std::string& title, const std::string& extension,
                            const std::string& description, const Services& services) {
-  const std::string name = services.Dialogs.AskOpenName(Request(title, extension, description));
+  std::string name = services.Dialogs.AskOpenName(Request(title, extension, description));
   if (Characters(name).size() < shortestName || !IsThisFileExists(name, services)) {
     return {};
   }

@@ -76,7 +76,7 @@ class LineReader {
     int count = 0;
     bool open = false;
     std::array<char, 65536> block{};
-    for (std::streamsize got; (got = buffer_.sgetn(block.data(), block.size())) > 0;) {
+    for (std::streamsize got = 0; (got = buffer_.sgetn(block.data(), block.size())) > 0;) {
       for (std::streamsize place = 0; place < got; ++place) {
         open = block[static_cast<std::size_t>(place)] != '\n';
         if (!open && count < projectLineCount) {
