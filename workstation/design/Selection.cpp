@@ -50,7 +50,7 @@ class Search {
     }
     Outcome<CheckResult> check = CheckueStress(calculation_.TreloData, calculation_.TreloResult,
                                                calculation_.Numbers, proposal_.Sections);
-    proposal_.Check = std::move(check.Value);
+    proposal_.Check = check.Value;
     TellOnce(check.Told);
   }
 
