@@ -126,8 +126,8 @@ void frmMain::WithdrawOwnWeightFromLoads() {
 SecondOpinion frmMain::OpinionOfLast() const {
   Circumstances circumstances{.DoubledOwnWeight = DoubledOwnWeight()};
   if (takenSections_ && *takenSections_ == Model.ElementSection) {
-    circumstances.AfterSelection =
-        GroupsThatFail(Model, Model.Last.Numbers, chkOwnWeight.Checked());
+    circumstances.AfterSelection = GroupsThatFail(static_cast<const Design&>(Model),
+                                                  Model.Last.Numbers, chkOwnWeight.Checked());
   }
   return FormSecondOpinion(Model.Last, circumstances, services_.Locale);
 }

@@ -114,7 +114,7 @@ void frmMain::ApplyProject(const ProjectRecord& record) {
 
   chkDinloadEnable.SetChecked(record.DinloadOn != 0);
   chkOwnWeight.SetChecked(record.OwnWeightOn != 0);
-  Model.Loads = record;
+  Model.Loads = static_cast<const LoadArrays&>(record);
   // Own weight that was saved inside the loads stays there as if the user had entered it.
   ForgetOwnWeight(Model);
   takenSections_.reset();
