@@ -47,9 +47,7 @@ Program::Program(const Services& services, Windows windows)
                         .txtRy = main_.txtRy,
                         .txtNadegnost = main_.txtNadegnost,
                         .txtUsloviyaRabot = main_.txtUsloviyaRabot}),
-      paramerty_(services, {.txtModulYung = main_.txtModulYung,
-                            .txtDensitSteel = main_.txtDensitSteel,
-                            .txtLimitFlex = main_.txtLimitFlex}) {
+      paramerty_(services, main_.Steel) {
   RestoreAppendix();
   if (windows_.Associations != nullptr) {
     assoc_.emplace(*windows_.Associations, services_.Messages);
@@ -97,7 +95,7 @@ frmMain::Openers Program::MakeOpeners() {
 }
 
 std::optional<SelectionProposal> Program::OpenSearch(const SelectionOffer& offer) {
-  search_.Fill(offer, main_.imgProfileSec, main_.Model.TreloData.TreloType);
+  search_.Fill(offer, main_.imgProfileSec, main_.Model.Inputs.TreloType);
   windows_.ShowSearch(search_);
   lastProposal_ = search_.Shown();
   return search_.SearchApplied ? lastProposal_ : std::nullopt;

@@ -138,31 +138,29 @@ void CatalogueLoad(benchmark::State& state) {
 /// standard, for all five groups.
 void Selection(benchmark::State& state) {
   bench::World world;
-  DesignModel model;
-  model.ProfileTypes = LoadProfileTypes(world.Bundle());
+  const ProfileTypeArray catalogue = LoadProfileTypes(world.Bundle());
+  Design design;
   Long largest = 1;
-  for (Long standard = 1; standard <= model.ProfileTypes.UpperBound(); ++standard) {
-    if (model.ProfileTypes[standard].Rec.UpperBound() >
-        model.ProfileTypes[largest].Rec.UpperBound()) {
+  for (Long standard = 1; standard <= catalogue.UpperBound(); ++standard) {
+    if (catalogue[standard].Rec.UpperBound() > catalogue[largest].Rec.UpperBound()) {
       largest = standard;
     }
   }
   constexpr Long roundTube = 11;
-  for (SectionRec& section : model.ElementSection) {
+  for (SectionRec& section : design.ElementSection) {
     section = {.TypeIdx = largest,
                .SizeIdx = 1,
-               .Profile = model.ProfileTypes[largest].Rec[1],
+               .Profile = catalogue[largest].Rec[1],
                .Layout = roundTube};
   }
-  model.TreloData = bench::LoadedTruss(1, bench::largestPanelNum);
-  model.Loads = model.TreloData;
-  for (double& force : model.Loads.UpPForce) {
+  design.TreloData = bench::LoadedTruss(1, bench::largestPanelNum);
+  for (double& force : design.TreloData.UpPForce) {
     force = 1e5;
   }
-  model.Last = Calculate(model, bench::OrdinarySteel()).Value;
+  const Calculation calculation = Calculate(design, bench::OrdinarySteel()).Value;
   Messages told;
   for (auto _ : state) {
-    const SelectionProposal proposal = SelectSections(model.Last, model.ProfileTypes, told);
+    const SelectionProposal proposal = SelectSections(calculation, catalogue, told);
     if (proposal.Impossible.size() != groupCount) {
       state.SkipWithError("a size carries the forces");
     }

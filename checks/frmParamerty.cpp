@@ -17,15 +17,15 @@ constexpr const char* doubted = "Параметр принят, но вызыв�
 
 }  // namespace
 
-frmParamerty::frmParamerty(Services services, Targets targets)
-    : services_(std::move(services)), targets_(targets) {
+frmParamerty::frmParamerty(Services services, SteelTexts& steel)
+    : services_(std::move(services)), steel_(steel) {
   Form.SetCaption("Дополнительные параметры стали");
 }
 
 void frmParamerty::Form_Load() {
-  txtDensity.SetText(targets_.txtDensitSteel.Text());
-  txtYung.SetText(targets_.txtModulYung.Text());
-  txtLimFlex.SetText(targets_.txtLimitFlex.Text());
+  txtDensity.SetText(steel_.DensitSteel);
+  txtYung.SetText(steel_.ModulYung);
+  txtLimFlex.SetText(steel_.LimitFlex);
 }
 
 void frmParamerty::cmdApply_Click() {
@@ -45,7 +45,7 @@ void frmParamerty::TakeLimitFlex() {
   if (flex <= 0) {
     Refuse(refusedFlex, "Гибкость должна быть числом положительным > 0");
   } else if (flex <= 400) {
-    Store(targets_.txtLimitFlex, flex);
+    Store(steel_.LimitFlex, flex);
   } else {
     Refuse(refusedFlex, "Гибкость должна быть < 400");
   }
@@ -67,7 +67,7 @@ void frmParamerty::TakeDensity() {
         "Данная версия программы не расчитана на работу с АМг или титаном или чем либо кроме "
         "стали !!!");
   }
-  Store(targets_.txtDensitSteel, density);
+  Store(steel_.DensitSteel, density);
 }
 
 void frmParamerty::TakeYung() {
@@ -75,13 +75,13 @@ void frmParamerty::TakeYung() {
   // Intended: the bounds themselves are taken by none of the three, and the main form then keeps
   // its value without a word.
   if (yung > 180000 && yung < 300000) {
-    Store(targets_.txtModulYung, yung);
+    Store(steel_.ModulYung, yung);
   } else if (yung > 100000 && yung < 180000) {
     Doubt(
         "Модуль Юнга, которую Вы указали, вызывает сомнения !\n"
         "Данная версия программы не расчитана на работу с АМг или титаном или чем либо кроме "
         "стали !!!");
-    Store(targets_.txtModulYung, yung);
+    Store(steel_.ModulYung, yung);
   } else if (yung < 100000 || yung > 300000) {
     Refuse(refused,
            "Модуль Юнга, которую Вы указали, вызывает серьезные сомнения !\n"
@@ -99,8 +99,8 @@ void frmParamerty::Doubt(const char* text) {
   services_.Messages.Show({.Title = doubted, .Text = text, .Style = MessageStyle::Exclamation});
 }
 
-void frmParamerty::Store(TextBox& target, double value) {
-  target.SetText(NumberToText(value, services_.Locale));
+void frmParamerty::Store(std::string& target, double value) {
+  target = NumberToText(value, services_.Locale);
 }
 
 }  // namespace trelonit

@@ -1,24 +1,27 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "platform/forms/Controls.h"
 #include "platform/system/Services.h"
 
 namespace trelonit {
 
+/// The three numbers of the steel that have no box on the main form, as they were written: what is
+/// edited again is what was entered. Modulus in MPa, density in t/m3.
+struct SteelTexts {
+  std::string ModulYung = "210000";
+  std::string DensitSteel = "7.850";
+  std::string LimitFlex = "150";
+};
+
 /// The window of the elastic modulus, the density and the user's limit slenderness, caption
 /// "Дополнительные параметры стали".
 class frmParamerty {
  public:
-  /// The boxes of the main form that it edits.
-  struct Targets {
-    TextBox& txtModulYung;
-    TextBox& txtDensitSteel;
-    TextBox& txtLimitFlex;
-  };
-
-  frmParamerty(Services services, Targets targets);
+  /// Edits these, which outlive it.
+  frmParamerty(Services services, SteelTexts& steel);
   frmParamerty(const frmParamerty&) = delete;
   frmParamerty& operator=(const frmParamerty&) = delete;
   ~frmParamerty() = default;
@@ -42,10 +45,10 @@ class frmParamerty {
   void TakeYung();
   void Refuse(const char* title, const char* text);
   void Doubt(const char* text);
-  void Store(TextBox& target, double value);
+  void Store(std::string& target, double value);
 
   Services services_;
-  Targets targets_;
+  SteelTexts& steel_;
 };
 
 }  // namespace trelonit

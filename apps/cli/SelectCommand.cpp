@@ -69,7 +69,7 @@ Status RunSelect(const SelectOptions& options) {
     // Told why by then; the sizes would not be what was asked for.
     return fail();
   }
-  const std::vector<SelectionRow> selection = RowsOf(proposal, form.Model.TreloData.TreloType);
+  const std::vector<SelectionRow> selection = RowsOf(proposal, form.Model.Inputs.TreloType);
   PrintDangers(lists.Opinion);
   if (!options.Output.empty()) {
     if (options.Opinion) {

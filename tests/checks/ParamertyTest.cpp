@@ -53,15 +53,12 @@ using Messages = std::vector<Message>;
 /// The window, just opened over a main form with the values of its start.
 struct Desk {
   explicit Desk(const NumberLocale& locale = {}) : World(Resources, locale) {
-    txtModulYung.SetText("210000");
-    txtDensitSteel.SetText("7.850");
-    txtLimitFlex.SetText("150");
     Form.Unload = [this] { ++Closed; };
     Form.Form_Load();
   }
   /// Modulus, density and slenderness of the main form.
   std::string Main() const {
-    return txtModulYung.Text() + "|" + txtDensitSteel.Text() + "|" + txtLimitFlex.Text();
+    return Steel.ModulYung + "|" + Steel.DensitSteel + "|" + Steel.LimitFlex;
   }
   void Apply(const std::string& yung, const std::string& density, const std::string& flex) {
     Form.txtYung.SetText(yung);
@@ -73,13 +70,8 @@ struct Desk {
 
   EmbeddedResources Resources;
   test::LocalWorld World;
-  TextBox txtModulYung;
-  TextBox txtDensitSteel;
-  TextBox txtLimitFlex;
-  frmParamerty Form{World.Bundle(),
-                    {.txtModulYung = txtModulYung,
-                     .txtDensitSteel = txtDensitSteel,
-                     .txtLimitFlex = txtLimitFlex}};
+  SteelTexts Steel;
+  frmParamerty Form{World.Bundle(), Steel};
   int Closed = 0;
 };
 
@@ -91,12 +83,13 @@ struct Case {
 };
 
 /// Tries the texts in one box; the other two boxes keep what they opened with.
-void Try(TextBox frmParamerty::*box, TextBox Desk::*target, const std::vector<Case>& cases) {
+void Try(TextBox frmParamerty::*box, std::string SteelTexts::*target,
+         const std::vector<Case>& cases) {
   for (const Case& one : cases) {
     Desk desk;
     (desk.Form.*box).SetText(one.Typed);
     desk.Form.cmdApply_Click();
-    EXPECT_EQ((desk.*target).Text(), one.Stored) << one.Typed;
+    EXPECT_EQ(desk.Steel.*target, one.Stored) << one.Typed;
     EXPECT_EQ(desk.Shown(), one.Said) << one.Typed;
     EXPECT_EQ(desk.Closed, 1) << one.Typed;
   }
@@ -111,7 +104,7 @@ TEST(Paramerty, OpensWithTheTextsOfTheMainForm) {
   EXPECT_EQ(desk.Form.txtYung.Text(), "210000");
   EXPECT_EQ(desk.Form.txtDensity.Text(), "7.850");
   EXPECT_EQ(desk.Form.txtLimFlex.Text(), "150");
-  desk.txtDensitSteel.SetText("any text");
+  desk.Steel.DensitSteel = "any text";
   desk.Form.Form_Load();
   EXPECT_EQ(desk.Form.txtDensity.Text(), "any text");
 }
@@ -141,7 +134,7 @@ TEST(Paramerty, StoresNumbersInTheFormOfTheUsersSystem) {
 }
 
 TEST(ParamertySlenderness, IsAWholeNumberFromOneToFourHundred) {
-  Try(&frmParamerty::txtLimFlex, &Desk::txtLimitFlex,
+  Try(&frmParamerty::txtLimFlex, &SteelTexts::LimitFlex,
       {{"1", "1", {}},
        {"120", "120", {}},
        {"120,6", "121", {}},
@@ -163,7 +156,7 @@ TEST(ParamertySlenderness, IsAWholeNumberFromOneToFourHundred) {
 }
 
 TEST(ParamertySlenderness, RoundsAHalfToTheEvenNumber) {
-  Try(&frmParamerty::txtLimFlex, &Desk::txtLimitFlex,
+  Try(&frmParamerty::txtLimFlex, &SteelTexts::LimitFlex,
       {{"120.5", "120", {}},
        {"121.5", "122", {}},
        {"400.5", "400", {}},
@@ -184,7 +177,7 @@ TEST(ParamertySlenderness, BeyondAnIntegerDoesNotStopTheOtherTwo) {
 }
 
 TEST(ParamertyDensity, IsStoredSilentlyFromSevenToNine) {
-  Try(&frmParamerty::txtDensity, &Desk::txtDensitSteel,
+  Try(&frmParamerty::txtDensity, &SteelTexts::DensitSteel,
       {{"7", "7", {}},
        {"7,85", "7.85", {}},
        {"8.999", "8.999", {}},
@@ -193,7 +186,7 @@ TEST(ParamertyDensity, IsStoredSilentlyFromSevenToNine) {
 }
 
 TEST(ParamertyDensity, IsDoubtedAndStoredFromFourToSeven) {
-  Try(&frmParamerty::txtDensity, &Desk::txtDensitSteel,
+  Try(&frmParamerty::txtDensity, &SteelTexts::DensitSteel,
       {{"4", "4", {densityDoubted}},
        {"4.5", "4.5", {densityDoubted}},
        {"6.99", "6.99", {densityDoubted}},
@@ -201,7 +194,7 @@ TEST(ParamertyDensity, IsDoubtedAndStoredFromFourToSeven) {
 }
 
 TEST(ParamertyDensity, IsRefusedBelowFourAndAboveNine) {
-  Try(&frmParamerty::txtDensity, &Desk::txtDensitSteel,
+  Try(&frmParamerty::txtDensity, &SteelTexts::DensitSteel,
       {{"3.99", "7.850", {densityRefused}},
        {"3.99999999", "7.850", {densityRefused}},
        {"9.00000001", "7.850", {densityRefused}},
@@ -214,7 +207,7 @@ TEST(ParamertyDensity, IsRefusedBelowFourAndAboveNine) {
 }
 
 TEST(ParamertyModulus, IsStoredSilentlyInsideItsRange) {
-  Try(&frmParamerty::txtYung, &Desk::txtModulYung,
+  Try(&frmParamerty::txtYung, &SteelTexts::ModulYung,
       {{"210000", "210000", {}},
        {"2,06e5", "206000", {}},
        {"180000.01", "180000.01", {}},
@@ -224,7 +217,7 @@ TEST(ParamertyModulus, IsStoredSilentlyInsideItsRange) {
 }
 
 TEST(ParamertyModulus, IsDoubtedAndStoredBelowThatRange) {
-  Try(&frmParamerty::txtYung, &Desk::txtModulYung,
+  Try(&frmParamerty::txtYung, &SteelTexts::ModulYung,
       {{"100000.01", "100000.01", {yungDoubted}},
        {"100001", "100001", {yungDoubted}},
        {"150000", "150000", {yungDoubted}},
@@ -233,7 +226,7 @@ TEST(ParamertyModulus, IsDoubtedAndStoredBelowThatRange) {
 }
 
 TEST(ParamertyModulus, IsRefusedOutside) {
-  Try(&frmParamerty::txtYung, &Desk::txtModulYung,
+  Try(&frmParamerty::txtYung, &SteelTexts::ModulYung,
       {{"99999", "210000", {yungRefused}},
        {"99999.99", "210000", {yungRefused}},
        {"300000.01", "210000", {yungRefused}},
@@ -247,7 +240,7 @@ TEST(ParamertyModulus, IsRefusedOutside) {
 TEST(ParamertyModulus, IsTakenByNoneOfTheThreeAtTheBoundsThemselves) {
   for (const std::string typed : {"100000", "180000", "300000", "1e5", "180000,0"}) {
     Desk desk;
-    desk.txtModulYung.SetText("205000");
+    desk.Steel.ModulYung = "205000";
     desk.Apply(typed, "7.85", "150");
     EXPECT_EQ(desk.Main(), "205000|7.85|150") << typed;
     EXPECT_TRUE(desk.Shown().empty()) << typed;
@@ -289,12 +282,12 @@ RC_GTEST_PROP(Paramerty, ClosesAndStoresNothingOutsideTheRangesForAnyTexts, ()) 
       rc::gen::map(rc::gen::inRange(-500000, 500000), [](int n) { return std::to_string(n); }));
   Desk desk;
   desk.Apply(*typed, *typed, *typed);
-  const auto value = [](const TextBox& box) { return TextToNumber(box.Text(), {}); };
+  const auto value = [](const std::string& text) { return TextToNumber(text, {}); };
   RC_ASSERT(desk.Closed == 1);
   RC_ASSERT(desk.Shown().size() <= 3U);
-  RC_ASSERT(value(desk.txtModulYung) > 100000 && value(desk.txtModulYung) < 300000);
-  RC_ASSERT(value(desk.txtDensitSteel) >= 4 && value(desk.txtDensitSteel) <= 9);
-  RC_ASSERT(value(desk.txtLimitFlex) >= 1 && value(desk.txtLimitFlex) <= 400);
+  RC_ASSERT(value(desk.Steel.ModulYung) > 100000 && value(desk.Steel.ModulYung) < 300000);
+  RC_ASSERT(value(desk.Steel.DensitSteel) >= 4 && value(desk.Steel.DensitSteel) <= 9);
+  RC_ASSERT(value(desk.Steel.LimitFlex) >= 1 && value(desk.Steel.LimitFlex) <= 400);
 }
 
 }  // namespace

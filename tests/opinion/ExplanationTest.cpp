@@ -127,9 +127,7 @@ OpinionCase PickCase() {
   numbers.Gn = static_cast<double>(pick(80, 110)) / 100;
   numbers.Dynamic = pick(0, 1) != 0;
   const trelonit::Design design = AnyDesign(pick, PickScheme(), layouts);
-  TreloData data = design.TreloData;
-  static_cast<LoadArrays&>(data) = design.Loads;
-  return OpinionCase(data, design.ElementSection, numbers);
+  return OpinionCase(design.TreloData, design.ElementSection, numbers);
 }
 
 RC_GTEST_PROP(Explanations, OfAnyDesignAreOneForEachFigureAndGiveIt, ()) {

@@ -37,6 +37,10 @@ trelonit::Design PickUncalculated() {
   return AnyDesign(pick, PickScheme(), layouts);
 }
 
+const LoadArrays& LoadsOf(const trelonit::Design& design) {
+  return design.TreloData;
+}
+
 bool Exists(const ElementGroupRow& row, const trelonit::Design& design) {
   return row.Group != ElementGroup::Stoyka || design.TreloData.TreloType != 3;
 }
@@ -86,14 +90,14 @@ RC_GTEST_PROP(SelectionByOpinion, TakesTheFirstSizeThatPassesBoth, ()) {
     RC_ASSERT(section.TypeIdx == design.ElementSection[row.Place].TypeIdx);
     RC_ASSERT(section.Layout == design.ElementSection[row.Place].Layout);
     RC_ASSERT(section.Profile == Catalogue()[section.TypeIdx].Rec[section.SizeIdx]);
-    RC_ASSERT(Passes(proposal.Settled->Result, row) != IsImpossible(proposal, row));
+    RC_ASSERT(Passes(*proposal.Settled, row) != IsImpossible(proposal, row));
     if (IsImpossible(proposal, row)) {
       RC_ASSERT(section.SizeIdx == Catalogue()[section.TypeIdx].Rec.UpperBound());
     }
     if (section.SizeIdx > 1) {
-      RC_ASSERT(!PassesWithSize(design, proposal.Settled->Result, row, section.SizeIdx - 1));
+      RC_ASSERT(!PassesWithSize(design, *proposal.Settled, row, section.SizeIdx - 1));
       const Long smaller = pick(1, section.SizeIdx - 1);
-      RC_ASSERT(!PassesWithSize(design, proposal.Settled->Result, row, smaller));
+      RC_ASSERT(!PassesWithSize(design, *proposal.Settled, row, smaller));
     }
   }
 }
@@ -104,13 +108,13 @@ RC_GTEST_PROP(SelectionByOpinion, WithOwnWeightChangesNothingWhenCalculatedAgain
   const SelectionProposal proposal = SelectByOpinion(design, Catalogue(), numbers, true);
   RC_ASSERT(proposal.Rounds >= 1);
   RC_CLASSIFY(proposal.Rounds > 2, "more than two rounds");
-  trelonit::Design again = proposal.Settled->Inputs;
+  trelonit::Design again = *proposal.Settled;
   RC_ASSERT(again.ElementSection == proposal.Sections);
-  RC_ASSERT(again.OwnWeightAdded);
+  RC_ASSERT(again.OwnWeight.Added);
   const Calculation repeated = Calculate(again, numbers).Value;
-  RC_ASSERT(!PutOwnWeight(again, OwnWeightPerMetreOf(repeated)));
-  RC_ASSERT(again.Loads == proposal.Settled->Inputs.Loads);
-  RC_ASSERT(AllForces(repeated.TreloResult) == AllForces(proposal.Settled->Result.TreloResult));
+  RC_ASSERT(!PutOwnWeight(again.TreloData, again.OwnWeight, OwnWeightPerMetreOf(repeated)));
+  RC_ASSERT(LoadsOf(again) == LoadsOf(*proposal.Settled));
+  RC_ASSERT(AllForces(repeated.TreloResult) == AllForces(proposal.Settled->TreloResult));
   RC_ASSERT(Numbers(repeated.CheckData) == Numbers(proposal.Check));
   for (const ElementGroupRow& row : elementGroups) {
     if (Exists(row, design)) {
@@ -123,16 +127,16 @@ RC_GTEST_PROP(SelectionByOpinion, LeavesTheUsersLoadsAndAddsTheWeightOfItsSizes,
   const CheckNumbers numbers = PickNumbers();
   const trelonit::Design design = PickUncalculated();
   const SelectionProposal without = SelectByOpinion(design, Catalogue(), numbers, false);
-  RC_ASSERT(without.Settled->Inputs.Loads == design.Loads);
-  RC_ASSERT(!without.Settled->Inputs.OwnWeightAdded);
+  RC_ASSERT(LoadsOf(*without.Settled) == LoadsOf(design));
+  RC_ASSERT(!without.Settled->OwnWeight.Added);
   const SelectionProposal with = SelectByOpinion(design, Catalogue(), numbers, true);
-  const trelonit::Design& weighing = with.Settled->Inputs;
-  const TreloResult& result = with.Settled->Result.TreloResult;
+  const trelonit::Design& weighing = *with.Settled;
+  const TreloResult& result = with.Settled->TreloResult;
   const double perMetre = with.Check.Mass / (result.SumLenUpPoyas + result.SumLenDwnPoyas);
-  RC_ASSERT(std::abs(weighing.OwnWeightPerMetre - perMetre) <= 0.5001e-4);
-  for (Long panel = 0; panel <= design.Loads.UpDistForce.UpperBound(); ++panel) {
-    RC_ASSERT(std::abs(weighing.Loads.UpDistForce[panel] - design.Loads.UpDistForce[panel] -
-                       weighing.OwnWeightPerMetre) <= 1e-9);
+  RC_ASSERT(std::abs(weighing.OwnWeight.PerMetre - perMetre) <= 0.5001e-4);
+  for (Long panel = 0; panel <= design.TreloData.UpDistForce.UpperBound(); ++panel) {
+    RC_ASSERT(std::abs(weighing.TreloData.UpDistForce[panel] - design.TreloData.UpDistForce[panel] -
+                       weighing.OwnWeight.PerMetre) <= 1e-9);
   }
 }
 
@@ -142,12 +146,11 @@ TEST(SelectionByOpinion, MarksEveryGroupThatNoSizeOfItsStandardSuits) {
   for (Long scheme = 1; scheme <= 4; ++scheme) {
     trelonit::Design design = AnyDesign(low, scheme, std::vector<Long>(5, 11));
     design.TreloData = Design(scheme, 8, 24, 2.5, 3);
-    design.Loads = design.TreloData;
-    for (double& load : design.Loads.UpPForce) {
+    for (double& load : design.TreloData.UpPForce) {
       load = 1e5;
     }
     // All web bars have a force but those posts whose joint below bears nothing.
-    for (double& load : design.Loads.DwnPForce) {
+    for (double& load : design.TreloData.DwnPForce) {
       load = 1e5;
     }
     for (const bool ownWeight : {false, true}) {
@@ -173,7 +176,6 @@ class TakingTurns {
     design_.TreloData = SquareDesign(1, 4);
     design_.TreloData.UpPoyasBrace = 1;
     design_.TreloData.DownPoyasBrace = 1;
-    design_.Loads = design_.TreloData;
     catalogue_ = ProfileTypeArray(1, 2);
     catalogue_[1].Rec = BoundedArray<ProfileRec>(1, 2);
     // Slenderness 200 / sqrt(3) = 115 in the plane, phi 0.45: 45 cm2 count, against nearly 50.
@@ -245,8 +247,7 @@ TEST(SelectionByOpinion, TakesALargerSizeThanTheProgramsOwnWhereTheNormAsksForOn
   trelonit::Design design = AnyDesign(middle, 1, std::vector<Long>(5, 2));
   design.TreloData = Design(1, 8, 24, 2.5, 3);
   design.TreloData.UpPoyasBrace = 1;
-  design.Loads = design.TreloData;
-  for (double& load : design.Loads.UpPForce) {
+  for (double& load : design.TreloData.UpPForce) {
     load = 3;
   }
   Messages messages;

@@ -180,11 +180,10 @@ trelonit::Design Pulled(double area) {
   design.TreloData = SquareDesign(1, 4);
   design.TreloData.UpPoyasBrace = 1;
   design.TreloData.DownPoyasBrace = 1;
-  TreloData loads = SquareDesign(1, 4);
-  Fill(loads.UpPForce, 8);
-  loads.UpPForce[0] = 4;
-  loads.UpPForce[4] = 4;
-  design.Loads = loads;
+  BoundedArray<double>& joints = design.TreloData.UpPForce;
+  Fill(joints, 8);
+  joints[0] = 4;
+  joints[4] = 4;
   design.ElementSection = SameSections(Single(500, 500000, 500000));
   design.ElementSection[sectionDwnPoyas] = Single(area, 1000, 1000);
   return design;

@@ -58,7 +58,7 @@ RandomRoof AnyRoof(Chance& chance) {
   RandomRoof roof;
   Design& design = roof.Inputs;
   design.TreloData = AnyGeometry(chance);
-  design.Loads = AnyLoads(chance, design.TreloData);
+  static_cast<LoadArrays&>(design.TreloData) = AnyLoads(chance, design.TreloData);
   const test::Pick pick = [&](Long low, Long high) { return chance.Whole(low, high); };
   for (SectionRec& section : design.ElementSection) {
     section = test::AnySection(pick, chance.Whole(1, sectionLayoutCount));

@@ -1,20 +1,18 @@
 #include "workstation/design/Calculation.h"
 
+#include <utility>
+
 #include "analysis/modTrelo.h"
 #include "checks/modCheckueStress.h"
 #include "workstation/design/OwnWeight.h"
 
 namespace trelonit {
 
-Outcome<Calculation> Calculate(const Design& design, const CheckNumbers& numbers) {
+Outcome<Calculation> Calculate(Design design, const CheckNumbers& numbers) {
   Outcome<Calculation> outcome;
   Calculation& calculation = outcome.Value;
-  calculation.TreloData = design.TreloData;
-  static_cast<LoadArrays&>(calculation.TreloData) = design.Loads;
-  calculation.ElementSection = design.ElementSection;
+  static_cast<Design&>(calculation) = std::move(design);
   calculation.Numbers = numbers;
-  calculation.OwnWeightAdded = design.OwnWeightAdded;
-  calculation.OwnWeightPerMetre = design.OwnWeightPerMetre;
   calculation.TreloResult = TakeValue(CalcTrelo(calculation.TreloData), outcome.Told);
   calculation.CheckData = TakeValue(CheckueStress(calculation.TreloData, calculation.TreloResult,
                                                   numbers, calculation.ElementSection),
@@ -22,10 +20,11 @@ Outcome<Calculation> Calculate(const Design& design, const CheckNumbers& numbers
   return outcome;
 }
 
-Calculation CalculateWithOwnWeight(Design& design, const CheckNumbers& numbers) {
-  Calculation calculation = Calculate(design, numbers).Value;
-  if (PutOwnWeight(design, OwnWeightPerMetreOf(calculation))) {
-    calculation = Calculate(design, numbers).Value;
+Calculation CalculateWithOwnWeight(Design design, const CheckNumbers& numbers) {
+  Calculation calculation = Calculate(std::move(design), numbers).Value;
+  if (PutOwnWeight(calculation.TreloData, calculation.OwnWeight,
+                   OwnWeightPerMetreOf(calculation))) {
+    calculation = Calculate(std::move(calculation), numbers).Value;
   }
   return calculation;
 }

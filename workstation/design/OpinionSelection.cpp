@@ -26,7 +26,7 @@ class SearchByBoth {
         numbers_(numbers),
         ownWeight_(ownWeight),
         given_(design.ElementSection),
-        design_(design) {}
+        calculation_{design} {}
 
   SelectionProposal Run() {
     SelectionProposal proposal;
@@ -36,16 +36,18 @@ class SearchByBoth {
       proposal.Impossible.clear();
     } while (ChooseSizes(proposal) && ownWeight_);
     Calculate();
-    proposal.Sections = design_.ElementSection;
+    proposal.Sections = calculation_.ElementSection;
     proposal.Check = calculation_.CheckData;
-    proposal.Settled = {std::move(design_), std::move(calculation_)};
+    proposal.Settled = std::move(calculation_);
     return proposal;
   }
 
  private:
   void Calculate() {
-    calculation_ = ownWeight_ ? CalculateWithOwnWeight(design_, numbers_)
-                              : trelonit::Calculate(design_, numbers_).Value;
+    // With the sections as they are by now, on the loads of the round before.
+    const Design& design = calculation_;
+    calculation_ = ownWeight_ ? CalculateWithOwnWeight(design, numbers_)
+                              : trelonit::Calculate(design, numbers_).Value;
   }
 
   /// Whether a group has changed.
@@ -55,10 +57,10 @@ class SearchByBoth {
     const bool onlyUp = proposal.Rounds >= lastFreeRound;
     bool changed = false;
     for (const ElementGroupRow& row : elementGroups) {
-      if (row.Group == ElementGroup::Stoyka && !HasVerticals(design_.TreloData.TreloType)) {
+      if (row.Group == ElementGroup::Stoyka && !HasVerticals(calculation_.TreloData.TreloType)) {
         continue;
       }
-      SectionRec& section = design_.ElementSection[row.Place];
+      SectionRec& section = calculation_.ElementSection[row.Place];
       const SectionRec before = section;
       if (!ChooseSize(row, section, onlyUp ? before.SizeIdx : 1, truss, bars)) {
         proposal.Impossible.insert(OptionOf(row.Group));
@@ -88,7 +90,7 @@ class SearchByBoth {
 
   bool PassesTold(const ElementGroupRow& row) {
     const CheckResult check = CheckueStress(calculation_.TreloData, calculation_.TreloResult,
-                                            numbers_, design_.ElementSection)
+                                            numbers_, calculation_.ElementSection)
                                   .Value;
     const GroupCheck& group = check.*row.Block;
     // A check that broke off has an empty record.
@@ -109,7 +111,6 @@ class SearchByBoth {
   const CheckNumbers& numbers_;
   bool ownWeight_;
   SectionArray given_;
-  Design design_;
   Calculation calculation_;
 };
 

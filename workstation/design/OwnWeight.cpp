@@ -58,33 +58,27 @@ double OwnWeightPerMetreOf(const Calculation& calculation) {
       decimals);
 }
 
-bool PutOwnWeight(Design& design, double perMetre) {
-  if (design.OwnWeightAdded) {
-    if (design.OwnWeightPerMetre == perMetre) {
+bool PutOwnWeight(LoadArrays& loads, OwnWeightState& state, double perMetre) {
+  if (state.Added) {
+    if (state.PerMetre == perMetre) {
       return false;
     }
-    AddToDistributedLoads(design.Loads, -design.OwnWeightPerMetre);
+    AddToDistributedLoads(loads, -state.PerMetre);
   }
-  AddToDistributedLoads(design.Loads, perMetre);
-  design.OwnWeightAdded = true;
-  design.OwnWeightPerMetre = perMetre;
+  AddToDistributedLoads(loads, perMetre);
+  state = {.Added = true, .PerMetre = perMetre};
   return true;
 }
 
-bool WithdrawOwnWeight(Design& design) {
-  const bool inside = design.OwnWeightPerMetre > 0;
+bool WithdrawOwnWeight(LoadArrays& loads, OwnWeightState& state) {
+  const bool inside = state.PerMetre > 0;
   if (inside) {
-    AddToDistributedLoads(design.Loads, -design.OwnWeightPerMetre);
+    AddToDistributedLoads(loads, -state.PerMetre);
   } else {
-    design.OwnWeightPerMetre = 0;
+    state.PerMetre = 0;
   }
-  design.OwnWeightAdded = false;
+  state.Added = false;
   return inside;
-}
-
-void ForgetOwnWeight(Design& design) {
-  design.OwnWeightAdded = false;
-  design.OwnWeightPerMetre = 0;
 }
 
 std::optional<double> OwnWeightInside(const TreloData& data, const SectionArray& sections,

@@ -15,16 +15,13 @@ namespace trelonit {
 /// per metre. Raises 6 or 11 for a calculation without lengths.
 double OwnWeightPerMetreOf(const Calculation& calculation);
 
-/// Brings the own weight inside the distributed master loads to this amount. False, and nothing is
+/// Brings the own weight inside the distributed loads to this amount. False, and nothing is
 /// done, when just this amount is inside already.
-bool PutOwnWeight(Design& design, double perMetre);
+bool PutOwnWeight(LoadArrays& loads, OwnWeightState& state, double perMetre);
 
-/// Takes the amount that is inside out of the master loads. An amount that is not positive cannot
+/// Takes the amount that is inside out of the loads. An amount that is not positive cannot
 /// be taken out: false. Either way own weight counts as not added from then on.
-bool WithdrawOwnWeight(Design& design);
-
-/// Whatever is in the loads belongs to them from then on.
-void ForgetOwnWeight(Design& design);
+bool WithdrawOwnWeight(LoadArrays& loads, OwnWeightState& state);
 
 /// The own weight that these loads seem to hold already, tonnes per metre: an amount that every
 /// panel of both chords has, the lower ones nothing else, and that a truss of these sections may

@@ -166,7 +166,7 @@ void ForEachField(Archive& archive, Record& record, SectionStep&& section) {
   archive(record.ProgibUpper);
   archive(record.ActiveGroup);
   for (const SectionPlace place : fileOrder) {
-    auto& fields = record.Sections[place];
+    auto& fields = record.ElementSection[place];
     archive(fields.SizeIdx);
     archive(fields.TypeIdx);
     archive(fields.Gdist);
@@ -178,15 +178,15 @@ void ForEachField(Archive& archive, Record& record, SectionStep&& section) {
   archive(record.OwnWeightOn);
   archive(record.AllPanelsOn);
   archive(record.PForceTool);
-  archive(record.UpPForce);
-  archive(record.UpDistForce);
-  archive(record.DwnPForce);
-  archive(record.DwnDistForce);
+  archive(record.Loads.UpPForce);
+  archive(record.Loads.UpDistForce);
+  archive(record.Loads.DwnPForce);
+  archive(record.Loads.DwnDistForce);
 }
 
 }  // namespace
 
-std::string ProjectText(const ProjectRecord& record, const NumberLocale& locale) {
+std::string ProjectText(const DesignInputs& record, const NumberLocale& locale) {
   ProjectWriter writer(locale);
   writer.Put(std::string(header));
   auto put = [&writer](const auto& field) { writer.Put(field); };
@@ -196,7 +196,7 @@ std::string ProjectText(const ProjectRecord& record, const NumberLocale& locale)
   return writer.Take();
 }
 
-bool WriteApplParameters(const std::string& fileName, const ProjectRecord& record,
+bool WriteApplParameters(const std::string& fileName, const DesignInputs& record,
                          const Services& services) {
   // Making the file is one step from outside: it stands there whole or the old one does. So every
   // failure of it is a failure to create the file, and the user hears of it.
@@ -209,8 +209,8 @@ bool WriteApplParameters(const std::string& fileName, const ProjectRecord& recor
   }
 }
 
-ProjectRecord ReadApplParameters(const std::string& fileName, const ProfileTypeArray& catalogue,
-                                 const Services& services) {
+DesignInputs ReadApplParameters(const std::string& fileName, const ProfileTypeArray& catalogue,
+                                const Services& services) {
   std::unique_ptr<std::istream> stream;
   try {
     stream = services.Files.OpenForReading(fileName);
@@ -234,7 +234,7 @@ ProjectRecord ReadApplParameters(const std::string& fileName, const ProfileTypeA
                             .Text = "Ошибка считывания первой строки файла сохранения !",
                             .Style = MessageStyle::Critical});
   }
-  ProjectRecord record;
+  DesignInputs record;
   auto get = [&reader](auto& field) { reader.Get(field); };
   ForEachField(get, record, [&catalogue](SectionRec& section) {
     PassOver([&] { section.Profile = catalogue[section.TypeIdx].Rec[section.SizeIdx]; });

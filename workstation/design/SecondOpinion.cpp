@@ -43,7 +43,8 @@ SecondOpinion FormSecondOpinion(const Calculation& calculation, const Circumstan
   return opinion;
 }
 
-std::vector<Circumstances::FailingGroup> GroupsThatFail(Design design, const CheckNumbers& numbers,
+std::vector<Circumstances::FailingGroup> GroupsThatFail(const Design& design,
+                                                        const CheckNumbers& numbers,
                                                         bool ownWeight) {
   const Calculation calculation =
       ownWeight ? CalculateWithOwnWeight(design, numbers) : Calculate(design, numbers).Value;

@@ -33,7 +33,8 @@ JudgedDesign Judged(const Calculation& calculation);
 
 /// The groups that do not pass once the design is calculated with the sections that it has, own
 /// weight included where it is asked for. Tells nothing.
-std::vector<Circumstances::FailingGroup> GroupsThatFail(Design design, const CheckNumbers& numbers,
+std::vector<Circumstances::FailingGroup> GroupsThatFail(const Design& design,
+                                                        const CheckNumbers& numbers,
                                                         bool ownWeight);
 
 }  // namespace trelonit

@@ -13,12 +13,6 @@
 
 namespace trelonit {
 
-/// A design with the calculation that belongs to it.
-struct SettledDesign {
-  Design Inputs;
-  Calculation Result;
-};
-
 /// What automatic selection proposes: working copies of the design's sections and of their check.
 struct SelectionProposal {
   SectionArray Sections;
@@ -28,7 +22,7 @@ struct SelectionProposal {
   /// Of a selection by both, which repeats itself: how often it searched. 0 for the usual one.
   int Rounds = 0;
   /// Of a selection by both: the design with these sections, calculated.
-  std::optional<SettledDesign> Settled;
+  std::optional<Calculation> Settled;
 };
 
 /// What the user chooses from.

@@ -24,7 +24,7 @@ void ShowGroupInfo(const DesignModel& model, const Services& services) {
   }};
   std::string text = "Информация по выбраным типам проката : ";
   for (const auto& [caption, place] : groups) {
-    const SectionRec& section = model.ElementSection[place];
+    const SectionRec& section = model.Inputs.ElementSection[place];
     text += std::string("\n") + caption + "\nТип сечения : " + std::to_string(section.Layout) +
             "\nТипоразмер : " + section.Profile.Name.Trimmed() +
             "\nРасстояние между профилями :" + NumberToText(section.Gdist, services.Locale);

@@ -34,9 +34,6 @@ frmMain::frmMain(Services services, Openers openers)
     : services_(std::move(services)), openers_(std::move(openers)) {
   // What the form has before it is loaded.
   Form.SetCaption(applicationTitle);
-  txtDensitSteel.SetText("7.850");
-  txtModulYung.SetText("210000");
-  txtLimitFlex.SetText("150");
   optBP.SetValue(true);
   tglUpPoyas.SetValue(true);
   lblSectionSource.SetVisible(false);
@@ -66,7 +63,7 @@ void frmMain::Form_Load() {
     txtForceVal.SetText("0");
     chkDinloadEnable.SetChecked(false);
     ReDimLoadArrays();
-    ForgetOwnWeight(Model);
+    Model.OwnWeight = {};
     chkOwnWeight.SetChecked(false);
     chkAllPanels.SetChecked(false);
     tmrRuningString.SetInterval(captionInterval);
@@ -79,15 +76,15 @@ void frmMain::Form_Load() {
 void frmMain::SetStartDefaults() {
   tmrRuningString.SetEnabled(false);
   tabMain.SetTab(0);
-  Model.TreloData.TreloType = 1;
+  Model.Inputs.TreloType = 1;
   txtLengthF.SetText("20");
   txtHight.SetText("1.5");
   txtLenOporn.SetText("2");
   imgTreloType[1].SetMarked(true);
   optUpPoyas.Select(2);
   optDownPoyas.Select(2);
-  Model.TreloData.UpPoyasBrace = 2;
-  Model.TreloData.DownPoyasBrace = 2;
+  Model.Inputs.UpPoyasBrace = 2;
+  Model.Inputs.DownPoyasBrace = 2;
   txtNadegnost.SetText(NumberToText(1, services_.Locale));
   txtUsloviyaRabot.SetText(NumberToText(0.9, services_.Locale));
   lblStillName.SetCaption("Сталь С245 - лист от 2 до 20 мм");
@@ -104,7 +101,7 @@ void frmMain::SetStartDefaults() {
 void frmMain::LoadCatalogue() {
   Model.ProfileTypes = LoadProfileTypes(services_);
   const ProfileRec& first = Model.ProfileTypes[1].Rec[1];
-  for (SectionRec& section : Model.ElementSection) {
+  for (SectionRec& section : Model.Inputs.ElementSection) {
     section = {.TypeIdx = 1, .SizeIdx = 1, .Profile = first, .Layout = 1};
   }
   cmbKatalog.AddItem("Каталог ГОСТ-овского проката ");
@@ -134,8 +131,8 @@ void frmMain::ConnectEvents() {
   tabMain.Click = [this](Integer previous) { tabMain_Click(previous); };
   cmbPanelNum.Click = [this] { cmbPanelNum_Click(); };
   for (Integer option = 1; option <= 4; ++option) {
-    optUpPoyas[option].Click = [this, option] { Model.TreloData.UpPoyasBrace = option; };
-    optDownPoyas[option].Click = [this, option] { Model.TreloData.DownPoyasBrace = option; };
+    optUpPoyas[option].Click = [this, option] { Model.Inputs.UpPoyasBrace = option; };
+    optDownPoyas[option].Click = [this, option] { Model.Inputs.DownPoyasBrace = option; };
   }
   chkProgib.Click = [this] { chkProgib_Click(); };
   // The shown deflection is dropped as soon as anything that it depends on moves.

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "catalogue/SectionLayouts.h"
-#include "checks/modCheckueStress.h"
+#include "checks/frmParamerty.h"
 #include "platform/forms/Controls.h"
 #include "platform/system/Services.h"
 #include "workstation/design/DesignModel.h"
@@ -121,8 +121,9 @@ class frmMain {
   /// The same for whoever has no editor: calculates and hands the report over. Returns whether it
   /// came to its end; what kept it from there has been shown.
   bool MakeReport(const ReportSink& sink);
-  /// The numbers of the checks as they stand in the boxes.
-  CheckNumbers ReadCheckNumbers() const;
+  /// Brings the record of the inputs to what they show, and gives it: the one place where their
+  /// texts become numbers. Raises 6 for a panel count that is no number of panels.
+  const DesignInputs& ReadInputs();
 
   // --- beside the inputs and the results (frmMainOpinion.cpp)
   /// Subtracts the own weight that a restored project had in its loads already.
@@ -210,10 +211,8 @@ class frmMain {
   TextBox txtRy;
   TextBox txtUsloviyaRabot;
   TextBox txtNadegnost;
-  // Hidden values, edited in a window of their own.
-  TextBox txtDensitSteel;
-  TextBox txtModulYung;
-  TextBox txtLimitFlex;
+  /// Edited in a window of its own.
+  SteelTexts Steel;
 
   /// Whether a report ends with the second opinion.
   bool ReportAppendix = false;
@@ -236,7 +235,7 @@ class frmMain {
   Long SelectedGroup() const { return optElementSection.Selected(); }
   SectionRec& SelectedSection();
   /// The truss as the boxes have it, whatever the geometry check said of it.
-  TreloData ShownGeometry() const;
+  TreloData ShownGeometry();
   void RefreshBracingLengths();
   void RefreshSectionSource(const SectionRec& section);
   /// Looks for it in the loads as they stand.
@@ -276,15 +275,15 @@ class frmMain {
   void TakeProposal(const SelectionProposal& proposal);
   void ShowProgib(const ProgibResult& progib);
 
-  ProjectRecord CollectProject() const;
+  DesignInputs CollectProject();
   // The one way out and the one way in. The routine gives the name of the file, or nothing where
   // there is none.
   bool SaveTo(const std::function<std::string()>& nameOfFile);
   bool RestoreFrom(const std::function<std::string()>& nameOfFile);
-  void ApplyProject(const ProjectRecord& record);
+  void ApplyProject(const DesignInputs& record);
   /// Sizes and pictures of all groups as the model has them.
   void ShowSectionSummary();
-  void FillInputs(const ProjectRecord& record);
+  void ShowInputs(const DesignInputs& record);
 
   Services services_;
   Openers openers_;

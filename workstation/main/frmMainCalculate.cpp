@@ -14,16 +14,6 @@ constexpr int progibDecimals = 5;
 
 }  // namespace
 
-CheckNumbers frmMain::ReadCheckNumbers() const {
-  return {.Ry = Number(txtRy),
-          .E = Number(txtModulYung),
-          .Yc = Number(txtUsloviyaRabot),
-          .Gn = Number(txtNadegnost),
-          .Density = Number(txtDensitSteel),
-          .Dynamic = chkDinloadEnable.Checked(),
-          .LimitUser = Number(txtLimitFlex)};
-}
-
 void frmMain::cmdCalculate_Click() {
   Guard(services_.Messages, "cmdCalculate_Click", [&] {
     CalculateModel();
@@ -73,10 +63,10 @@ bool frmMain::MakeReport(const ReportSink& sink) {
 void frmMain::WriteOtchet(const ReportSink& sink) {
   const NumberLocale& locale = services_.Locale;
   WriteReport(Model.Last,
-              {.SteelName = lblStillName.Caption(),
-               .ProgibOn = chkProgib.Checked(),
-               .ProgibUpper = optBP.Value(),
-               .LenLim = cmbLenlim.Text()},
+              {.SteelName = Model.Inputs.SteelName,
+               .ProgibOn = Model.Inputs.ProgibOn != 0,
+               .ProgibUpper = Model.Inputs.ProgibUpper != 0,
+               .LenLim = Model.Inputs.LenLim},
               locale, sink);
   CalculateProgib();
   if (const std::optional<ProgibResult>& progib = Model.Last.Progib) {
@@ -90,13 +80,14 @@ void frmMain::WriteOtchet(const ReportSink& sink) {
 }
 
 void frmMain::CalculateModel() {
-  const CheckNumbers numbers = ReadCheckNumbers();
+  const CheckNumbers numbers = CheckNumbersOf(ReadInputs());
   const auto calculate = [&] {
-    Model.Last = ShowTold(services_.Messages, Calculate(Model, numbers));
+    Model.Last = ShowTold(services_.Messages, Calculate(Model.ToCalculate(), numbers));
   };
   calculate();
   // There is one re-analysis a command: the mass does not depend on the forces.
-  if (chkOwnWeight.Checked() && PutOwnWeight(Model, OwnWeightPerMetreOf(Model.Last))) {
+  if (Model.Inputs.OwnWeightOn != 0 &&
+      PutOwnWeight(Model.Inputs.Loads, Model.OwnWeight, OwnWeightPerMetreOf(Model.Last))) {
     calculate();
     RefreshLoadPreview();
   }
@@ -105,11 +96,12 @@ void frmMain::CalculateModel() {
 void frmMain::CalculateProgib() {
   Calculation& last = Model.Last;
   last.Progib.reset();
-  if (chkProgib.Checked()) {
+  const DesignInputs& inputs = Model.Inputs;
+  if (inputs.ProgibOn != 0) {
     const double progib =
         ShowTold(services_.Messages, CalcProgib(last.TreloData, last.TreloResult, last.CheckData,
-                                                optBP.Value(), last.Numbers.E));
-    last.Progib = JudgeProgib(progib, last.TreloData.LengthF, cmbLenlim.Text(), services_.Locale);
+                                                inputs.ProgibUpper != 0, last.Numbers.E));
+    last.Progib = JudgeProgib(progib, last.TreloData.LengthF, inputs.LenLim, services_.Locale);
   }
 }
 
@@ -120,25 +112,28 @@ std::optional<SelectionProposal> frmMain::ProposeByOpinion() {
         {.Title = "Подбор по СНиП", .Text = opinion.Refusal, .Style = MessageStyle::Exclamation});
     return std::nullopt;
   }
-  return SelectByOpinion(Model, Model.ProfileTypes, Model.Last.Numbers, chkOwnWeight.Checked());
+  return SelectByOpinion(Model.ToCalculate(), Model.ProfileTypes, Model.Last.Numbers,
+                         Model.Inputs.OwnWeightOn != 0);
 }
 
 void frmMain::TakeProposal(const SelectionProposal& proposal) {
   if (proposal.Settled) {
-    static_cast<Design&>(Model) = proposal.Settled->Inputs;
-    Model.Last = proposal.Settled->Result;
+    Model.Last = *proposal.Settled;
+    Model.Inputs.ElementSection = Model.Last.ElementSection;
+    Model.Inputs.Loads = Model.Last.TreloData;
+    Model.OwnWeight = Model.Last.OwnWeight;
     RefreshLoadPreview();
   } else {
     // Loads and forces stay: the changed mass reaches them with the next calculation.
-    Model.ElementSection = proposal.Sections;
+    Model.Inputs.ElementSection = proposal.Sections;
     Model.Last.ElementSection = proposal.Sections;
     Model.Last.CheckData = proposal.Check;
   }
-  takenSections_ = Model.ElementSection;
+  takenSections_ = Model.Inputs.ElementSection;
   RefreshSectionSource(SelectedSection());
   for (Long option = 1; option <= groupCount; ++option) {
     lblProfilName[option].SetCaption(
-        Model.ElementSection[PlaceOfOption(option)].Profile.Name.Trimmed());
+        Model.Inputs.ElementSection[PlaceOfOption(option)].Profile.Name.Trimmed());
   }
 }
 

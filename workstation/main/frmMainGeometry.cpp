@@ -24,11 +24,11 @@ void frmMain::imgTreloType_Click(Long scheme) {
     for (Image& picture : imgTreloType) {
       picture.SetMarked(false);
     }
-    const Long old = Model.TreloData.TreloType;
+    const Long old = Model.Inputs.TreloType;
     // Only five schemes have a large picture; the others end here.
     ShowScheme(scheme);
     imgTreloType[scheme].SetMarked(true);
-    Model.TreloData.TreloType = scheme;
+    Model.Inputs.TreloType = static_cast<Integer>(scheme);
     const Scheme& now = *FindScheme(scheme);
     const Scheme* before = FindScheme(old);
     if (before == nullptr || now.OwnEndPanels != before->OwnEndPanels) {
@@ -66,7 +66,7 @@ void frmMain::txtLengthF_LostFocus() {
 void frmMain::RefreshHopt() {
   // A panel count that is no number leaves the text as it stands.
   PassOver([&] {
-    const Long scheme = Model.TreloData.TreloType;
+    const Long scheme = Model.Inputs.TreloType;
     Real height;
     if (scheme >= 1 && scheme <= 5) {
       // The panel length: the height with which the diagonals lie at 45 degrees.
@@ -115,9 +115,10 @@ void frmMain::WriteGdist() {
 }
 
 void frmMain::CheckGeometry() {
-  const Real L = Number(txtLengthF);
-  const Real H = Number(txtHight);
-  Real a = Number(txtLenOporn);
+  const DesignInputs& inputs = ReadInputs();
+  const Real L = inputs.LengthF;
+  const Real H = inputs.Hight;
+  Real a = inputs.LenOporn;
   const Long n = PanelNum();
   if (!(L > 0.0) || !(H > 0.0)) {
     tabMain.SetTab(0);
@@ -127,15 +128,15 @@ void frmMain::CheckGeometry() {
                              .Style = MessageStyle::Critical});
     return;
   }
-  TreloData& data = Model.TreloData;
-  data.LengthF = L;
-  data.Hight = H;
-  data.PanelNum = n;
-  const Scheme& scheme = *FindScheme(data.TreloType);
+  AcceptedGeometry& accepted = Model.Accepted;
+  accepted.LengthF = L;
+  accepted.Hight = H;
+  accepted.PanelNum = n;
+  const Scheme& scheme = *FindScheme(inputs.TreloType);
   if (!scheme.OwnEndPanels || !(a > 0.0)) {
     a = L / n;
   }
-  data.LenOporn = a;
+  accepted.LenOporn = a;
   if (!(L > H)) {
     services_.Messages.Show({.Title = warningTitle,
                              .Text = "Высота фермы превышает ее длинну !\n"

@@ -17,7 +17,7 @@ constexpr Integer distributedPreviewBitmap = 310;
 
 void frmMain::ReDimLoadArrays() {
   Guard(services_.Messages, "ReDimLoadArrays",
-        [&] { ReDimLoads(Model.Loads, Model.TreloData.TreloType, PanelNum()); });
+        [&] { ReDimLoads(Model.Inputs.Loads, Model.Inputs.TreloType, PanelNum()); });
   SetOwnWeightInside(std::nullopt);
 }
 
@@ -32,11 +32,11 @@ void frmMain::FillList(Long last) {
 }
 
 void frmMain::FillKnotListP(bool upper) {
-  FillList(LastKnotNum(upper, Model.TreloData.TreloType, PanelNum()));
+  FillList(LastKnotNum(upper, Model.Inputs.TreloType, PanelNum()));
 }
 
 void frmMain::FillKnotListQ(bool upper) {
-  FillList(LastPanelNum(upper, Model.TreloData.TreloType, PanelNum()));
+  FillList(LastPanelNum(upper, Model.Inputs.TreloType, PanelNum()));
 }
 
 void frmMain::FillKnotList(bool upper) {
@@ -73,19 +73,19 @@ void frmMain::ColourChosenMark() {
 
 void frmMain::ShowMarksOfShownChord() {
   const bool upper = tglUpPoyas.Value();
-  Preview.ShowDwnMarks(!upper, Model.Loads, services_.Locale);
-  Preview.ShowUpMarks(upper, Model.Loads, services_.Locale);
+  Preview.ShowDwnMarks(!upper, Model.Inputs.Loads, services_.Locale);
+  Preview.ShowUpMarks(upper, Model.Inputs.Loads, services_.Locale);
   NotifyPreview();
 }
 
 void frmMain::BuildChord(bool upper) {
   // The chord comes before its list, whose first entry colours a mark of it.
-  Preview.BuildChord(LastPanelNum(upper, Model.TreloData.TreloType, PanelNum()) + 1);
+  Preview.BuildChord(LastPanelNum(upper, Model.Inputs.TreloType, PanelNum()) + 1);
   FillKnotList(upper);
 }
 
 void frmMain::RefreshLoadPreview() {
-  const Long scheme = Model.TreloData.TreloType;
+  const Long scheme = Model.Inputs.TreloType;
   BuildChord(tglUpPoyas.Value());
   Preview.ClearLoadMarks();
   Preview.PlaceUpMarks(LastPanelNum(true, scheme, PanelNum()) + 1);
@@ -155,11 +155,12 @@ void frmMain::cmdAddForce_Click() {
     }
     const bool upper = tglUpPoyas.Value();
     if (imgPForce.Marked()) {
-      double& joint = (upper ? Model.Loads.UpPForce : Model.Loads.DwnPForce)[number];
+      double& joint = (upper ? Model.Inputs.Loads.UpPForce : Model.Inputs.Loads.DwnPForce)[number];
       joint = Real(joint) + force;
       Preview.ShowJoint(upper, number, joint, services_.Locale);
     } else {
-      BoundedArray<double>& panels = upper ? Model.Loads.UpDistForce : Model.Loads.DwnDistForce;
+      BoundedArray<double>& panels =
+          upper ? Model.Inputs.Loads.UpDistForce : Model.Inputs.Loads.DwnDistForce;
       const bool all = chkAllPanels.Checked();
       const Long first = all ? panels.LowerBound() : number;
       const Long last = all ? panels.UpperBound() : number;
@@ -174,9 +175,9 @@ void frmMain::cmdAddForce_Click() {
 
 void frmMain::cmdClearLoads_Click() {
   Guard(services_.Messages, "cmdClearLoads_Click", [&] {
-    ClearLoads(Model.Loads, Model.TreloData.TreloType, PanelNum());
+    ClearLoads(Model.Inputs.Loads, Model.Inputs.TreloType, PanelNum());
     Preview.ClearLoadMarks();
-    ForgetOwnWeight(Model);
+    Model.OwnWeight = {};
     chkOwnWeight.SetChecked(false);
     SetOwnWeightInside(std::nullopt);
     NotifyPreview();
@@ -184,8 +185,8 @@ void frmMain::cmdClearLoads_Click() {
 }
 
 bool frmMain::TakeOwnWeightOut() {
-  const double perMetre = Model.OwnWeightPerMetre;
-  const bool inside = WithdrawOwnWeight(Model);
+  const double perMetre = Model.OwnWeight.PerMetre;
+  const bool inside = WithdrawOwnWeight(Model.Inputs.Loads, Model.OwnWeight);
   if (!inside) {
     services_.Messages.Show({.Title = "chkOwnWeight_Click",
                              .Text = "Некорректная погонная масса фермы ! \nqMass = " +
@@ -200,7 +201,7 @@ void frmMain::chkOwnWeight_Click() {
   RefreshOwnWeightTwice();
   Guard(services_.Messages, "chkOwnWeight_Click", [&] {
     // Setting the box does nothing here: the commands add the weight.
-    if (chkOwnWeight.Checked() || !Model.OwnWeightAdded) {
+    if (chkOwnWeight.Checked() || !Model.OwnWeight.Added) {
       return;
     }
     if (TakeOwnWeightOut()) {

@@ -20,15 +20,16 @@ constexpr Long bracingCount = 4;
 
 }  // namespace
 
-TreloData frmMain::ShownGeometry() const {
-  TreloData data = Model.TreloData;
-  data.LengthF = Number(txtLengthF);
-  data.Hight = Number(txtHight);
+TreloData frmMain::ShownGeometry() {
+  const DesignInputs& inputs = ReadInputs();
+  TreloData data = Model.ToCalculate().TreloData;
+  data.LengthF = inputs.LengthF;
+  data.Hight = inputs.Hight;
   data.PanelNum = PanelNum();
-  const Real a = Number(txtLenOporn);
   const Scheme* scheme = FindScheme(data.TreloType);
-  const bool ownPanels = scheme != nullptr && scheme->OwnEndPanels && a > 0.0;
-  data.LenOporn = ownPanels ? a : Real(data.LengthF) / data.PanelNum;
+  const bool ownPanels = scheme != nullptr && scheme->OwnEndPanels && inputs.LenOporn > 0;
+  const Real panel = ownPanels ? Real(inputs.LenOporn) : Real(data.LengthF) / data.PanelNum;
+  data.LenOporn = panel;
   return data;
 }
 
@@ -82,9 +83,7 @@ std::optional<double> frmMain::DoubledOwnWeight() const {
 void frmMain::FindOwnWeightInside() {
   std::optional<double> inside;
   PassOver([&] {
-    TreloData data = ShownGeometry();
-    static_cast<LoadArrays&>(data) = Model.Loads;
-    inside = OwnWeightInside(data, Model.ElementSection, Number(txtDensitSteel));
+    inside = OwnWeightInside(ShownGeometry(), Model.Inputs.ElementSection, Model.Inputs.Density);
   });
   SetOwnWeightInside(inside);
 }
@@ -99,10 +98,11 @@ void frmMain::cmdTakeOwnWeightOut_Click() {
     if (!ownWeightInside_) {
       return;
     }
-    AddToDistributedLoads(Model.Loads, -*ownWeightInside_);
+    AddToDistributedLoads(Model.Inputs.Loads, -*ownWeightInside_);
     // What the subtraction leaves in the last digits is no load.
     constexpr int decimals = 12;
-    for (BoundedArray<double>* panels : {&Model.Loads.UpDistForce, &Model.Loads.DwnDistForce}) {
+    for (BoundedArray<double>* panels :
+         {&Model.Inputs.Loads.UpDistForce, &Model.Inputs.Loads.DwnDistForce}) {
       for (double& load : *panels) {
         load = RoundToDecimals(load, decimals);
       }
@@ -117,7 +117,7 @@ void frmMain::cmdKeepOwnWeight_Click() {
 }
 
 void frmMain::WithdrawOwnWeightFromLoads() {
-  if (Model.OwnWeightAdded) {
+  if (Model.OwnWeight.Added) {
     TakeOwnWeightOut();
     RefreshLoadPreview();
   }
@@ -125,9 +125,9 @@ void frmMain::WithdrawOwnWeightFromLoads() {
 
 SecondOpinion frmMain::OpinionOfLast() const {
   Circumstances circumstances{.DoubledOwnWeight = DoubledOwnWeight()};
-  if (takenSections_ && *takenSections_ == Model.ElementSection) {
-    circumstances.AfterSelection = GroupsThatFail(static_cast<const Design&>(Model),
-                                                  Model.Last.Numbers, chkOwnWeight.Checked());
+  if (takenSections_ && *takenSections_ == Model.Inputs.ElementSection) {
+    circumstances.AfterSelection =
+        GroupsThatFail(Model.ToCalculate(), Model.Last.Numbers, chkOwnWeight.Checked());
   }
   return FormSecondOpinion(Model.Last, circumstances, services_.Locale);
 }

@@ -37,35 +37,38 @@ bool frmMain::SaveTo(const std::function<std::string()>& nameOfFile) {
   return saved;
 }
 
-ProjectRecord frmMain::CollectProject() const {
-  ProjectRecord record;
-  static_cast<LoadArrays&>(record) = Model.Loads;
-  record.TreloType = static_cast<Integer>(Model.TreloData.TreloType);
-  record.UpPoyasBrace = Model.TreloData.UpPoyasBrace;
-  record.DownPoyasBrace = Model.TreloData.DownPoyasBrace;
-  record.LengthF = Number(txtLengthF);
-  record.Hight = Number(txtHight);
-  record.LenOporn = Number(txtLenOporn);
-  record.PanelNum = RoundToLong(ParseNumber(cmbPanelNum.Text(), services_.Locale));
+const DesignInputs& frmMain::ReadInputs() {
+  DesignInputs& inputs = Model.Inputs;
+  const auto number = [this](const std::string& text) {
+    return ParseNumber(text, services_.Locale);
+  };
+  inputs.LengthF = number(txtLengthF.Text());
+  inputs.Hight = number(txtHight.Text());
+  inputs.LenOporn = number(txtLenOporn.Text());
+  inputs.PanelNum = RoundToLong(number(cmbPanelNum.Text()));
+  inputs.SteelName = lblStillName.Caption();
+  inputs.Ry = number(txtRy.Text());
+  inputs.Density = number(Steel.DensitSteel);
+  inputs.ModulYung = number(Steel.ModulYung);
+  inputs.LimitFlex = number(Steel.LimitFlex);
+  inputs.Nadegnost = number(txtNadegnost.Text());
+  inputs.UsloviyaRabot = number(txtUsloviyaRabot.Text());
+  inputs.ProgibOn = chkProgib.Checked() ? 1 : 0;
+  inputs.LenLim = cmbLenlim.Text();
+  inputs.ProgibUpper = optBP.Value() ? 1 : 0;
+  inputs.ActiveGroup = optElementSection.Selected();
+  inputs.DinloadOn = chkDinloadEnable.Checked() ? 1 : 0;
+  inputs.OwnWeightOn = chkOwnWeight.Checked() ? 1 : 0;
+  inputs.AllPanelsOn = chkAllPanels.Checked() ? 1 : 0;
+  inputs.PForceTool = imgPForce.Marked() ? 1 : 0;
+  return inputs;
+}
+
+DesignInputs frmMain::CollectProject() {
+  DesignInputs record = ReadInputs();
   if (record.LenOporn == 0) {
     record.LenOporn = Real(record.LengthF) / record.PanelNum;
   }
-  record.SteelName = lblStillName.Caption();
-  record.Ry = Number(txtRy);
-  record.Density = Number(txtDensitSteel);
-  record.ModulYung = Number(txtModulYung);
-  record.LimitFlex = Number(txtLimitFlex);
-  record.Nadegnost = Number(txtNadegnost);
-  record.UsloviyaRabot = Number(txtUsloviyaRabot);
-  record.ProgibOn = chkProgib.Checked() ? 1 : 0;
-  record.LenLim = cmbLenlim.Text();
-  record.ProgibUpper = optBP.Value() ? 1 : 0;
-  record.ActiveGroup = optElementSection.Selected();
-  record.Sections = Model.ElementSection;
-  record.DinloadOn = chkDinloadEnable.Checked() ? 1 : 0;
-  record.OwnWeightOn = chkOwnWeight.Checked() ? 1 : 0;
-  record.AllPanelsOn = chkAllPanels.Checked() ? 1 : 0;
-  record.PForceTool = imgPForce.Marked() ? 1 : 0;
   return record;
 }
 
@@ -93,30 +96,30 @@ bool frmMain::RestoreFrom(const std::function<std::string()>& nameOfFile) {
   return restored;
 }
 
-void frmMain::ApplyProject(const ProjectRecord& record) {
+void frmMain::ApplyProject(const DesignInputs& record) {
   imgTreloType_Click(record.TreloType);
-  Model.TreloData.UpPoyasBrace = record.UpPoyasBrace;
+  Model.Inputs.UpPoyasBrace = record.UpPoyasBrace;
   optUpPoyas.ClearAll();
   optUpPoyas.Select(record.UpPoyasBrace);
-  Model.TreloData.DownPoyasBrace = record.DownPoyasBrace;
+  Model.Inputs.DownPoyasBrace = record.DownPoyasBrace;
   optDownPoyas.ClearAll();
   optDownPoyas.Select(record.DownPoyasBrace);
-  FillInputs(record);
+  ShowInputs(record);
 
-  Model.ElementSection = record.Sections;
+  Model.Inputs.ElementSection = record.ElementSection;
   ShowSectionSummary();
   // Intended: the inputs show the group of the file while the option that was set before stays
   // set. Showing a group raises the clicks of the lists, and those write to the group of the set
   // option; so the file's sections are put in once more, and their names after that.
   optElementSection_Click(record.ActiveGroup);
-  Model.ElementSection = record.Sections;
+  Model.Inputs.ElementSection = record.ElementSection;
   ShowSectionSummary();
 
   chkDinloadEnable.SetChecked(record.DinloadOn != 0);
   chkOwnWeight.SetChecked(record.OwnWeightOn != 0);
-  Model.Loads = static_cast<const LoadArrays&>(record);
+  Model.Inputs.Loads = record.Loads;
   // Own weight that was saved inside the loads stays there as if the user had entered it.
-  ForgetOwnWeight(Model);
+  Model.OwnWeight = {};
   takenSections_.reset();
   ChooseLoadTool(record.PForceTool != 0);
   // Before the chord changes too: its click shows loads for which there must be marks.
@@ -135,32 +138,33 @@ void frmMain::ApplyProject(const ProjectRecord& record) {
 
 void frmMain::ShowSectionSummary() {
   for (Long option = 1; option <= groupCount; ++option) {
-    const SectionRec& section = Model.ElementSection[PlaceOfOption(option)];
+    const SectionRec& section = Model.Inputs.ElementSection[PlaceOfOption(option)];
     lblProfilName[option].SetCaption(section.Profile.Name.Trimmed());
     imgProfileSec[option].Show(imgProfileSecSelect[section.Layout].Shown());
   }
 }
 
-void frmMain::FillInputs(const ProjectRecord& record) {
-  const auto put = [this](TextBox& box, double value, const char* fallback) {
-    box.SetText(value > 0 ? NumberToText(value, services_.Locale) : fallback);
+void frmMain::ShowInputs(const DesignInputs& record) {
+  const auto text = [this](double value, std::string fallback) {
+    return value > 0 ? NumberToText(value, services_.Locale) : std::move(fallback);
   };
-  put(txtLengthF, record.LengthF, "20");
-  put(txtHight, record.Hight, "1.5");
+  txtLengthF.SetText(text(record.LengthF, "20"));
+  txtHight.SetText(text(record.Hight, "1.5"));
   // Intended: another count than at start-up.
   cmbPanelNum.SetText(record.PanelNum > 1 ? std::to_string(record.PanelNum) : "12");
-  put(txtLenOporn, record.LenOporn, "");
+  txtLenOporn.SetText(text(record.LenOporn, ""));
   lblStillName.SetCaption(record.SteelName);
-  put(txtRy, record.Ry, "240");
+  txtRy.SetText(text(record.Ry, "240"));
   if (!(record.Ry > 0)) {
     // The first letter is a Latin C, as in every report so far.
     lblStillName.SetCaption("Cталь Вст3");
   }
-  put(txtModulYung, record.ModulYung, "210000");
-  put(txtDensitSteel, record.Density, "7.850");
-  put(txtNadegnost, record.Nadegnost, "1");
-  put(txtUsloviyaRabot, record.UsloviyaRabot, "0.9");
-  put(txtLimitFlex, record.LimitFlex, "150");
+  const SteelTexts start;
+  Steel = {.ModulYung = text(record.ModulYung, start.ModulYung),
+           .DensitSteel = text(record.Density, start.DensitSteel),
+           .LimitFlex = text(record.LimitFlex, start.LimitFlex)};
+  txtNadegnost.SetText(text(record.Nadegnost, "1"));
+  txtUsloviyaRabot.SetText(text(record.UsloviyaRabot, "0.9"));
   chkProgib.SetChecked(record.ProgibOn != 0);
   if (chkProgib.Checked()) {
     cmbLenlim.SetText(record.LenLim);

@@ -18,7 +18,7 @@ void ShowUnknownLayout(MessageService& messages) {
 }  // namespace
 
 SectionRec& frmMain::SelectedSection() {
-  return Model.ElementSection[PlaceOfOption(SelectedGroup())];
+  return Model.Inputs.ElementSection[PlaceOfOption(SelectedGroup())];
 }
 
 void frmMain::ColourGroup(Long option) {
@@ -77,7 +77,7 @@ void frmMain::optElementSection_Click(Long option) {
   Guard(services_.Messages, "optElementSection_Click", [&] {
     ColourGroup(option);
     // A copy: showing the values below raises the clicks of the lists, which write to the record.
-    const SectionRec section = Model.ElementSection[PlaceOfOption(option)];
+    const SectionRec section = Model.Inputs.ElementSection[PlaceOfOption(option)];
     MarkLayout(section.Layout);
     if (section.Paired) {
       // Intended: every visit adds one more entry, also one that the list has already.
@@ -170,7 +170,7 @@ void frmMain::cmbGdist_Click() {
 
 void frmMain::WithdrawOwnWeightOfOldSection() {
   // The weight in the loads belongs to the sections before the change.
-  if (Model.OwnWeightAdded) {
+  if (Model.OwnWeight.Added) {
     TakeOwnWeightOut();
   }
 }

@@ -12,9 +12,6 @@ class ParamertyScreen {
  public:
   explicit ParamertyScreen(const NumberLocale& locale = PointLocale())
       : Outside(resources_, locale) {
-    txtModulYung.SetText("210000");
-    txtDensitSteel.SetText("7.850");
-    txtLimitFlex.SetText("150");
     Form.Form_Load();
     Window = std::make_unique<ParamertyWindow>(Form, nullptr);
     ShowActive(*Window);
@@ -32,7 +29,7 @@ class ParamertyScreen {
   }
   bool Open() const { return Window->isVisible(); }
   /// Modulus, density and slenderness of the main form.
-  Texts Stored() const { return {txtModulYung.Text(), txtDensitSteel.Text(), txtLimitFlex.Text()}; }
+  Texts Stored() const { return {Steel.ModulYung, Steel.DensitSteel, Steel.LimitFlex}; }
   /// The titles of the boxes with the first line of each.
   Texts Told() const {
     Texts told;
@@ -47,13 +44,8 @@ class ParamertyScreen {
 
  public:
   LocalWorld Outside;
-  TextBox txtModulYung;
-  TextBox txtDensitSteel;
-  TextBox txtLimitFlex;
-  frmParamerty Form{Outside.Bundle(),
-                    {.txtModulYung = txtModulYung,
-                     .txtDensitSteel = txtDensitSteel,
-                     .txtLimitFlex = txtLimitFlex}};
+  SteelTexts Steel;
+  frmParamerty Form{Outside.Bundle(), Steel};
   std::unique_ptr<ParamertyWindow> Window;
 };
 

@@ -107,9 +107,7 @@ TEST(ParamertyWindowApply, IsOpenUntilItsLastBoxIsAnswered) {
   frmParamerty form(
       {messages, usual.Dialogs, usual.Clipboard, usual.Settings, usual.Registry, usual.Automation,
        usual.Shell, usual.Clock, usual.Resources, usual.Files, usual.Locale, usual.ProgramFolder},
-      {.txtModulYung = screen.txtModulYung,
-       .txtDensitSteel = screen.txtDensitSteel,
-       .txtLimitFlex = screen.txtLimitFlex});
+      screen.Steel);
   form.Form_Load();
   ParamertyWindow window(form, nullptr);
   messages.Window = &window;
@@ -159,7 +157,7 @@ TEST(ParamertyWindowApply, LeavesTheModulusAloneAtTheBoundsWithoutAWord) {
     Type(screen.Yung(), bound);
     Click(screen.Apply());
     EXPECT_EQ(screen.Told(), Texts{});
-    EXPECT_EQ(screen.txtModulYung.Text(), "210000");
+    EXPECT_EQ(screen.Steel.ModulYung, "210000");
     EXPECT_FALSE(screen.Open());
   }
 }
@@ -222,8 +220,8 @@ TEST(ParamertyWindowOfTheProgram, EditsTheHiddenValuesOfTheMainForm) {
   program.Trigger("optio");
   program.Trigger("optio");
   EXPECT_EQ(opened, 2);
-  EXPECT_EQ(program.Root.Main().txtLimitFlex.Text(), "90");
-  EXPECT_EQ(program.Root.Main().txtDensitSteel.Text(), "7.85");
+  EXPECT_EQ(program.Root.Main().Steel.LimitFlex, "90");
+  EXPECT_EQ(program.Root.Main().Steel.DensitSteel, "7.85");
 }
 
 }  // namespace

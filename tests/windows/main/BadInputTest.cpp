@@ -123,7 +123,7 @@ TEST_P(BadInput, IntoTheGapIsTold) {
   screen.TakeMessages();
   screen.GoTo(1);
   screen.PickIn("cmbGdist", "10");
-  EXPECT_EQ(screen.Main.Model.ElementSection[1].Gdist, 10);
+  EXPECT_EQ(screen.Main.Model.Inputs.ElementSection[1].Gdist, 10);
   screen.GoTo(2);
   const std::size_t before = screen.Results.size();
   screen.Press("cmdCalculate");

@@ -45,11 +45,11 @@ class Bars : public ::testing::TestWithParam<Long> {
     form.txtLenOporn.SetText(NumberToText(trussSpan / static_cast<double>(n) * 0.9, PointLocale()));
     form.cmdClearLoads_Click();
     double force = 0.5;
-    std::vector<BoundedArray<double>*> chords{&form.Model.Loads.UpPForce};
+    std::vector<BoundedArray<double>*> chords{&form.Model.Inputs.Loads.UpPForce};
     // Intended: scheme 2 takes loads of its lower chord out of their places, so that the truss is
     // not in balance under them.
     if (GetParam() != 2) {
-      chords.push_back(&form.Model.Loads.DwnPForce);
+      chords.push_back(&form.Model.Inputs.Loads.DwnPForce);
     }
     for (BoundedArray<double>* joints : chords) {
       for (double& joint : *joints) {
@@ -74,7 +74,7 @@ class Bars : public ::testing::TestWithParam<Long> {
     return counts;
   }
   const TreloResult& Result() const { return desk_.Main.Model.Last.TreloResult; }
-  const LoadArrays& Loads() const { return desk_.Main.Model.Loads; }
+  const LoadArrays& Loads() const { return desk_.Main.Model.Inputs.Loads; }
 
  private:
   StartedDesk desk_;
@@ -207,7 +207,7 @@ TEST(BarsOfReservedSchemes, AreNone) {
   StartedDesk desk;
   desk.Main.tabMain.SetTab(2);
   desk.Main.cmdCalculate_Click();
-  TreloData data = desk.Main.Model.TreloData;
+  TreloData data = desk.Main.Model.ToCalculate().TreloData;
   EXPECT_FALSE(BuildBars(CalculationOf(data, desk.Main.Model.Last.TreloResult)).empty());
   for (const Long scheme : {-1, 0, 5, 6, 7, 8, 9, 10}) {
     data.TreloType = scheme;
@@ -217,14 +217,15 @@ TEST(BarsOfReservedSchemes, AreNone) {
 
 TEST(BarsWithoutAResult, AreNone) {
   StartedDesk desk;
-  EXPECT_TRUE(BuildBars(CalculationOf(desk.Main.Model.TreloData, TreloResult())).empty());
+  EXPECT_TRUE(
+      BuildBars(CalculationOf(desk.Main.Model.ToCalculate().TreloData, TreloResult())).empty());
 }
 
 TEST(BarsOfAnotherScheme, AreNoneWhereTheForcesDoNotFit) {
   StartedDesk desk;
   desk.Main.tabMain.SetTab(2);
   desk.Main.cmdCalculate_Click();
-  TreloData data = desk.Main.Model.TreloData;
+  TreloData data = desk.Main.Model.ToCalculate().TreloData;
   data.TreloType = 3;
   EXPECT_TRUE(BuildBars(CalculationOf(data, desk.Main.Model.Last.TreloResult)).empty());
 }

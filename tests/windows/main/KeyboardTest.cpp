@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(AllTabs, Keyboard, ::testing::Values(0, 1, 2));
 TEST(KeyboardOfThePictures, SpaceChoosesThePictureWithTheFocus) {
   Screen screen;
   QTest::keyClick(&screen.Button("imgTreloType4"), Qt::Key_Space);
-  EXPECT_EQ(screen.Main.Model.TreloData.TreloType, 4);
+  EXPECT_EQ(screen.Main.Model.Inputs.TreloType, 4);
 }
 
 }  // namespace

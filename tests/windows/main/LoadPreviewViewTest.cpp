@@ -57,7 +57,7 @@ TEST_F(LoadPreviewPicture, ForcesGoToThePressedJoint) {
   PressAt(0.3);
   TypeInto("txtForceVal", "2");
   Press("cmdAddForce");
-  EXPECT_EQ(Main.Model.Loads.UpPForce[3], 2);
+  EXPECT_EQ(Main.Model.Inputs.Loads.UpPForce[3], 2);
 }
 
 TEST_F(LoadPreviewPicture, ShowsTheChosenPieceRed) {
@@ -101,7 +101,7 @@ TEST_F(LoadPreviewPicture, StaysUsableAfterItsWindow) {
   EXPECT_FALSE(form.PreviewChanged);
   form.tabMain.SetTab(2);
   AddForce(form, 1, "5");
-  EXPECT_EQ(form.Model.Loads.UpPForce[1], 5);
+  EXPECT_EQ(form.Model.Inputs.Loads.UpPForce[1], 5);
 }
 
 }  // namespace

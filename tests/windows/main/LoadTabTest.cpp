@@ -16,7 +16,7 @@ class LoadScreen : public ::testing::Test, public Screen {
     TypeInto("txtForceVal", force);
     Press("cmdAddForce");
   }
-  LoadArrays& Loads = Main.Model.Loads;
+  LoadArrays& Loads = Main.Model.Inputs.Loads;
 };
 
 TEST_F(LoadScreen, ShowsTheStartDefaults) {
@@ -168,15 +168,15 @@ TEST_F(LoadScreen, ClearsAllLoadsAndTheOwnWeight) {
   Add(1, "5");
   Press("chkOwnWeight");
   Press("cmdCalculate");
-  EXPECT_TRUE(Main.Model.OwnWeightAdded);
+  EXPECT_TRUE(Main.Model.OwnWeight.Added);
   Press("cmdClearLoads");
   EXPECT_EQ(Values(Loads.UpPForce), Zeros(11));
   EXPECT_EQ(Values(Loads.UpDistForce), Zeros(10));
   EXPECT_EQ(Values(Loads.DwnDistForce), Zeros(10));
   EXPECT_EQ(ShownMarks(Main.Preview.Up), Shown());
   EXPECT_FALSE(Button("chkOwnWeight").isChecked());
-  EXPECT_FALSE(Main.Model.OwnWeightAdded);
-  EXPECT_EQ(Main.Model.OwnWeightPerMetre, 0);
+  EXPECT_FALSE(Main.Model.OwnWeight.Added);
+  EXPECT_EQ(Main.Model.OwnWeight.PerMetre, 0);
   EXPECT_EQ(TakeMessages(), Messages());
 }
 
@@ -185,7 +185,7 @@ TEST_F(LoadScreen, OwnWeightComesWithTheCalculationAndGoesWithItsBox) {
   Press("chkOwnWeight");
   EXPECT_EQ(Values(Loads.UpDistForce), Zeros(10)) << "setting the box does nothing by itself";
   Press("cmdCalculate");
-  const double weight = Main.Model.OwnWeightPerMetre;
+  const double weight = Main.Model.OwnWeight.PerMetre;
   EXPECT_GT(weight, 0);
   EXPECT_EQ(Values(Loads.UpDistForce), std::vector<double>(10, weight));
   EXPECT_EQ(ShownMarks(Main.Preview.Up).size(), 11U);
@@ -197,8 +197,8 @@ TEST_F(LoadScreen, OwnWeightComesWithTheCalculationAndGoesWithItsBox) {
 
 TEST_F(LoadScreen, AnOwnWeightThatCannotBeTakenOutIsTold) {
   Press("chkOwnWeight");
-  Main.Model.OwnWeightAdded = true;
-  Main.Model.OwnWeightPerMetre = 0;
+  Main.Model.OwnWeight.Added = true;
+  Main.Model.OwnWeight.PerMetre = 0;
   Press("chkOwnWeight");
   const Message told{"chkOwnWeight_Click",
                      "Некорректная погонная масса фермы ! \nqMass = 0\n Собственный вес фермы не "
@@ -222,7 +222,7 @@ TEST_F(LoadScreen, MaterialNumbersGoIntoTheCalculation) {
   TypeInto("txtUsloviyaRabot", "0.95");
   TypeInto("txtNadegnost", "1.1");
   Press("chkDinloadEnable");
-  const CheckNumbers numbers = Main.ReadCheckNumbers();
+  const CheckNumbers numbers = CheckNumbersOf(Main.ReadInputs());
   EXPECT_EQ(numbers.Ry, 315.5);
   EXPECT_EQ(numbers.Yc, 0.95);
   EXPECT_EQ(numbers.Gn, 1.1);

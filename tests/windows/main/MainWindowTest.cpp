@@ -103,7 +103,7 @@ TEST(MainWindowOfAComma, ShowsItsNumbersWithIt) {
   EXPECT_EQ(screen.Hopt(), "Hopt = 2,00000");
   screen.TypeInto("txtLengthF", "24.5");
   screen.GoTo(1);
-  EXPECT_EQ(screen.Main.Model.TreloData.LengthF, 24.5);
+  EXPECT_EQ(screen.Main.Model.Accepted.LengthF, 24.5);
   EXPECT_EQ(screen.TakeMessages(), Messages());
 }
 

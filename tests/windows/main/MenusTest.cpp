@@ -42,7 +42,7 @@ TEST_F(WindowMenus, CalculationTakesTheWayThroughTheGeometry) {
   TypeInto("txtLengthF", "24");
   MenuEntry("mnuCalc").trigger();
   EXPECT_EQ(Results.size(), 1U);
-  EXPECT_EQ(Main.Model.TreloData.LengthF, 24);
+  EXPECT_EQ(Main.Model.Accepted.LengthF, 24);
   EXPECT_EQ(Tabs().currentIndex(), 2);
 }
 

@@ -18,7 +18,7 @@ class Banner : public ::testing::Test, public Screen {
     Main.chkOwnWeight.SetChecked(true);
     // A project of an older version keeps the weight in its loads.
     for (BoundedArray<double>* panels :
-         {&Main.Model.Loads.UpDistForce, &Main.Model.Loads.DwnDistForce}) {
+         {&Main.Model.Inputs.Loads.UpDistForce, &Main.Model.Inputs.Loads.DwnDistForce}) {
       for (double& load : *panels) {
         load = weight;
       }
@@ -30,7 +30,7 @@ class Banner : public ::testing::Test, public Screen {
     TakeMessages();
   }
   QWidget& Line() { return Find<QWidget>(Window, "lblOwnWeightTwice"); }
-  double Load() { return Main.Model.Loads.UpDistForce[1]; }
+  double Load() { return Main.Model.Inputs.Loads.UpDistForce[1]; }
 
   // Tonnes per metre of both chords, about what the sections of the start weigh.
   static constexpr double weight = 0.002;

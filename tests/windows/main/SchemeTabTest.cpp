@@ -42,10 +42,10 @@ TEST_F(SchemeInputs, ReachTheModelOnTheWayForward) {
   TypeInto("txtLenOporn", "2.5");
   PickIn("cmbPanelNum", "12");
   GoTo(1);
-  EXPECT_EQ(Main.Model.TreloData.LengthF, 24);
-  EXPECT_EQ(Main.Model.TreloData.Hight, 2.25);
-  EXPECT_EQ(Main.Model.TreloData.LenOporn, 2.5);
-  EXPECT_EQ(Main.Model.TreloData.PanelNum, 12);
+  EXPECT_EQ(Main.Model.Accepted.LengthF, 24);
+  EXPECT_EQ(Main.Model.Accepted.Hight, 2.25);
+  EXPECT_EQ(Main.Model.Accepted.LenOporn, 2.5);
+  EXPECT_EQ(Main.Model.Accepted.PanelNum, 12);
   EXPECT_EQ(Tabs().currentIndex(), 1);
   EXPECT_EQ(TakeMessages(), Messages());
 }
@@ -67,15 +67,15 @@ TEST_F(SchemeInputs, FollowWhatTheCodeSets) {
 TEST_F(SchemeInputs, AnEmptyEndPanelMeansEqualPanels) {
   TypeInto("txtLenOporn", "");
   GoTo(1);
-  EXPECT_EQ(Main.Model.TreloData.LenOporn, 2);
+  EXPECT_EQ(Main.Model.Accepted.LenOporn, 2);
 }
 
 TEST_F(SchemeInputs, CommaAndPointBothCount) {
   TypeInto("txtLengthF", "24,5");
   TypeInto("txtHight", "2.5");
   GoTo(1);
-  EXPECT_EQ(Main.Model.TreloData.LengthF, 24.5);
-  EXPECT_EQ(Main.Model.TreloData.Hight, 2.5);
+  EXPECT_EQ(Main.Model.Accepted.LengthF, 24.5);
+  EXPECT_EQ(Main.Model.Accepted.Hight, 2.5);
 }
 
 TEST_F(SchemeInputs, RefuseAWrongSpanAtTheTabChange) {
@@ -83,7 +83,7 @@ TEST_F(SchemeInputs, RefuseAWrongSpanAtTheTabChange) {
   GoTo(1);
   EXPECT_EQ(Tabs().currentIndex(), 0);
   EXPECT_EQ(TakeMessages(), Messages{Stop(wrongGeometry)});
-  EXPECT_EQ(Main.Model.TreloData.LengthF, 0) << "nothing was taken yet";
+  EXPECT_EQ(Main.Model.Accepted.LengthF, 0) << "nothing was taken yet";
 }
 
 TEST_F(SchemeInputs, RefuseAWrongHeightOnTheWayToTheLastTab) {
@@ -104,7 +104,7 @@ TEST_F(SchemeInputs, WarnOfSteepDiagonals) {
   TypeInto("txtHight", "4.41");
   GoTo(1);
   EXPECT_EQ(TakeMessages(), Messages{Hint(doubtfulProportions)});
-  EXPECT_EQ(Main.Model.TreloData.Hight, 4.41);
+  EXPECT_EQ(Main.Model.Accepted.Hight, 4.41);
 }
 
 TEST_F(SchemeInputs, CheckNothingOnTheWayBack) {
@@ -131,7 +131,7 @@ TEST_F(SchemeInputs, TheOptimalHeightFollowsPanelsSchemeAndAFinishedSpan) {
 TEST_F(SchemeInputs, ASchemeIsMarkedAndShown) {
   for (int scheme = 1; scheme <= 5; ++scheme) {
     PressScheme(scheme);
-    EXPECT_EQ(Main.Model.TreloData.TreloType, scheme);
+    EXPECT_EQ(Main.Model.Inputs.TreloType, scheme);
     EXPECT_EQ(Main.imgMain.Shown(), BitmapOf(static_cast<Integer>(100 + scheme)));
     for (int other = 1; other <= 10; ++other) {
       EXPECT_EQ(Button("imgTreloType" + std::to_string(other)).isChecked(), other == scheme);
@@ -144,7 +144,7 @@ TEST_F(SchemeInputs, AReservedSchemeFailsAtItsPicture) {
   for (int scheme = 6; scheme <= 10; ++scheme) {
     PressScheme(scheme);
     EXPECT_EQ(TakeMessages(), Messages{BitmapTail("imgTreloType_Click", 100 + scheme)});
-    EXPECT_EQ(Main.Model.TreloData.TreloType, 1);
+    EXPECT_EQ(Main.Model.Inputs.TreloType, 1);
     EXPECT_FALSE(Button("imgTreloType" + std::to_string(scheme)).isChecked());
   }
 }
@@ -183,9 +183,9 @@ TEST_F(SchemeInputs, OtherSchemesKeepThePanelCount) {
 
 TEST_F(SchemeInputs, ThePanelCountSizesTheLoads) {
   PickIn("cmbPanelNum", "6");
-  EXPECT_EQ(Main.Model.Loads.UpPForce.UpperBound(), 6);
+  EXPECT_EQ(Main.Model.Inputs.Loads.UpPForce.UpperBound(), 6);
   PressScheme(2);
-  EXPECT_EQ(Main.Model.Loads.DwnPForce.UpperBound(), 4);
+  EXPECT_EQ(Main.Model.Inputs.Loads.DwnPForce.UpperBound(), 4);
 }
 
 TEST_F(SchemeInputs, BracingIsStoredAtOnce) {
@@ -193,13 +193,13 @@ TEST_F(SchemeInputs, BracingIsStoredAtOnce) {
                                           "Через один", "Все узлы"};
   for (const Integer number : std::vector<Integer>{1, 3, 4, 2}) {
     Click(Brace("Верхний пояс", captions[static_cast<std::size_t>(number - 1)]));
-    EXPECT_EQ(Main.Model.TreloData.UpPoyasBrace, number);
+    EXPECT_EQ(Main.Model.Inputs.UpPoyasBrace, number);
     EXPECT_EQ(Main.optUpPoyas.Selected(), number);
   }
-  EXPECT_EQ(Main.Model.TreloData.DownPoyasBrace, 2);
+  EXPECT_EQ(Main.Model.Inputs.DownPoyasBrace, 2);
   for (const Integer number : std::vector<Integer>{1, 3, 4, 2}) {
     Click(Brace("Нижний пояс", captions[static_cast<std::size_t>(number - 1)]));
-    EXPECT_EQ(Main.Model.TreloData.DownPoyasBrace, number);
+    EXPECT_EQ(Main.Model.Inputs.DownPoyasBrace, number);
   }
 }
 

@@ -78,7 +78,7 @@ TEST_P(PressedLayout, TakesTheLastSizeOfItsLastStandard) {
   const Long last = Main.Model.ProfileTypes[standard].Rec.UpperBound();
   PickEntry(Combo("cmbTypeProfile"), Combo("cmbTypeProfile").count() - 1);
   PickEntry(Combo("cmbSectType"), Combo("cmbSectType").count() - 1);
-  const SectionRec& section = Main.Model.ElementSection[1];
+  const SectionRec& section = Main.Model.Inputs.ElementSection[1];
   EXPECT_EQ(section.Layout, layout.Number);
   EXPECT_EQ(section.TypeIdx, standard);
   EXPECT_EQ(section.SizeIdx, last);
@@ -127,7 +127,7 @@ TEST_F(SectionInputs, GoToTheRecordOfTheirGroup) {
     PickEntry(Combo("cmbSectType"), static_cast<int>(option));
     const Long size = option + 1;
     const Long record = records[static_cast<std::size_t>(option - 1)];
-    EXPECT_EQ(Main.Model.ElementSection[record].SizeIdx, size);
+    EXPECT_EQ(Main.Model.Inputs.ElementSection[record].SizeIdx, size);
     EXPECT_EQ(SizeOf(option), SizeName(Main, 1, size));
   }
 }
@@ -163,15 +163,15 @@ TEST_F(SectionInputs, EachVisitOfAPairedGroupAddsItsGapToTheList) {
 TEST_F(SectionInputs, APickedGapIsKept) {
   PressLayout(2);
   PickIn("cmbGdist", "12");
-  EXPECT_EQ(Main.Model.ElementSection[1].Gdist, 12);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[1].Gdist, 12);
 }
 
 TEST_F(SectionInputs, ATypedGapCountsOnEnter) {
   PressLayout(2);
   Type(Gap(), "7.5");
-  EXPECT_EQ(Main.Model.ElementSection[1].Gdist, 4);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[1].Gdist, 4);
   QTest::keyClick(&Gap(), Qt::Key_Return);
-  EXPECT_EQ(Main.Model.ElementSection[1].Gdist, 7.5);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[1].Gdist, 7.5);
 }
 
 TEST_F(SectionInputs, ATypedGapCountsWhenTheBoxIsLeft) {
@@ -180,7 +180,7 @@ TEST_F(SectionInputs, ATypedGapCountsWhenTheBoxIsLeft) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
   Type(Gap(), "45");
   Combo("cmbSectType").setFocus();
-  EXPECT_EQ(Main.Model.ElementSection[1].Gdist, 45);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[1].Gdist, 45);
 }
 
 TEST_F(SectionInputs, AGapThatEntriesBeginWithIsTakenAsTyped) {
@@ -188,14 +188,14 @@ TEST_F(SectionInputs, AGapThatEntriesBeginWithIsTakenAsTyped) {
   Window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
   TypeGap("3");
-  EXPECT_EQ(Main.Model.ElementSection[1].Gdist, 3);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[1].Gdist, 3);
 }
 
 TEST_F(SectionInputs, AGapThatIsNoNumberIsTold) {
   PressLayout(2);
   TypeGap("abc");
   EXPECT_EQ(TakeMessages(), Messages{TypeMismatchTail("cmbGdist_Click")});
-  EXPECT_EQ(Main.Model.ElementSection[1].Gdist, 4);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[1].Gdist, 4);
 }
 
 TEST_F(SectionInputs, TheLowerChordDoesNotTakeALayoutWithAGapThatIsNoNumber) {
@@ -214,23 +214,23 @@ TEST_F(SectionInputs, OnlyTheUpperChordForgetsItsPairing) {
     PickIn("cmbGdist", "20");
     PressLayout(6);
   }
-  EXPECT_FALSE(Main.Model.ElementSection[1].Paired);
-  EXPECT_EQ(Main.Model.ElementSection[1].Gdist, 0);
-  EXPECT_TRUE(Main.Model.ElementSection[2].Paired);
-  EXPECT_EQ(Main.Model.ElementSection[2].Gdist, 20);
+  EXPECT_FALSE(Main.Model.Inputs.ElementSection[1].Paired);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[1].Gdist, 0);
+  EXPECT_TRUE(Main.Model.Inputs.ElementSection[2].Paired);
+  EXPECT_EQ(Main.Model.Inputs.ElementSection[2].Gdist, 20);
   EXPECT_FALSE(Combo("cmbGdist").isEnabled());
 }
 
 TEST_F(SectionInputs, EveryChangeTakesTheOwnWeightOutOfTheLoads) {
   const auto withdraws = [&](const char* what, auto act) {
-    for (double& load : Main.Model.Loads.UpDistForce) {
+    for (double& load : Main.Model.Inputs.Loads.UpDistForce) {
       load = 1.5;
     }
-    Main.Model.OwnWeightAdded = true;
-    Main.Model.OwnWeightPerMetre = 0.5;
+    Main.Model.OwnWeight.Added = true;
+    Main.Model.OwnWeight.PerMetre = 0.5;
     act();
-    EXPECT_FALSE(Main.Model.OwnWeightAdded) << what;
-    EXPECT_EQ(Values(Main.Model.Loads.UpDistForce), std::vector<double>(10, 1.0)) << what;
+    EXPECT_FALSE(Main.Model.OwnWeight.Added) << what;
+    EXPECT_EQ(Values(Main.Model.Inputs.Loads.UpDistForce), std::vector<double>(10, 1.0)) << what;
   };
   withdraws("layout", [&] { PressLayout(2); });
   withdraws("standard", [&] { PickIn("cmbTypeProfile", StandardName(Main, 2)); });
@@ -239,8 +239,8 @@ TEST_F(SectionInputs, EveryChangeTakesTheOwnWeightOutOfTheLoads) {
 }
 
 TEST_F(SectionInputs, AWeightThatCannotBeTakenOutIsTold) {
-  Main.Model.OwnWeightAdded = true;
-  Main.Model.OwnWeightPerMetre = -1;
+  Main.Model.OwnWeight.Added = true;
+  Main.Model.OwnWeight.PerMetre = -1;
   PressLayout(5);
   const Message told{"chkOwnWeight_Click",
                      "Некорректная погонная масса фермы ! \nqMass = -1\n Собственный вес фермы не "
@@ -248,7 +248,7 @@ TEST_F(SectionInputs, AWeightThatCannotBeTakenOutIsTold) {
                      MessageStyle::Critical};
   ASSERT_FALSE(Outside.Messages.Shown.empty());
   EXPECT_EQ(TakeMessages().front(), told);
-  EXPECT_FALSE(Main.Model.OwnWeightAdded);
+  EXPECT_FALSE(Main.Model.OwnWeight.Added);
 }
 
 TEST_F(SectionInputs, TheCurrentGroupIsRedInTheSmallScheme) {

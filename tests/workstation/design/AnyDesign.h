@@ -53,9 +53,8 @@ inline trelonit::Design AnyDesign(const Pick& pick, Long scheme, const std::vect
              static_cast<double>(pick(1, 4)), static_cast<double>(pick(5, 25)) / 10);
   design.TreloData.UpPoyasBrace = static_cast<Integer>(pick(1, 4));
   design.TreloData.DownPoyasBrace = static_cast<Integer>(pick(1, 4));
-  design.Loads = design.TreloData;
-  LoadAny(design.Loads.UpPForce, pick);
-  LoadAny(design.Loads.DwnDistForce, pick);
+  LoadAny(design.TreloData.UpPForce, pick);
+  LoadAny(design.TreloData.DwnDistForce, pick);
   for (Long place = 1; place <= sectionCount; ++place) {
     design.ElementSection[place] = AnySection(pick, layouts[static_cast<std::size_t>(place - 1)]);
   }

@@ -74,7 +74,7 @@ TEST_F(Deflection, OfTheLowerChordIsTakenWhenItIsChosen) {
 }
 
 TEST_F(Deflection, FallsWithTheElasticModulus) {
-  form.txtModulYung.SetText("105000");
+  form.Steel.ModulYung = "105000";
   EXPECT_EQ(Calculated().at(1), "Максимальный прогиб : 0.01375 м ");
 }
 

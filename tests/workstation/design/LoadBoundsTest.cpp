@@ -63,13 +63,13 @@ TEST_F(LoadEntry, BoundsKeepTheOwnWeightInside) {
   for (double& load : loads.UpDistForce) {
     load = 0.5;
   }
-  form.Model.OwnWeightAdded = true;
-  form.Model.OwnWeightPerMetre = 0.5;
+  form.Model.OwnWeight.Added = true;
+  form.Model.OwnWeight.PerMetre = 0.5;
   Choose(form.cmbPanelNum, "8");
   EXPECT_EQ(Values(loads.UpDistForce), std::vector<double>(8, 0.5));
   form.imgTreloType_Click(2);
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.5);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.5);
 }
 
 TEST_F(LoadEntry, BoundBelowZeroLeavesTheArraysAsTheyWere) {
@@ -126,12 +126,12 @@ TEST_F(LoadEntry, ClearingLeavesTheLowerLoadsOfSchemeFive) {
 
 TEST_F(LoadEntry, ClearingDropsTheOwnWeightAndTheWishForIt) {
   form.chkOwnWeight.SetChecked(true);
-  form.Model.OwnWeightAdded = true;
-  form.Model.OwnWeightPerMetre = 0.5;
+  form.Model.OwnWeight.Added = true;
+  form.Model.OwnWeight.PerMetre = 0.5;
   AddForce(form, 3, "4");
   form.cmdClearLoads_Click();
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0);
   EXPECT_FALSE(form.chkOwnWeight.Checked());
   EXPECT_EQ(Values(loads.UpDistForce), Zeros(10));
   EXPECT_EQ(ShownMarks(form.Preview.Up), Shown());

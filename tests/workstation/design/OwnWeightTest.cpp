@@ -18,8 +18,8 @@ class OwnWeight : public ::testing::Test {
   }
 
   std::vector<double> Distributed() const {
-    std::vector<double> values = Values(form.Model.Loads.UpDistForce);
-    for (const double value : form.Model.Loads.DwnDistForce) {
+    std::vector<double> values = Values(form.Model.Inputs.Loads.UpDistForce);
+    for (const double value : form.Model.Inputs.Loads.DwnDistForce) {
       values.push_back(value);
     }
     return values;
@@ -33,9 +33,9 @@ class OwnWeight : public ::testing::Test {
 TEST_F(OwnWeight, IsSpreadOverBothChords) {
   desk.Calculate();
   EXPECT_EQ(Distributed(), std::vector<double>(8, 0.0081));
-  EXPECT_EQ(Values(form.Model.Loads.UpPForce), (std::vector<double>{0, 4, 0, 0, 0}));
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.0081);
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpPForce), (std::vector<double>{0, 4, 0, 0, 0}));
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.0081);
   EXPECT_TRUE(form.chkOwnWeight.Checked());
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
@@ -58,7 +58,7 @@ TEST_F(OwnWeight, IsInTheForcesShown) {
                 "1.1292 тонн",
                 " ",
             }));
-  EXPECT_EQ(static_cast<const LoadArrays&>(form.Model.Last.TreloData), form.Model.Loads);
+  EXPECT_EQ(static_cast<const LoadArrays&>(form.Model.Last.TreloData), form.Model.Inputs.Loads);
 }
 
 TEST_F(OwnWeight, IsShownAmongTheLoads) {
@@ -71,22 +71,22 @@ TEST_F(OwnWeight, IsShownAmongTheLoads) {
 
 TEST_F(OwnWeight, StaysAsItIsOnASecondPress) {
   const std::vector<std::string> first = desk.Calculate().lstForces;
-  const LoadArrays loads = form.Model.Loads;
+  const LoadArrays loads = form.Model.Inputs.Loads;
   previews = 0;
   const std::vector<std::string> second = desk.Calculate().lstForces;
   EXPECT_EQ(second, first);
-  EXPECT_EQ(form.Model.Loads, loads);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.0081);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.0081);
   EXPECT_EQ(previews, 0);
 }
 
 TEST_F(OwnWeight, IsReplacedWhenTheMassHasChanged) {
   desk.Calculate();
   // Another density changes the mass and leaves the weight inside the loads: 0.14768 / 16.
-  form.txtDensitSteel.SetText("9");
+  form.Steel.DensitSteel = "9";
   previews = 0;
   desk.Calculate();
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.0092);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.0092);
   EXPECT_GT(previews, 0);
   for (const double value : Distributed()) {
     EXPECT_NEAR(value, 0.0092, 1e-15);
@@ -97,12 +97,12 @@ TEST_F(OwnWeight, FollowsAnotherSection) {
   desk.Calculate();
   form.optElementSection.Select(optionStoyka);
   form.imgProfileSecSelect_Click(9);
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
   EXPECT_EQ(Distributed(), Zeros(8));
   // Tubes of 3.9 cm2 in the place of angles of 1.16 along 10 m of verticals: 0.15032 / 16.
   desk.Calculate();
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.0094);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.0094);
   EXPECT_EQ(Distributed(), std::vector<double>(8, 0.0094));
 }
 
@@ -110,12 +110,12 @@ TEST_F(OwnWeight, LeavesTheLoadsOfTheUserUnderIt) {
   form.imgDistForce_Click();
   AddForce(form, 2, "0.5");
   desk.Calculate();
-  EXPECT_EQ(Values(form.Model.Loads.UpDistForce),
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce),
             (std::vector<double>{0.0081, 0.0081, 0.5 + 0.0081, 0.0081}));
   form.chkOwnWeight.SetChecked(false);
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
-  EXPECT_NEAR(form.Model.Loads.UpDistForce[2], 0.5, 1e-15);
-  EXPECT_EQ(form.Model.Loads.UpDistForce[3], 0);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
+  EXPECT_NEAR(form.Model.Inputs.Loads.UpDistForce[2], 0.5, 1e-15);
+  EXPECT_EQ(form.Model.Inputs.Loads.UpDistForce[3], 0);
 }
 
 TEST_F(OwnWeight, IsOutOfTheNextResultsWhenItsBoxIsCleared) {
@@ -125,7 +125,7 @@ TEST_F(OwnWeight, IsOutOfTheNextResultsWhenItsBoxIsCleared) {
   SmallTruss fresh(1);
   fresh.Load(true, 1, "4");
   EXPECT_EQ(without, fresh.Calculate().lstForces);
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
   EXPECT_EQ(Distributed(), Zeros(8));
 }
 
@@ -134,8 +134,8 @@ TEST_F(OwnWeight, IsNotAddedUnasked) {
   previews = 0;
   desk.Calculate();
   EXPECT_EQ(Distributed(), Zeros(8));
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0);
   EXPECT_EQ(previews, 0);
 }
 
@@ -143,9 +143,9 @@ TEST_F(OwnWeight, StaysInTheLoadsWhenSchemeAndPanelsChange) {
   desk.Calculate();
   form.tabMain.SetTab(0);
   Choose(form.cmbPanelNum, "6");
-  EXPECT_EQ(Values(form.Model.Loads.UpDistForce),
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce),
             (std::vector<double>{0.0081, 0.0081, 0.0081, 0.0081, 0, 0}));
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
 }
 
 TEST_F(OwnWeight, IsAddedOnceMoreAfterTheLoadsWereCleared) {
@@ -175,10 +175,10 @@ TEST_F(OwnWeight, IsRoundedToFourDecimalsHalfAwayFromZero) {
 }
 
 TEST_F(OwnWeight, ThatRoundsToNothingCannotBeTakenOutLater) {
-  form.txtDensitSteel.SetText("0.01");
+  form.Steel.DensitSteel = "0.01";
   desk.Calculate();
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0);
   EXPECT_EQ(Distributed(), Zeros(8));
   form.chkOwnWeight.SetChecked(false);
   EXPECT_EQ(desk.TakeMessages(),
@@ -186,14 +186,15 @@ TEST_F(OwnWeight, ThatRoundsToNothingCannotBeTakenOutLater) {
                        "Некорректная погонная масса фермы ! \nqMass = 0\n Собственный вес фермы "
                        "не вычтен из общей нагрузки",
                        MessageStyle::Critical}}));
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
 }
 
 TEST_F(OwnWeight, OfTheSameAmountChangesNothing) {
   desk.Calculate();
-  trelonit::Design design = form.Model;
-  EXPECT_FALSE(PutOwnWeight(design, OwnWeightPerMetreOf(form.Model.Last)));
-  EXPECT_EQ(design.Loads, form.Model.Loads);
+  DesignModel& model = form.Model;
+  const LoadArrays before = model.Inputs.Loads;
+  EXPECT_FALSE(PutOwnWeight(model.Inputs.Loads, model.OwnWeight, OwnWeightPerMetreOf(model.Last)));
+  EXPECT_EQ(model.Inputs.Loads, before);
 }
 
 /// A scheme and what a metre of its chords weighs.
@@ -209,11 +210,11 @@ TEST_P(OwnWeightOfScheme, IsThatOfAllBarsOverTheLengthOfItsChords) {
   desk.Main.chkOwnWeight.SetChecked(true);
   desk.Calculate();
   const DesignModel& model = desk.Main.Model;
-  EXPECT_EQ(model.OwnWeightPerMetre, GetParam().PerMetre);
-  for (const double value : model.Loads.UpDistForce) {
+  EXPECT_EQ(model.OwnWeight.PerMetre, GetParam().PerMetre);
+  for (const double value : model.Inputs.Loads.UpDistForce) {
     EXPECT_EQ(value, GetParam().PerMetre);
   }
-  for (const double value : model.Loads.DwnDistForce) {
+  for (const double value : model.Inputs.Loads.DwnDistForce) {
     EXPECT_EQ(value, GetParam().PerMetre);
   }
   EXPECT_EQ(desk.TakeMessages(), Messages());

@@ -26,12 +26,12 @@ class DamagedProjectFile : public ProjectReading {
 
 /// What is left when nothing could be read: one load of 0 in every array, because an empty text is
 /// one number.
-ProjectRecord EmptyRecord() {
-  ProjectRecord record;
+DesignInputs EmptyRecord() {
+  DesignInputs record;
   for (BoundedArray<double> LoadArrays::*array :
        {&LoadArrays::UpPForce, &LoadArrays::UpDistForce, &LoadArrays::DwnPForce,
         &LoadArrays::DwnDistForce}) {
-    record.*array = BoundedArray<double>(0, 0);
+    record.Loads.*array = BoundedArray<double>(0, 0);
   }
   return record;
 }
@@ -71,7 +71,7 @@ TEST_F(DamagedProjectFile, WithBothFaultsTellsTheLineCountFirst) {
 }
 
 TEST_F(DamagedProjectFile, WithNothingButItsFirstLineRepeatsThatWhereATextIsWanted) {
-  ProjectRecord expected = EmptyRecord();
+  DesignInputs expected = EmptyRecord();
   expected.SteelName = "Trelo calculation save file";
   expected.LenLim = "Trelo calculation save file";
   EXPECT_EQ(Described(Read(Head(1))), Described(expected));
@@ -80,7 +80,7 @@ TEST_F(DamagedProjectFile, WithNothingButItsFirstLineRepeatsThatWhereATextIsWant
 
 TEST_F(DamagedProjectFile, CutShortRepeatsTheLastTextThatCouldBeRead) {
   // Cut after line 10, whose value is 240.
-  const ProjectRecord record = Read(Head(lineRy));
+  const DesignInputs record = Read(Head(lineRy));
   EXPECT_EQ(record.SteelName, StartUpValues().at(lineSteelName - 1));
   EXPECT_EQ(record.Ry, 240);
   EXPECT_EQ(record.Density, 240);
@@ -90,12 +90,12 @@ TEST_F(DamagedProjectFile, CutShortRepeatsTheLastTextThatCouldBeRead) {
   EXPECT_EQ(record.ActiveGroup, 240);
   const SectionRec section{
       .TypeIdx = 240, .SizeIdx = 240, .Gdist = 240, .Paired = true, .Layout = 240};
-  for (const SectionRec& read : record.Sections) {
+  for (const SectionRec& read : record.ElementSection) {
     EXPECT_EQ(read, section) << Described(read);
   }
   EXPECT_EQ(record.PForceTool, 240);
-  EXPECT_EQ(Values(record.UpPForce), std::vector<double>{240});
-  EXPECT_EQ(Values(record.DwnDistForce), std::vector<double>{240});
+  EXPECT_EQ(Values(record.Loads.UpPForce), std::vector<double>{240});
+  EXPECT_EQ(Values(record.Loads.DwnDistForce), std::vector<double>{240});
   EXPECT_EQ(desk.TakeMessages(), Messages{LineCountMessage()});
 }
 
@@ -140,11 +140,11 @@ TEST_F(DamagedProjectFile, InUtf16IsNoProject) {
     bytes += byte;
     bytes += '\0';
   }
-  const ProjectRecord record = Read(bytes);
+  const DesignInputs record = Read(bytes);
   EXPECT_EQ(desk.TakeMessages(), Messages{HeaderMessage()});
   EXPECT_EQ(record.TreloType, 0);
   EXPECT_EQ(record.LengthF, 0);
-  EXPECT_EQ(record.Sections[sectionUpPoyas], SectionRec());
+  EXPECT_EQ(record.ElementSection[sectionUpPoyas], SectionRec());
 }
 
 RC_GTEST_FIXTURE_PROP(DamagedProjectFile, OfAnyBytesNeverStopsTheReading, ()) {
@@ -203,9 +203,9 @@ TEST_F(DamagedProjectFile, OfNoiseNeverStopsTheReading) {
 /// instrumented build needs, and far below what anything but one pass would take.
 class HugeProjectFile : public DamagedProjectFile {
  protected:
-  ProjectRecord TimedRead(const std::string& bytes) {
+  DesignInputs TimedRead(const std::string& bytes) {
     const auto start = std::chrono::steady_clock::now();
-    ProjectRecord record = Read(bytes);
+    DesignInputs record = Read(bytes);
     seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     return record;
   }
@@ -214,7 +214,7 @@ class HugeProjectFile : public DamagedProjectFile {
 };
 
 TEST_F(HugeProjectFile, OfOneLineIsReadInTime) {
-  const ProjectRecord record = TimedRead(std::string(50'000'000, '7'));
+  const DesignInputs record = TimedRead(std::string(50'000'000, '7'));
   EXPECT_LT(seconds, limit);
   EXPECT_EQ(desk.TakeMessages(), (Messages{LineCountMessage(), HeaderMessage()}));
   EXPECT_EQ(record.TreloType, 0);
@@ -246,7 +246,7 @@ TEST_F(HugeProjectFile, OfFiveMillionLinesIsReadInTime) {
 }
 
 TEST_F(HugeProjectFile, OfFiveMillionEmptyLinesIsReadInTime) {
-  const ProjectRecord record = TimedRead(std::string(5'000'000, '\n'));
+  const DesignInputs record = TimedRead(std::string(5'000'000, '\n'));
   EXPECT_LT(seconds, limit);
   EXPECT_EQ(Described(record), Described(EmptyRecord()));
   EXPECT_EQ(desk.TakeMessages(), Messages{HeaderMessage()});
@@ -257,9 +257,9 @@ TEST_F(HugeProjectFile, OfTenThousandLoadsLosesNone) {
   for (int number = 1; number < 10'000; ++number) {
     loads += ";" + std::to_string(number % 10);
   }
-  const ProjectRecord record = TimedRead(ProjectBytes(With(StartUpValues(), lineUpPForce, loads)));
-  EXPECT_EQ(record.UpPForce.UpperBound(), 9999);
-  EXPECT_EQ(record.UpPForce[9999], 9);
+  const DesignInputs record = TimedRead(ProjectBytes(With(StartUpValues(), lineUpPForce, loads)));
+  EXPECT_EQ(record.Loads.UpPForce.UpperBound(), 9999);
+  EXPECT_EQ(record.Loads.UpPForce[9999], 9);
 }
 
 class UnreadableProjectFile : public DamagedProjectFile,

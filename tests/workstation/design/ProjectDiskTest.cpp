@@ -207,8 +207,8 @@ TEST_F(ProjectOnDisk, IsReadAgainAsItWasWritten) {
   form->cmdClearLoads_Click();
   form->imgTreloType_Click(1);
   EXPECT_TRUE(Restore("first.tsav"));
-  EXPECT_EQ(form->Model.Loads.UpPForce[3], -1.25);
-  EXPECT_EQ(form->Model.TreloData.TreloType, 2);
+  EXPECT_EQ(form->Model.Inputs.Loads.UpPForce[3], -1.25);
+  EXPECT_EQ(form->Model.Inputs.TreloType, 2);
   EXPECT_TRUE(Save("second.tsav"));
   EXPECT_EQ(Bytes("second.tsav"), Bytes("first.tsav"));
   EXPECT_EQ(desk.TakeMessages(), Messages());

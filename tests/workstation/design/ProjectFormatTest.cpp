@@ -49,8 +49,8 @@ TEST(ProjectFormat, WritesNumbersAsTheSystemOfTheUserDoes) {
 }
 
 /// A record in which no two fields are the same.
-ProjectRecord DistinctRecord() {
-  ProjectRecord record;
+DesignInputs DistinctRecord() {
+  DesignInputs record;
   record.TreloType = 4;
   record.UpPoyasBrace = 3;
   record.DownPoyasBrace = 1;
@@ -70,7 +70,7 @@ ProjectRecord DistinctRecord() {
   record.ProgibUpper = 0;
   record.ActiveGroup = 5;
   for (Long place = 1; place <= sectionCount; ++place) {
-    SectionRec& section = record.Sections[place];
+    SectionRec& section = record.ElementSection[place];
     section.SizeIdx = 10 + place;
     section.TypeIdx = 20 + place;
     section.Gdist = 0.5 + place;
@@ -88,10 +88,10 @@ ProjectRecord DistinctRecord() {
     }
     return made;
   };
-  record.UpPForce = array({1, -2.5});
-  record.UpDistForce = array({0.125});
-  record.DwnPForce = array({0, 0, 1e-7});
-  record.DwnDistForce = array({1e20, -0.1});
+  record.Loads.UpPForce = array({1, -2.5});
+  record.Loads.UpDistForce = array({0.125});
+  record.Loads.DwnPForce = array({0, 0, 1e-7});
+  record.Loads.DwnDistForce = array({1e20, -0.1});
   return record;
 }
 
@@ -162,36 +162,36 @@ TEST(ProjectFormat, WritesPairedAsTrue) {
 }
 
 TEST(ProjectFormat, NeverSetsTheLastFlag) {
-  ProjectRecord record = DistinctRecord();
+  DesignInputs record = DistinctRecord();
   record.ReservedFlag = true;
   EXPECT_EQ(ValuesOf(ProjectText(record, PointLocale())).back(), "False");
 }
 
 TEST(ProjectFormat, EscapesNothing) {
-  ProjectRecord record = DistinctRecord();
+  DesignInputs record = DistinctRecord();
   record.SteelName = "a\"b;c\\d'e";
   const std::string bytes = ProjectText(record, PointLocale());
   EXPECT_NE(bytes.find("\r\n\"a\"b;c\\d'e\"\r\n"), std::string::npos);
 }
 
 TEST(ProjectFormat, ReplacesWhatTheCodePageLacksByAQuestionMark) {
-  ProjectRecord record = DistinctRecord();
+  DesignInputs record = DistinctRecord();
   record.SteelName = "σ≥240 Ёё«№»\u00A0—漢";
   EXPECT_EQ(ValuesOf(ProjectText(record, PointLocale())).at(lineSteelName - 1),
             "??240 Ёё«№»\u00A0—?");
 }
 
 TEST(ProjectFormat, OfZeroIsWithoutASign) {
-  ProjectRecord record = DistinctRecord();
+  DesignInputs record = DistinctRecord();
   record.Hight = -0.0;
-  record.UpDistForce[0] = -0.0;
+  record.Loads.UpDistForce[0] = -0.0;
   const ProjectValues values = ValuesOf(ProjectText(record, PointLocale()));
   EXPECT_EQ(values.at(lineHight - 1), "0");
   EXPECT_EQ(values.at(lineUpDistForce - 1), "0");
 }
 
 TEST(ProjectFormat, HasALineForLoadsThatWereNeverMade) {
-  const ProjectValues values = ValuesOf(ProjectText(ProjectRecord(), PointLocale()));
+  const ProjectValues values = ValuesOf(ProjectText(DesignInputs(), PointLocale()));
   ASSERT_EQ(values.size(), 53U);
   for (const ProjectLine line : {lineUpPForce, lineUpDistForce, lineDwnPForce, lineDwnDistForce}) {
     EXPECT_EQ(values.at(line - 1), "");

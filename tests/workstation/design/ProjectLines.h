@@ -145,7 +145,7 @@ inline std::vector<std::string> Described(const LoadArrays& loads) {
 }
 
 /// All fields of a project as lines, so that a difference can be read.
-inline std::vector<std::string> Described(const ProjectRecord& record) {
+inline std::vector<std::string> Described(const DesignInputs& record) {
   const auto number = [](const char* name, double value) {
     return std::string(name) + " " + Exact(value);
   };
@@ -168,13 +168,14 @@ inline std::vector<std::string> Described(const ProjectRecord& record) {
                                  number("ProgibUpper", record.ProgibUpper),
                                  number("ActiveGroup", record.ActiveGroup)};
   for (Long place = 1; place <= sectionCount; ++place) {
-    lines.push_back("section " + std::to_string(place) + ": " + Described(record.Sections[place]));
+    lines.push_back("section " + std::to_string(place) + ": " +
+                    Described(record.ElementSection[place]));
   }
   lines.insert(lines.end(),
                {number("DinloadOn", record.DinloadOn), number("OwnWeightOn", record.OwnWeightOn),
                 number("AllPanelsOn", record.AllPanelsOn), number("PForceTool", record.PForceTool),
                 record.ReservedFlag ? "ReservedFlag" : "no ReservedFlag"});
-  for (const std::string& line : Described(static_cast<const LoadArrays&>(record))) {
+  for (const std::string& line : Described(record.Loads)) {
     lines.push_back(line);
   }
   return lines;
@@ -219,11 +220,11 @@ inline Message HeaderMessage() {
 /// The form after its start, as the reader of files that a test makes.
 class ProjectReading : public ::testing::Test {
  protected:
-  ProjectRecord Read(const std::string& bytes) {
+  DesignInputs Read(const std::string& bytes) {
     desk.Outside.Files.Content[projectPath] = bytes;
     return ReadApplParameters(projectPath, form.Model.ProfileTypes, desk.Outside.Bundle());
   }
-  ProjectRecord Read(const ProjectValues& values) { return Read(ProjectBytes(values)); }
+  DesignInputs Read(const ProjectValues& values) { return Read(ProjectBytes(values)); }
 
   StartedDesk desk;
   frmMain& form = desk.Main;

@@ -12,7 +12,7 @@ namespace {
 class ProjectFields : public ProjectReading {
  protected:
   /// The project of the start with another text in one line.
-  ProjectRecord ReadWith(std::size_t line, const std::string& text) {
+  DesignInputs ReadWith(std::size_t line, const std::string& text) {
     return Read(With(StartUpValues(), line, text));
   }
 };
@@ -32,7 +32,7 @@ TEST_F(ProjectFields, AreThoseOfTheLines) {
   for (const auto& [line, text] : changes) {
     values = With(values, line, text);
   }
-  ProjectRecord expected;
+  DesignInputs expected;
   expected.TreloType = 4;
   expected.UpPoyasBrace = 3;
   expected.DownPoyasBrace = 1;
@@ -51,15 +51,15 @@ TEST_F(ProjectFields, AreThoseOfTheLines) {
   expected.LenLim = "1 / 250";
   expected.ProgibUpper = 0;
   expected.ActiveGroup = 5;
-  expected.Sections = form.Model.ElementSection;
+  expected.ElementSection = form.Model.Inputs.ElementSection;
   expected.DinloadOn = 1;
   expected.OwnWeightOn = 1;
   expected.AllPanelsOn = 1;
   expected.PForceTool = 0;
-  expected.UpPForce = SplitDoubles("1;2", ";", PointLocale());
-  expected.UpDistForce = SplitDoubles("3", ";", PointLocale());
-  expected.DwnPForce = SplitDoubles("4;5;-6", ";", PointLocale());
-  expected.DwnDistForce = SplitDoubles("0.5", ";", PointLocale());
+  expected.Loads.UpPForce = SplitDoubles("1;2", ";", PointLocale());
+  expected.Loads.UpDistForce = SplitDoubles("3", ";", PointLocale());
+  expected.Loads.DwnPForce = SplitDoubles("4;5;-6", ";", PointLocale());
+  expected.Loads.DwnDistForce = SplitDoubles("0.5", ";", PointLocale());
   // The last line is not looked at.
   expected.ReservedFlag = false;
   EXPECT_EQ(Described(Read(values)), Described(expected));
@@ -83,7 +83,7 @@ TEST_F(ProjectFields, OfTheSectionsStandInTheOrderOfTheFile) {
     values = With(values, line + 4, std::to_string(number + 3));
     ++number;
   }
-  const ProjectRecord record = Read(values);
+  const DesignInputs record = Read(values);
   number = 1;
   for (const auto& [line, place] : places) {
     const SectionRec expected{.TypeIdx = number,
@@ -92,22 +92,22 @@ TEST_F(ProjectFields, OfTheSectionsStandInTheOrderOfTheFile) {
                               .Paired = number % 2 == 0,
                               .Profile = form.Model.ProfileTypes[number].Rec[number + 1],
                               .Layout = number + 3};
-    EXPECT_EQ(record.Sections[place], expected) << Described(record.Sections[place]);
+    EXPECT_EQ(record.ElementSection[place], expected) << Described(record.ElementSection[place]);
     ++number;
   }
 }
 
-using NumberField = std::pair<ProjectLine, double ProjectRecord::*>;
+using NumberField = std::pair<ProjectLine, double DesignInputs::*>;
 const std::vector<NumberField>& NumberFields() {
-  static const std::vector<NumberField> fields{{lineLengthF, &ProjectRecord::LengthF},
-                                               {lineHight, &ProjectRecord::Hight},
-                                               {lineLenOporn, &ProjectRecord::LenOporn},
-                                               {lineRy, &ProjectRecord::Ry},
-                                               {lineDensity, &ProjectRecord::Density},
-                                               {lineModulYung, &ProjectRecord::ModulYung},
-                                               {lineLimitFlex, &ProjectRecord::LimitFlex},
-                                               {lineNadegnost, &ProjectRecord::Nadegnost},
-                                               {lineUsloviyaRabot, &ProjectRecord::UsloviyaRabot}};
+  static const std::vector<NumberField> fields{{lineLengthF, &DesignInputs::LengthF},
+                                               {lineHight, &DesignInputs::Hight},
+                                               {lineLenOporn, &DesignInputs::LenOporn},
+                                               {lineRy, &DesignInputs::Ry},
+                                               {lineDensity, &DesignInputs::Density},
+                                               {lineModulYung, &DesignInputs::ModulYung},
+                                               {lineLimitFlex, &DesignInputs::LimitFlex},
+                                               {lineNadegnost, &DesignInputs::Nadegnost},
+                                               {lineUsloviyaRabot, &DesignInputs::UsloviyaRabot}};
   return fields;
 }
 
@@ -131,18 +131,18 @@ TEST_F(ProjectFields, ThatAreNoNumbersAreZero) {
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
-using WholeField = std::pair<ProjectLine, Integer ProjectRecord::*>;
+using WholeField = std::pair<ProjectLine, Integer DesignInputs::*>;
 const std::vector<WholeField>& WholeFields() {
-  static const std::vector<WholeField> fields{{lineTreloType, &ProjectRecord::TreloType},
-                                              {lineUpPoyasBrace, &ProjectRecord::UpPoyasBrace},
-                                              {lineDownPoyasBrace, &ProjectRecord::DownPoyasBrace},
-                                              {lineProgibOn, &ProjectRecord::ProgibOn},
-                                              {lineProgibUpper, &ProjectRecord::ProgibUpper},
-                                              {lineActiveGroup, &ProjectRecord::ActiveGroup},
-                                              {lineDinloadOn, &ProjectRecord::DinloadOn},
-                                              {lineOwnWeightOn, &ProjectRecord::OwnWeightOn},
-                                              {lineAllPanelsOn, &ProjectRecord::AllPanelsOn},
-                                              {linePForceTool, &ProjectRecord::PForceTool}};
+  static const std::vector<WholeField> fields{{lineTreloType, &DesignInputs::TreloType},
+                                              {lineUpPoyasBrace, &DesignInputs::UpPoyasBrace},
+                                              {lineDownPoyasBrace, &DesignInputs::DownPoyasBrace},
+                                              {lineProgibOn, &DesignInputs::ProgibOn},
+                                              {lineProgibUpper, &DesignInputs::ProgibUpper},
+                                              {lineActiveGroup, &DesignInputs::ActiveGroup},
+                                              {lineDinloadOn, &DesignInputs::DinloadOn},
+                                              {lineOwnWeightOn, &DesignInputs::OwnWeightOn},
+                                              {lineAllPanelsOn, &DesignInputs::AllPanelsOn},
+                                              {linePForceTool, &DesignInputs::PForceTool}};
   return fields;
 }
 
@@ -169,7 +169,7 @@ TEST_F(ProjectFields, AreWholeNumbersOfSixteenBits) {
       EXPECT_EQ(ReadWith(line, text).*field, expected) << line << ' ' << text;
     }
     EXPECT_EQ(ReadWith(linePanelNum, text).PanelNum, expected) << text;
-    const SectionRec section = ReadWith(lineUpPoyas + 4, text).Sections[sectionUpPoyas];
+    const SectionRec section = ReadWith(lineUpPoyas + 4, text).ElementSection[sectionUpPoyas];
     EXPECT_EQ(section.Layout, expected) << text;
   }
   EXPECT_EQ(desk.TakeMessages(), Messages());
@@ -180,7 +180,8 @@ TEST_F(ProjectFields, AreBooleansInWordsAndNumbers) {
       {"True", true}, {"False", false}, {"TRUE", true}, {"false", false}, {"1", true},
       {"-1", true},   {"0", false},     {"abc", false}, {"", false}};
   for (const auto& [text, expected] : readings) {
-    EXPECT_EQ(ReadWith(lineDwnPoyas + 3, text).Sections[sectionDwnPoyas].Paired, expected) << text;
+    EXPECT_EQ(ReadWith(lineDwnPoyas + 3, text).ElementSection[sectionDwnPoyas].Paired, expected)
+        << text;
   }
 }
 
@@ -197,11 +198,11 @@ TEST_F(ProjectFields, OfALoadThatIsNoNumberAreZero) {
   for (const auto& [text, expected] : readings) {
     for (const ProjectLine line :
          {lineUpPForce, lineUpDistForce, lineDwnPForce, lineDwnDistForce}) {
-      const ProjectRecord record = ReadWith(line, text);
-      const BoundedArray<double>& array = line == lineUpPForce      ? record.UpPForce
-                                          : line == lineUpDistForce ? record.UpDistForce
-                                          : line == lineDwnPForce   ? record.DwnPForce
-                                                                    : record.DwnDistForce;
+      const DesignInputs record = ReadWith(line, text);
+      const BoundedArray<double>& array = line == lineUpPForce      ? record.Loads.UpPForce
+                                          : line == lineUpDistForce ? record.Loads.UpDistForce
+                                          : line == lineDwnPForce   ? record.Loads.DwnPForce
+                                                                    : record.Loads.DwnDistForce;
       EXPECT_EQ(Values(array), expected) << line << ' ' << text;
       EXPECT_EQ(array.LowerBound(), 0);
     }
@@ -217,11 +218,13 @@ TEST_F(ProjectFields, LeaveTheProfileEmptyOutsideTheCatalogue) {
       {"1", "0"},  {"1", "-1"}, {"1", aboveStandards}, {"1", "32767"},       {"0", "1"},
       {"-1", "1"}, {"x", "1"},  {aboveSizes, "1"},     {"-32768", "-32768"}, {"1", "70000"}};
   for (const auto& [size, standard] : outside) {
-    const ProjectRecord record =
+    const DesignInputs record =
         Read(With(With(StartUpValues(), lineRaskos, size), lineRaskos + 1, standard));
-    EXPECT_EQ(record.Sections[sectionRaskos].Profile, ProfileRec()) << size << ' ' << standard;
-    EXPECT_EQ(record.Sections[sectionRaskos].Layout, 1);
-    EXPECT_EQ(record.Sections[sectionStoyka], form.Model.ElementSection[sectionStoyka]);
+    EXPECT_EQ(record.ElementSection[sectionRaskos].Profile, ProfileRec())
+        << size << ' ' << standard;
+    EXPECT_EQ(record.ElementSection[sectionRaskos].Layout, 1);
+    EXPECT_EQ(record.ElementSection[sectionStoyka],
+              form.Model.Inputs.ElementSection[sectionStoyka]);
   }
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
@@ -230,9 +233,10 @@ TEST_F(ProjectFields, HaveTheLastProfileOfEveryStandard) {
   const ProfileTypeArray& catalogue = form.Model.ProfileTypes;
   for (Long standard = 1; standard <= catalogue.UpperBound(); ++standard) {
     const Long size = catalogue[standard].Rec.UpperBound();
-    const ProjectRecord record = Read(With(With(StartUpValues(), lineStoyka, std::to_string(size)),
-                                           lineStoyka + 1, std::to_string(standard)));
-    EXPECT_EQ(record.Sections[sectionStoyka].Profile, catalogue[standard].Rec[size]) << standard;
+    const DesignInputs record = Read(With(With(StartUpValues(), lineStoyka, std::to_string(size)),
+                                          lineStoyka + 1, std::to_string(standard)));
+    EXPECT_EQ(record.ElementSection[sectionStoyka].Profile, catalogue[standard].Rec[size])
+        << standard;
   }
 }
 
@@ -262,7 +266,7 @@ TEST_F(ProjectFields, CanDoWithoutCarriageReturnsAndTheLastLineEnd) {
 }
 
 TEST_F(ProjectFields, EndAtTheQuoteInsideAName) {
-  const ProjectRecord record = ReadWith(lineSteelName, "Сталь \"Вст3\"");
+  const DesignInputs record = ReadWith(lineSteelName, "Сталь \"Вст3\"");
   EXPECT_EQ(record.SteelName, "Сталь ");
 }
 

@@ -59,31 +59,31 @@ SectionRec AnySection(const ProfileTypeArray& catalogue) {
   return section;
 }
 
-ProjectRecord AnyProject(const ProfileTypeArray& catalogue) {
-  ProjectRecord record;
-  for (Integer ProjectRecord::*field :
-       {&ProjectRecord::TreloType, &ProjectRecord::UpPoyasBrace, &ProjectRecord::DownPoyasBrace,
-        &ProjectRecord::ProgibOn, &ProjectRecord::ProgibUpper, &ProjectRecord::ActiveGroup,
-        &ProjectRecord::DinloadOn, &ProjectRecord::OwnWeightOn, &ProjectRecord::AllPanelsOn,
-        &ProjectRecord::PForceTool}) {
+DesignInputs AnyProject(const ProfileTypeArray& catalogue) {
+  DesignInputs record;
+  for (Integer DesignInputs::*field :
+       {&DesignInputs::TreloType, &DesignInputs::UpPoyasBrace, &DesignInputs::DownPoyasBrace,
+        &DesignInputs::ProgibOn, &DesignInputs::ProgibUpper, &DesignInputs::ActiveGroup,
+        &DesignInputs::DinloadOn, &DesignInputs::OwnWeightOn, &DesignInputs::AllPanelsOn,
+        &DesignInputs::PForceTool}) {
     record.*field = AnyInteger();
   }
-  for (double ProjectRecord::*field :
-       {&ProjectRecord::LengthF, &ProjectRecord::Hight, &ProjectRecord::LenOporn,
-        &ProjectRecord::Ry, &ProjectRecord::Density, &ProjectRecord::ModulYung,
-        &ProjectRecord::LimitFlex, &ProjectRecord::Nadegnost, &ProjectRecord::UsloviyaRabot}) {
+  for (double DesignInputs::*field :
+       {&DesignInputs::LengthF, &DesignInputs::Hight, &DesignInputs::LenOporn, &DesignInputs::Ry,
+        &DesignInputs::Density, &DesignInputs::ModulYung, &DesignInputs::LimitFlex,
+        &DesignInputs::Nadegnost, &DesignInputs::UsloviyaRabot}) {
     record.*field = AnyDecimal();
   }
   record.PanelNum = AnyInteger();
   record.SteelName = AnyText();
   record.LenLim = AnyText();
-  for (SectionRec& section : record.Sections) {
+  for (SectionRec& section : record.ElementSection) {
     section = AnySection(catalogue);
   }
   for (BoundedArray<double> LoadArrays::*array :
        {&LoadArrays::UpPForce, &LoadArrays::UpDistForce, &LoadArrays::DwnPForce,
         &LoadArrays::DwnDistForce}) {
-    record.*array = AnyLoads();
+    record.Loads.*array = AnyLoads();
   }
   return record;
 }
@@ -100,14 +100,14 @@ NumberLocale AnyLocale() {
 class ProjectRoundTrip : public ProjectReading {};
 
 RC_GTEST_FIXTURE_PROP(ProjectRoundTrip, KeepsEveryFieldInEveryPairOfLocales, ()) {
-  const ProjectRecord written = AnyProject(form.Model.ProfileTypes);
+  const DesignInputs written = AnyProject(form.Model.ProfileTypes);
   desk.Outside.Locale = AnyLocale();
   RC_ASSERT(WriteApplParameters(projectPath, written, desk.Outside.Bundle()));
   desk.Outside.Locale = AnyLocale();
-  const ProjectRecord read =
+  const DesignInputs read =
       ReadApplParameters(projectPath, form.Model.ProfileTypes, desk.Outside.Bundle());
   RC_ASSERT(Described(read) == Described(written));
-  RC_ASSERT(read.Sections == written.Sections);
+  RC_ASSERT(read.ElementSection == written.ElementSection);
   RC_ASSERT(desk.TakeMessages() == Messages());
 }
 
@@ -121,17 +121,17 @@ RC_GTEST_FIXTURE_PROP(ProjectRoundTrip, WritesAReadProjectToTheSameBytes, ()) {
 RC_GTEST_FIXTURE_PROP(ProjectRoundTrip, KeepsFifteenDigitsOfAnyNumber, (double value)) {
   RC_PRE(std::abs(value) < 1e300 && (value == 0 || std::abs(value) > 1e-290));
   desk.Outside.Locale = AnyLocale();
-  ProjectRecord written;
+  DesignInputs written;
   written.LengthF = value;
-  written.UpPForce = BoundedArray<double>(0, 0);
-  written.UpPForce[0] = value;
-  const ProjectRecord read = Read(ProjectText(written, desk.Outside.Locale));
+  written.Loads.UpPForce = BoundedArray<double>(0, 0);
+  written.Loads.UpPForce[0] = value;
+  const DesignInputs read = Read(ProjectText(written, desk.Outside.Locale));
   RC_ASSERT(std::abs(read.LengthF - value) <= std::abs(value) * 5.1e-15);
-  RC_ASSERT(read.UpPForce[0] == read.LengthF);
+  RC_ASSERT(read.Loads.UpPForce[0] == read.LengthF);
 }
 
 TEST_F(ProjectRoundTrip, KeepsEveryCharacterOfTheCodePage) {
-  ProjectRecord written;
+  DesignInputs written;
   for (int byte = 32; byte < 256; ++byte) {
     if (byte != '"') {
       written.SteelName += DecodeCodePage1251(std::string(1, static_cast<char>(byte)));
@@ -141,9 +141,9 @@ TEST_F(ProjectRoundTrip, KeepsEveryCharacterOfTheCodePage) {
 }
 
 TEST_F(ProjectRoundTrip, GivesLoadsThatWereNeverMadeOneZero) {
-  const ProjectRecord read = Read(ProjectText(ProjectRecord(), PointLocale()));
-  EXPECT_EQ(Values(read.UpPForce), Zeros(1));
-  EXPECT_EQ(Values(read.DwnDistForce), Zeros(1));
+  const DesignInputs read = Read(ProjectText(DesignInputs(), PointLocale()));
+  EXPECT_EQ(Values(read.Loads.UpPForce), Zeros(1));
+  EXPECT_EQ(Values(read.Loads.DwnDistForce), Zeros(1));
 }
 
 }  // namespace

@@ -82,8 +82,8 @@ TEST_F(SelectionByBoth, PassesBothWithTheOwnWeightOfItsSizes) {
   EXPECT_LE(GreatestOfOpinion(), 1);
   EXPECT_FALSE(results->Opinion.HasDanger());
   // The own weight inside the loads is that of these sizes, spread over 48 m of chords.
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
-  EXPECT_NEAR(form.Model.OwnWeightPerMetre, form.Model.Last.CheckData.Mass / 48, 0.5001e-4);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
+  EXPECT_NEAR(form.Model.OwnWeight.PerMetre, form.Model.Last.CheckData.Mass / 48, 0.5001e-4);
   EXPECT_TRUE(outside.Messages.Shown.empty());
 }
 
@@ -99,10 +99,10 @@ TEST_F(SelectionByBoth, TakesTheFirstSizeOfTheCatalogueThatPasses) {
   smaller.SizeIdx = upper.SizeIdx - 1;
   smaller.Profile = form.Model.ProfileTypes[equalAngles].Rec[smaller.SizeIdx];
   smaller.Gdist = GapForThickness(10, smaller.Profile.s);
-  const JudgedTruss truss = SolveTruss(byBoth->Settled->Result.TreloData);
+  const JudgedTruss truss = SolveTruss(byBoth->Settled->TreloData);
   std::vector<BarJudgement> bars(truss.Model.Bars.size());
   EXPECT_GT(LargestFigure(JudgeGroup(truss, ElementGroup::UpPoyas, ComposeSection(smaller),
-                                     form.ReadCheckNumbers(), bars)),
+                                     CheckNumbersOf(form.ReadInputs()), bars)),
             1);
 }
 
@@ -115,8 +115,8 @@ TEST_F(SelectionByBoth, IsHeavierThanTheUsualOneUnderTheSameCaption) {
 
 TEST_F(SelectionByBoth, IsTheDesignThatIsShownAndKept) {
   form.cmdCalcAndSelect_Click();
-  EXPECT_EQ(form.Model.ElementSection, byBoth->Sections);
-  EXPECT_EQ(form.Model.Loads, byBoth->Settled->Inputs.Loads);
+  EXPECT_EQ(form.Model.Inputs.ElementSection, byBoth->Sections);
+  EXPECT_EQ(form.Model.Inputs.Loads, static_cast<const LoadArrays&>(byBoth->Settled->TreloData));
   EXPECT_EQ(form.lblProfilName[optionUpPoyas].Caption(),
             byBoth->Sections[sectionUpPoyas].Profile.Name.Trimmed());
   // The next calculation finds nothing to change.
@@ -130,11 +130,11 @@ TEST_F(SelectionByBoth, IsTheDesignThatIsShownAndKept) {
 TEST_F(SelectionByBoth, LeavesTheModelAloneWhileItSearches) {
   form.cmdCalculate_Click();
   const DesignModel before = form.Model;
-  const SelectionProposal proposal =
-      SelectByOpinion(form.Model, form.Model.ProfileTypes, form.ReadCheckNumbers(), true);
-  EXPECT_EQ(form.Model.ElementSection, before.ElementSection);
-  EXPECT_EQ(form.Model.Loads, before.Loads);
-  EXPECT_NE(proposal.Sections, before.ElementSection);
+  const SelectionProposal proposal = SelectByOpinion(
+      form.Model.ToCalculate(), form.Model.ProfileTypes, CheckNumbersOf(form.ReadInputs()), true);
+  EXPECT_EQ(form.Model.Inputs.ElementSection, before.Inputs.ElementSection);
+  EXPECT_EQ(form.Model.Inputs.Loads, before.Inputs.Loads);
+  EXPECT_NE(proposal.Sections, before.Inputs.ElementSection);
 }
 
 TEST_F(SelectionByBoth, SearchesOnceWithoutOwnWeight) {
@@ -142,8 +142,8 @@ TEST_F(SelectionByBoth, SearchesOnceWithoutOwnWeight) {
   form.cmdCalcAndSelect_Click();
   ASSERT_TRUE(byBoth);
   EXPECT_EQ(byBoth->Rounds, 1);
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(Values(form.Model.Loads.DwnDistForce), Zeros(8));
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.DwnDistForce), Zeros(8));
 }
 
 TEST_F(SelectionByBoth, NamesTheGroupOfWhichNoSizePasses) {

@@ -109,9 +109,10 @@ TEST(SelectionOfAPair, ChecksWithTheGapOfTheTry) {
   const SelectionProposal proposal = ladder.Select();
   ASSERT_EQ(proposal.Sections[sectionDwnPoyas].SizeIdx, 3);
   ASSERT_EQ(proposal.Sections[sectionDwnPoyas].Gdist, 5);
-  const CheckResult expected = CheckueStress(ladder.Model.TreloData, ladder.Model.Last.TreloResult,
-                                             ladder.Numbers, proposal.Sections)
-                                   .Value;
+  const CheckResult expected =
+      CheckueStress(ladder.Model.Last.TreloData, ladder.Model.Last.TreloResult, ladder.Numbers,
+                    proposal.Sections)
+          .Value;
   EXPECT_EQ(proposal.Check.DwnPoyas.Jout, expected.DwnPoyas.Jout);
   EXPECT_EQ(proposal.Check.DwnPoyas.KUserY, expected.DwnPoyas.KUserY);
 }

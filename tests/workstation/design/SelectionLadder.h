@@ -45,13 +45,13 @@ class Ladder {
   static constexpr double userLimit = 100;
 
   explicit Ladder(Long scheme = 1) {
-    Model.TreloData = SquareDesign(scheme, 4);
-    Model.Last.TreloResult = Solved(Model.TreloData);
+    Model.Last.TreloData = SquareDesign(scheme, 4);
+    Model.Last.TreloResult = Solved(Model.Last.TreloData);
     Model.ProfileTypes = ProfileTypeArray(1, 2);
     Model.ProfileTypes[ladder].Rec = BoundedArray<ProfileRec>(1, 0);
     Model.ProfileTypes[thick].Rec = BoundedArray<ProfileRec>(1, 1);
     Model.ProfileTypes[thick].Rec[1] = Record("thick", 1000);
-    for (SectionRec& section : Model.ElementSection) {
+    for (SectionRec& section : Model.Inputs.ElementSection) {
       section.TypeIdx = thick;
       section.SizeIdx = 1;
       section.Layout = layoutOfOneProfile;
@@ -89,10 +89,11 @@ class Ladder {
 
   /// Moves the user's limit so that the group has a coefficient of exactly 1 at this size.
   void MakeExactlyOne(GroupOption group, Long size) {
-    SectionArray sections = Model.ElementSection;
+    SectionArray sections = Model.Inputs.ElementSection;
     sections[PlaceOfOption(group)].Profile = Size(size);
     const GroupCheck block = BlockOf(
-        CheckueStress(Model.TreloData, Model.Last.TreloResult, Numbers, sections).Value, group);
+        CheckueStress(Model.Last.TreloData, Model.Last.TreloResult, Numbers, sections).Value,
+        group);
     Numbers.LimitUser = std::max(block.FlexX, block.FlexY);
     Check();
   }
@@ -107,13 +108,13 @@ class Ladder {
   void Break(Long size) { Size(size).A = 0; }
 
   void Check() {
-    Model.Last.CheckData =
-        CheckueStress(Model.TreloData, Model.Last.TreloResult, Numbers, Model.ElementSection).Value;
+    Model.Last.CheckData = CheckueStress(Model.Last.TreloData, Model.Last.TreloResult, Numbers,
+                                         Model.Inputs.ElementSection)
+                               .Value;
   }
 
   SelectionProposal Select() {
-    Model.Last.TreloData = Model.TreloData;
-    Model.Last.ElementSection = Model.ElementSection;
+    Model.Last.ElementSection = Model.Inputs.ElementSection;
     Model.Last.Numbers = Numbers;
     trelonit::Messages told;
     SelectionProposal proposal = SelectSections(Model.Last, Model.ProfileTypes, told);
@@ -122,7 +123,9 @@ class Ladder {
   }
 
   ProfileRec& Size(Long size) { return Model.ProfileTypes[ladder].Rec[size]; }
-  SectionRec& SectionOf(GroupOption group) { return Model.ElementSection[PlaceOfOption(group)]; }
+  SectionRec& SectionOf(GroupOption group) {
+    return Model.Inputs.ElementSection[PlaceOfOption(group)];
+  }
 
   DesignModel Model;
   CheckNumbers Numbers{

@@ -118,7 +118,7 @@ TEST_P(SelectionWalk, IsImpossibleAfterNoTryAtTheLargest) {
   ladder.Model.Last.CheckData.Mass = 12345;
   const SelectionProposal proposal = ladder.Select();
   EXPECT_EQ(proposal.Impossible, std::set<GroupOption>{Group()});
-  EXPECT_EQ(proposal.Sections, ladder.Model.ElementSection);
+  EXPECT_EQ(proposal.Sections, ladder.Model.Inputs.ElementSection);
   EXPECT_EQ(proposal.Check.Mass, 12345);
 }
 
@@ -187,7 +187,7 @@ TEST_P(SelectionWalk, TouchesOnlySizeAndProfileOfASingleSection) {
   Ladder ladder(Group(), {3, 2, 0.9}, 1);
   ladder.SectionOf(Group()).Gdist = 99;
   const SelectionProposal proposal = ladder.Select();
-  SectionArray expected = ladder.Model.ElementSection;
+  SectionArray expected = ladder.Model.Inputs.ElementSection;
   SectionRec& section = expected[PlaceOfOption(Group())];
   section.SizeIdx = 3;
   section.Profile = ladder.Size(3);
@@ -196,12 +196,12 @@ TEST_P(SelectionWalk, TouchesOnlySizeAndProfileOfASingleSection) {
 
 TEST_P(SelectionWalk, LeavesTheModelAsItIs) {
   Ladder ladder(Group(), {3, 2, 0.9}, 1);
-  const SectionArray sections = ladder.Model.ElementSection;
-  const LoadArrays loads = ladder.Model.Loads;
+  const SectionArray sections = ladder.Model.Inputs.ElementSection;
+  const LoadArrays loads = ladder.Model.Inputs.Loads;
   const double use = LargestUse(BlockOf(ladder.Model.Last.CheckData, Group()));
   ladder.Select();
-  EXPECT_EQ(ladder.Model.ElementSection, sections);
-  EXPECT_EQ(ladder.Model.Loads, loads);
+  EXPECT_EQ(ladder.Model.Inputs.ElementSection, sections);
+  EXPECT_EQ(ladder.Model.Inputs.Loads, loads);
   EXPECT_EQ(LargestUse(BlockOf(ladder.Model.Last.CheckData, Group())), use);
 }
 
@@ -274,7 +274,7 @@ TEST_P(SelectionWalk, RaisesASubscriptErrorWhereItLeavesTheCatalogue) {
 TEST_P(SelectionWalk, ReadsNoCatalogueWhereItDoesNotMove) {
   Ladder ladder(Group(), {0.9, 0.5}, 1);
   ladder.SectionOf(Group()).TypeIdx = 0;
-  EXPECT_EQ(ladder.Select().Sections, ladder.Model.ElementSection);
+  EXPECT_EQ(ladder.Select().Sections, ladder.Model.Inputs.ElementSection);
 }
 
 TEST_P(SelectionWalk, EntersTheStandardFromBelowItsFirstSize) {
@@ -320,7 +320,7 @@ TEST(SelectionOfSeveralGroups, KeepsTheStaleMassOfTheLastTry) {
   SectionArray tried = proposal.Sections;
   tried[sectionOpornRaskos].Profile = ladder.Size(2);
   const auto massOf = [&ladder](const SectionArray& sections) {
-    return CheckueStress(ladder.Model.TreloData, ladder.Model.Last.TreloResult, ladder.Numbers,
+    return CheckueStress(ladder.Model.Last.TreloData, ladder.Model.Last.TreloResult, ladder.Numbers,
                          sections)
         .Value.Mass;
   };

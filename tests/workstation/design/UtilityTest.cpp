@@ -215,7 +215,7 @@ TEST(LargestUse, LooksAtNothingElse) {
 
 TEST(GroupInfo, ListsTheSectionOfEachGroup) {
   SmallTruss desk(1, CommaLocale());
-  desk.Main.Model.ElementSection[sectionOpornRaskos].Gdist = 12.5;
+  desk.Main.Model.Inputs.ElementSection[sectionOpornRaskos].Gdist = 12.5;
   ShowGroupInfo(desk.Main.Model, desk.Outside.Bundle());
   const Message info{debugFormTitle,
                      "Информация по выбраным типам проката : \n"

@@ -126,7 +126,7 @@ TEST_F(BracingLengths, AreNoneWhereTheBoxesMakeNoTruss) {
 TEST_F(BracingLengths, ChangeNoInputOfTheCalculation) {
   form.txtLengthF.SetText("36");
   EXPECT_NE(Taken(upper), (Texts{"2.00", "2.00", "10.00", "20.00"}));
-  EXPECT_EQ(form.Model.TreloData.LengthF, 0);
+  EXPECT_EQ(form.Model.Accepted.LengthF, 0);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 

@@ -22,12 +22,12 @@ TEST(CheckNumbersOfTheForm, ReadBothSeparatorsInEveryLocale) {
   for (const NumberLocale& locale : {PointLocale(), CommaLocale()}) {
     StartedDesk desk(locale);
     desk.Main.txtRy.SetText("240,5");
-    desk.Main.txtModulYung.SetText("2.1E5");
+    desk.Main.Steel.ModulYung = "2.1E5";
     desk.Main.txtUsloviyaRabot.SetText("0,95");
     desk.Main.txtNadegnost.SetText("1.05");
-    desk.Main.txtDensitSteel.SetText("7,9");
-    desk.Main.txtLimitFlex.SetText("120.5");
-    const CheckNumbers numbers = desk.Main.ReadCheckNumbers();
+    desk.Main.Steel.DensitSteel = "7,9";
+    desk.Main.Steel.LimitFlex = "120.5";
+    const CheckNumbers numbers = CheckNumbersOf(desk.Main.ReadInputs());
     EXPECT_EQ(numbers.Ry, 240.5);
     EXPECT_EQ(numbers.E, 210000);
     EXPECT_EQ(numbers.Yc, 0.95);
@@ -41,12 +41,12 @@ TEST(CheckNumbersOfTheForm, ReadBothSeparatorsInEveryLocale) {
 TEST(CheckNumbersOfTheForm, AreZeroForTextThatIsNoNumber) {
   StartedDesk desk;
   desk.Main.txtRy.SetText("steel");
-  desk.Main.txtModulYung.SetText("");
+  desk.Main.Steel.ModulYung = "";
   desk.Main.txtUsloviyaRabot.SetText("-");
   desk.Main.txtNadegnost.SetText("one");
-  desk.Main.txtDensitSteel.SetText("t/m3");
-  desk.Main.txtLimitFlex.SetText("none");
-  const CheckNumbers numbers = desk.Main.ReadCheckNumbers();
+  desk.Main.Steel.DensitSteel = "t/m3";
+  desk.Main.Steel.LimitFlex = "none";
+  const CheckNumbers numbers = CheckNumbersOf(desk.Main.ReadInputs());
   EXPECT_EQ(numbers.Ry, 0);
   EXPECT_EQ(numbers.E, 0);
   EXPECT_EQ(numbers.Yc, 0);
@@ -59,7 +59,7 @@ TEST(CheckNumbersOfTheForm, AreZeroForTextThatIsNoNumber) {
 TEST(CheckNumbersOfTheForm, TakeTheBoxOfDynamicLoads) {
   StartedDesk desk;
   desk.Main.chkDinloadEnable.SetChecked(true);
-  EXPECT_TRUE(desk.Main.ReadCheckNumbers().Dynamic);
+  EXPECT_TRUE(CheckNumbersOf(desk.Main.ReadInputs()).Dynamic);
 }
 
 TEST(Calculate, ShowsTheResultsOnceAndStaysOnItsTab) {
@@ -77,7 +77,7 @@ TEST(Calculate, KeepsWhatItFoundInTheModel) {
   desk.Load(false, 2, "2");
   desk.Calculate();
   const DesignModel& model = desk.Main.Model;
-  EXPECT_EQ(static_cast<const LoadArrays&>(model.Last.TreloData), model.Loads);
+  EXPECT_EQ(static_cast<const LoadArrays&>(model.Last.TreloData), model.Inputs.Loads);
   EXPECT_EQ(model.Last.TreloData.UpPForce[1], 4);
   EXPECT_EQ(model.Last.TreloData.DwnPForce[2], 2);
   EXPECT_NEAR(model.Last.TreloResult.ReactLeft, 4, 1e-12);
@@ -156,7 +156,7 @@ TEST(Calculate, LimitsTheSlendernessInTensionUnderDynamicLoads) {
 
 TEST(Calculate, MeasuresSlendernessByTheUsersLimit) {
   SmallTruss desk(1);
-  desk.Main.txtLimitFlex.SetText("75");
+  desk.Main.Steel.LimitFlex = "75";
   EXPECT_EQ(Coefficient(desk.Calculate(),
                         "Гибкость верхнего пояса по предельной гибкости, заданной пользователем"),
             "1.38778");
@@ -165,7 +165,7 @@ TEST(Calculate, MeasuresSlendernessByTheUsersLimit) {
 TEST(Calculate, ShowsAnEmptyCheckAfterTellingThatItFailed) {
   SmallTruss desk(1);
   desk.Load(true, 1, "4");
-  desk.Main.txtLimitFlex.SetText("none");
+  desk.Main.Steel.LimitFlex = "none";
   const ResultLists& lists = desk.Calculate();
   EXPECT_EQ(desk.TakeMessages(), (Messages{Tail(formTitle, 11, "Division by zero")}));
   EXPECT_EQ(lists.lstForces.at(3), " Усилие в 1-ом стержне  -3.0000 тонн");
@@ -210,14 +210,14 @@ TEST(Calculate, HasNoOwnWeightToSpreadAfterAFailedAnalysis) {
   desk.Main.tabMain.SetTab(2);
   desk.Main.chkOwnWeight.SetChecked(true);
   desk.TakeMessages();
-  const LoadArrays before = desk.Main.Model.Loads;
+  const LoadArrays before = desk.Main.Model.Inputs.Loads;
   desk.Main.cmdCalculate_Click();
   // No mass over no chords.
   EXPECT_EQ(desk.TakeMessages(),
             (Messages{Tail("CalcTrelo1", 11, "Division by zero"), wrongMass,
                       SubscriptTail(formTitle), Tail("cmdCalculate_Click", 6, "Overflow")}));
-  EXPECT_FALSE(desk.Main.Model.OwnWeightAdded);
-  EXPECT_EQ(desk.Main.Model.Loads, before);
+  EXPECT_FALSE(desk.Main.Model.OwnWeight.Added);
+  EXPECT_EQ(desk.Main.Model.Inputs.Loads, before);
 }
 
 TEST(Calculate, HasNothingToShowForAReservedScheme) {
@@ -232,7 +232,7 @@ TEST(Calculate, HasNothingToShowForAReservedScheme) {
 
 TEST(Calculate, TellsASchemeThatIsNone) {
   SmallTruss desk(1);
-  desk.Main.Model.TreloData.TreloType = 11;
+  desk.Main.Model.Inputs.TreloType = 11;
   desk.Main.cmdCalculate_Click();
   const Message unknown{"Trelo's error", "Неизвестный тип фермы, расчет не возможен ",
                         MessageStyle::Critical};
@@ -242,7 +242,7 @@ TEST(Calculate, TellsASchemeThatIsNone) {
 
 TEST(Calculate, TellsTwiceThatHiddenVerticalsHaveNoLength) {
   SmallTruss desk(3);
-  desk.Main.Model.ElementSection[sectionStoyka].Layout = 6;
+  desk.Main.Model.Inputs.ElementSection[sectionStoyka].Layout = 6;
   desk.Load(true, 1, "2");
   desk.Calculate();
   const Message noLength = Stop("Ошибочное значение длинны стержня (<=0)!");

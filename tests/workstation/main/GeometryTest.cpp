@@ -28,7 +28,7 @@ class Geometry : public ::testing::Test {
 
   StartedDesk desk;
   frmMain& form = desk.Main;
-  TreloData& data = form.Model.TreloData;
+  const AcceptedGeometry& data = form.Model.Accepted;
 };
 
 TEST_F(Geometry, IsTaken) {
@@ -46,16 +46,16 @@ TEST_F(Geometry, AcceptsCommaAndPointInEveryLocale) {
     other.Main.txtHight.SetText("2.25");
     other.Main.txtLenOporn.SetText(" 2,75 ");
     other.Main.CheckGeometry();
-    EXPECT_EQ(other.Main.Model.TreloData.LengthF, 24.5);
-    EXPECT_EQ(other.Main.Model.TreloData.Hight, 2.25);
-    EXPECT_EQ(other.Main.Model.TreloData.LenOporn, 2.75);
+    EXPECT_EQ(other.Main.Model.Accepted.LengthF, 24.5);
+    EXPECT_EQ(other.Main.Model.Accepted.Hight, 2.25);
+    EXPECT_EQ(other.Main.Model.Accepted.LenOporn, 2.75);
     EXPECT_EQ(other.TakeMessages(), Messages());
   }
 }
 
 TEST_F(Geometry, WithoutSpanOrHeightIsRefused) {
   Check("24", "2", "3");
-  const TreloData before = data;
+  const AcceptedGeometry before = data;
   Choose(form.cmbPanelNum, "12");
   form.tabMain.Click = nullptr;
   for (const auto& [L, H] : std::vector<std::pair<std::string, std::string>>{{"0", "2"},

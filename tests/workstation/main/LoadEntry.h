@@ -72,7 +72,7 @@ class LoadEntry : public ::testing::Test {
 
   StartedDesk desk;
   frmMain& form = desk.Main;
-  LoadArrays& loads = form.Model.Loads;
+  LoadArrays& loads = form.Model.Inputs.Loads;
 };
 
 }  // namespace trelonit::test

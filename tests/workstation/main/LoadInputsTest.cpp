@@ -199,17 +199,17 @@ class OwnWeightBox : public LoadEntry {
     form.chkOwnWeight.SetChecked(true);
     loads.UpDistForce[0] = 1.5;
     loads.DwnDistForce[9] = 0.5;
-    form.Model.OwnWeightAdded = true;
+    form.Model.OwnWeight.Added = true;
   }
 };
 
 TEST_F(OwnWeightBox, TakesTheWeightOutWhenCleared) {
-  form.Model.OwnWeightPerMetre = 0.5;
+  form.Model.OwnWeight.PerMetre = 0.5;
   form.chkOwnWeight.SetChecked(false);
   EXPECT_EQ(Values(loads.UpDistForce),
             (std::vector<double>{1, -0.5, -0.5, -0.5, -0.5, -0.5, -0.5, -0.5, -0.5, -0.5}));
   EXPECT_EQ(loads.DwnDistForce[9], 0);
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
   EXPECT_EQ(Bar(form.Preview.Up, 0), "(1)");
   EXPECT_EQ(Bar(form.Preview.Up, 9), "(-0.5)");
   EXPECT_EQ(desk.TakeMessages(), Messages());
@@ -220,16 +220,16 @@ TEST_F(OwnWeightBox, TellsAnAmountThatCannotBeTakenOut) {
   for (const auto& [amount, text] :
        std::vector<std::pair<double, std::string>>{{0, "0"}, {-1.5, "-1.5"}}) {
     form.chkOwnWeight.SetChecked(true);
-    form.Model.OwnWeightAdded = true;
-    form.Model.OwnWeightPerMetre = amount;
+    form.Model.OwnWeight.Added = true;
+    form.Model.OwnWeight.PerMetre = amount;
     form.chkOwnWeight.SetChecked(false);
     const Message told{"chkOwnWeight_Click",
                        "Некорректная погонная масса фермы ! \nqMass = " + text +
                            "\n Собственный вес фермы не вычтен из общей нагрузки",
                        MessageStyle::Critical};
     EXPECT_EQ(desk.TakeMessages(), Messages{told});
-    EXPECT_FALSE(form.Model.OwnWeightAdded);
-    EXPECT_EQ(form.Model.OwnWeightPerMetre, 0);
+    EXPECT_FALSE(form.Model.OwnWeight.Added);
+    EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0);
     EXPECT_EQ(loads, before);
   }
 }
@@ -237,28 +237,28 @@ TEST_F(OwnWeightBox, TellsAnAmountThatCannotBeTakenOut) {
 TEST_F(OwnWeightBox, WritesTheAmountInTheUsersLocale) {
   StartedDesk comma(CommaLocale());
   comma.Main.chkOwnWeight.SetChecked(true);
-  comma.Main.Model.OwnWeightAdded = true;
-  comma.Main.Model.OwnWeightPerMetre = -0.25;
+  comma.Main.Model.OwnWeight.Added = true;
+  comma.Main.Model.OwnWeight.PerMetre = -0.25;
   comma.Main.chkOwnWeight.SetChecked(false);
   ASSERT_EQ(comma.Outside.Messages.Shown.size(), 1U);
   EXPECT_NE(comma.Outside.Messages.Shown[0].Text.find("\nqMass = -0,25\n"), std::string::npos);
 }
 
 TEST_F(OwnWeightBox, DoesNothingWhenSet) {
-  form.Model.OwnWeightAdded = false;
+  form.Model.OwnWeight.Added = false;
   form.chkOwnWeight.SetChecked(false);
   const LoadArrays before = loads;
   form.chkOwnWeight.SetChecked(true);
-  form.Model.OwnWeightAdded = true;
-  form.Model.OwnWeightPerMetre = 0.5;
+  form.Model.OwnWeight.Added = true;
+  form.Model.OwnWeight.PerMetre = 0.5;
   form.chkOwnWeight_Click();
   EXPECT_EQ(loads, before);
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
 }
 
 TEST_F(OwnWeightBox, DoesNothingWhenClearedWithoutWeightInside) {
-  form.Model.OwnWeightAdded = false;
-  form.Model.OwnWeightPerMetre = 0.5;
+  form.Model.OwnWeight.Added = false;
+  form.Model.OwnWeight.PerMetre = 0.5;
   const LoadArrays before = loads;
   form.chkOwnWeight.SetChecked(false);
   EXPECT_EQ(loads, before);

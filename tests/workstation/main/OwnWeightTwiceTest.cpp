@@ -27,8 +27,8 @@ class OwnWeightTwice : public ::testing::Test {
   }
   bool Shown() const { return form.lblOwnWeightTwice.Visible(); }
   const std::string& Text() const { return form.lblOwnWeightTwice.Caption(); }
-  std::vector<double> Upper() const { return Values(form.Model.Loads.UpDistForce); }
-  std::vector<double> Lower() const { return Values(form.Model.Loads.DwnDistForce); }
+  std::vector<double> Upper() const { return Values(form.Model.Inputs.Loads.UpDistForce); }
+  std::vector<double> Lower() const { return Values(form.Model.Inputs.Loads.DwnDistForce); }
   std::size_t FindingsOfIt() {
     form.tabMain.SetTab(2);
     const std::vector<Finding> findings = desk.Calculate().Opinion.Findings;
@@ -44,7 +44,7 @@ class OwnWeightTwice : public ::testing::Test {
 };
 
 TEST_F(OwnWeightTwice, IsNotToldWhileTheWeightIsTheCalculationsOwn) {
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
   EXPECT_FALSE(Shown());
   EXPECT_EQ(FindingsOfIt(), 0U);
 }
@@ -73,7 +73,7 @@ TEST_F(OwnWeightTwice, IsTakenOutToTheLastDigit) {
   form.cmdTakeOwnWeightOut_Click();
   EXPECT_EQ(Upper(), (std::vector<double>{0, 0.1, 0, 0}));
   EXPECT_EQ(Lower(), Zeros(4));
-  EXPECT_EQ(Values(form.Model.Loads.UpPForce), (std::vector<double>{0, 4, 0, 0, 0}));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpPForce), (std::vector<double>{0, 4, 0, 0, 0}));
   EXPECT_FALSE(Shown());
   EXPECT_TRUE(redrawn);
   EXPECT_EQ(ShownMarks(form.Preview.Up), (test::Shown{"P1: 123 (4)", "Q1: (0.1)"}));
@@ -87,17 +87,17 @@ TEST_F(OwnWeightTwice, IsTakenOutToTheLastDigit) {
 TEST_F(OwnWeightTwice, IsTakenOutOnce) {
   Restore(saved);
   form.cmdTakeOwnWeightOut_Click();
-  const LoadArrays loads = form.Model.Loads;
+  const LoadArrays loads = form.Model.Inputs.Loads;
   form.cmdTakeOwnWeightOut_Click();
-  EXPECT_EQ(form.Model.Loads, loads);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
 }
 
 TEST_F(OwnWeightTwice, IsLeftWhereTheUserKeepsIt) {
   Restore(saved);
-  const LoadArrays loads = form.Model.Loads;
+  const LoadArrays loads = form.Model.Inputs.Loads;
   form.cmdKeepOwnWeight_Click();
   EXPECT_FALSE(Shown());
-  EXPECT_EQ(form.Model.Loads, loads);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
   // The decision lasts.
   form.chkOwnWeight.SetChecked(false);
   form.chkOwnWeight.SetChecked(true);
@@ -162,7 +162,7 @@ TEST_F(OwnWeightTwice, LeavesNothingBehindWhenItIsWithdrawn) {
   // What the console program does before it saves.
   ASSERT_EQ(Lower(), std::vector<double>(4, 0.0081));
   form.WithdrawOwnWeightFromLoads();
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
   EXPECT_EQ(Upper(), Zeros(4));
   EXPECT_EQ(Lower(), Zeros(4));
   const ProjectValues values = ValuesOf(SavedBytes(desk, form));

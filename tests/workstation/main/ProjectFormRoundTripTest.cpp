@@ -89,9 +89,9 @@ void EnterAnySteel(frmMain& form) {
   form.lblStillName.SetCaption(*rc::gen::element<std::string>(
       "Сталь С345 - фасон от 10 до 20 мм", "Cталь Вст3", "", " сталь ", "09Г2С; ГОСТ 19281"));
   form.txtRy.SetText(AnyPositive(500));
-  form.txtDensitSteel.SetText(AnyPositive(9));
-  form.txtModulYung.SetText(AnyPositive(210000));
-  form.txtLimitFlex.SetText(AnyPositive(400));
+  form.Steel.DensitSteel = AnyPositive(9);
+  form.Steel.ModulYung = AnyPositive(210000);
+  form.Steel.LimitFlex = AnyPositive(400);
   form.txtNadegnost.SetText(AnyPositive(2));
   form.txtUsloviyaRabot.SetText(AnyPositive(2));
 }
@@ -139,11 +139,11 @@ RC_GTEST_PROP(ProjectOnTheForm, IsTheSameAfterSavingAndRestoring, ()) {
   StartedDesk second;
   RC_ASSERT(RestoreBytes(second, second.Main, bytes));
   RC_ASSERT(Told(second) == nothing);
-  RC_ASSERT(second.Main.Model.Loads == first.Main.Model.Loads);
-  RC_ASSERT(second.Main.Model.ElementSection == first.Main.Model.ElementSection);
-  RC_ASSERT(second.Main.Model.TreloData.TreloType == first.Main.Model.TreloData.TreloType);
+  RC_ASSERT(second.Main.Model.Inputs.Loads == first.Main.Model.Inputs.Loads);
+  RC_ASSERT(second.Main.Model.Inputs.ElementSection == first.Main.Model.Inputs.ElementSection);
+  RC_ASSERT(second.Main.Model.Inputs.TreloType == first.Main.Model.Inputs.TreloType);
   for (Long option = 1; option <= groupCount; ++option) {
-    const SectionRec& section = first.Main.Model.ElementSection[PlaceOfOption(option)];
+    const SectionRec& section = first.Main.Model.Inputs.ElementSection[PlaceOfOption(option)];
     RC_ASSERT(second.Main.lblProfilName[option].Caption() == section.Profile.Name.Trimmed());
     RC_ASSERT(second.Main.imgProfileSec[option].Shown() ==
               second.Main.imgProfileSecSelect[section.Layout].Shown());
@@ -155,14 +155,14 @@ RC_GTEST_PROP(ProjectOnTheForm, IsTheSameWhateverStoodThereBefore, ()) {
   StartedDesk desk;
   EnterAnything(desk.Main);
   const std::string bytes = SavedBytes(desk, desk.Main);
-  const SectionArray sections = desk.Main.Model.ElementSection;
-  const LoadArrays loads = desk.Main.Model.Loads;
+  const SectionArray sections = desk.Main.Model.Inputs.ElementSection;
+  const LoadArrays loads = desk.Main.Model.Inputs.Loads;
   EnterAnything(desk.Main);
   desk.TakeMessages();
   RC_ASSERT(RestoreBytes(desk, desk.Main, bytes));
   RC_ASSERT(Told(desk) == nothing);
-  RC_ASSERT(desk.Main.Model.ElementSection == sections);
-  RC_ASSERT(desk.Main.Model.Loads == loads);
+  RC_ASSERT(desk.Main.Model.Inputs.ElementSection == sections);
+  RC_ASSERT(desk.Main.Model.Inputs.Loads == loads);
   const ProjectValues before = ValuesOf(bytes);
   ProjectValues after = ValuesOf(SavedBytes(desk, desk.Main));
   // These stay what they are unless the file's switches are on.
@@ -180,8 +180,8 @@ RC_GTEST_PROP(ProjectOnTheForm, HasTheSameNumbersUnderACommaAndUnderAPoint, ()) 
   StartedDesk point(PointLocale());
   RC_ASSERT(RestoreBytes(point, point.Main, bytes));
   RC_ASSERT(Told(point) == nothing);
-  RC_ASSERT(point.Main.Model.Loads == comma.Main.Model.Loads);
-  RC_ASSERT(point.Main.Model.ElementSection == comma.Main.Model.ElementSection);
+  RC_ASSERT(point.Main.Model.Inputs.Loads == comma.Main.Model.Inputs.Loads);
+  RC_ASSERT(point.Main.Model.Inputs.ElementSection == comma.Main.Model.Inputs.ElementSection);
 
   // And back again.
   const std::string pointBytes = SavedBytes(point, point.Main);
@@ -217,31 +217,31 @@ class ProjectWithOwnWeight : public ::testing::Test {
 };
 
 TEST_F(ProjectWithOwnWeight, KeepsItInsideTheLoadsAsIfTheUserHadEnteredIt) {
-  ASSERT_TRUE(form.Model.OwnWeightAdded);
-  const double weight = form.Model.OwnWeightPerMetre;
+  ASSERT_TRUE(form.Model.OwnWeight.Added);
+  const double weight = form.Model.OwnWeight.PerMetre;
   ASSERT_GT(weight, 0);
   const std::string bytes = SavedBytes(desk, form);
   // Saving withdraws nothing.
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
   EXPECT_EQ(ValuesOf(bytes).at(lineOwnWeightOn - 1), "1");
 
   StartedDesk other;
   EXPECT_TRUE(RestoreBytes(other, other.Main, bytes));
   EXPECT_EQ(other.TakeMessages(), Messages());
   EXPECT_TRUE(other.Main.chkOwnWeight.Checked());
-  EXPECT_FALSE(other.Main.Model.OwnWeightAdded);
-  EXPECT_EQ(other.Main.Model.OwnWeightPerMetre, 0);
-  EXPECT_NEAR(other.Main.Model.Loads.UpDistForce[0], weight, weight * 1e-13);
+  EXPECT_FALSE(other.Main.Model.OwnWeight.Added);
+  EXPECT_EQ(other.Main.Model.OwnWeight.PerMetre, 0);
+  EXPECT_NEAR(other.Main.Model.Inputs.Loads.UpDistForce[0], weight, weight * 1e-13);
   // Switching it off takes nothing out now.
   other.Main.chkOwnWeight.SetChecked(false);
-  EXPECT_NEAR(other.Main.Model.Loads.UpDistForce[0], weight, weight * 1e-13);
+  EXPECT_NEAR(other.Main.Model.Inputs.Loads.UpDistForce[0], weight, weight * 1e-13);
   // The next calculation adds it once more.
   other.Main.chkOwnWeight.SetChecked(true);
   other.Main.tabMain.SetTab(2);
   other.Main.cmdCalculate_Click();
-  EXPECT_TRUE(other.Main.Model.OwnWeightAdded);
-  EXPECT_NEAR(other.Main.Model.Loads.UpDistForce[0], weight + other.Main.Model.OwnWeightPerMetre,
-              weight * 1e-12);
+  EXPECT_TRUE(other.Main.Model.OwnWeight.Added);
+  EXPECT_NEAR(other.Main.Model.Inputs.Loads.UpDistForce[0],
+              weight + other.Main.Model.OwnWeight.PerMetre, weight * 1e-12);
 }
 
 TEST_F(ProjectWithOwnWeight, IsReplacedByAnotherProjectWithoutATrace) {
@@ -249,34 +249,34 @@ TEST_F(ProjectWithOwnWeight, IsReplacedByAnotherProjectWithoutATrace) {
     EXPECT_TRUE(
         RestoreBytes(desk, form, ProjectBytes(With(StartUpValues(), lineOwnWeightOn, ownWeight))));
     EXPECT_EQ(desk.TakeMessages(), Messages());
-    EXPECT_EQ(Values(form.Model.Loads.UpDistForce), Zeros(10));
-    EXPECT_EQ(Values(form.Model.Loads.DwnDistForce), Zeros(10));
-    EXPECT_FALSE(form.Model.OwnWeightAdded);
-    EXPECT_EQ(form.Model.OwnWeightPerMetre, 0);
+    EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce), Zeros(10));
+    EXPECT_EQ(Values(form.Model.Inputs.Loads.DwnDistForce), Zeros(10));
+    EXPECT_FALSE(form.Model.OwnWeight.Added);
+    EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0);
     form.chkOwnWeight.SetChecked(true);
     form.cmdCalculate_Click();
-    ASSERT_TRUE(form.Model.OwnWeightAdded);
+    ASSERT_TRUE(form.Model.OwnWeight.Added);
     desk.TakeMessages();
   }
 }
 
 TEST_F(ProjectWithOwnWeight, IsForgottenAlsoWhereTheShownGroupIsDamaged) {
-  ASSERT_TRUE(form.Model.OwnWeightAdded);
+  ASSERT_TRUE(form.Model.OwnWeight.Added);
   EXPECT_TRUE(RestoreBytes(
       desk, form,
       ProjectBytes(With(With(StartUpValues(), lineOwnWeightOn, "1"), lineActiveGroup, "0"))));
   EXPECT_EQ(desk.TakeMessages(), Messages{SubscriptTail("optElementSection_Click")});
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0);
-  EXPECT_EQ(Values(form.Model.Loads.UpDistForce), Zeros(10));
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0);
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce), Zeros(10));
 }
 
 TEST_F(ProjectWithOwnWeight, OfThisVeryFormIsNotWithdrawnByRestoring) {
   const std::string bytes = SavedBytes(desk, form);
-  const double inside = form.Model.Loads.UpDistForce[0];
+  const double inside = form.Model.Inputs.Loads.UpDistForce[0];
   EXPECT_TRUE(RestoreBytes(desk, form, bytes));
-  EXPECT_NEAR(form.Model.Loads.UpDistForce[0], inside, inside * 1e-13);
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
+  EXPECT_NEAR(form.Model.Inputs.Loads.UpDistForce[0], inside, inside * 1e-13);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
 }
 
 }  // namespace

@@ -54,7 +54,7 @@ TEST_F(DamagedRestore, WithoutASchemePictureKeepsTheScheme) {
     form.imgTreloType_Click(4);
     EXPECT_TRUE(RestoreWith(lineTreloType, std::to_string(scheme))) << scheme;
     EXPECT_EQ(desk.TakeMessages(), Messages{BitmapTail("imgTreloType_Click", 100 + scheme)});
-    EXPECT_EQ(form.Model.TreloData.TreloType, 4);
+    EXPECT_EQ(form.Model.Inputs.TreloType, 4);
     EXPECT_EQ(form.txtLengthF.Text(), "24");
   }
 }
@@ -85,17 +85,17 @@ TEST_F(DamagedRestore, GoesOnAfterASectionOutsideTheCatalogue) {
     EXPECT_TRUE(RestoreWith(lineUpPoyas + 1, standard)) << standard;
     // The inputs of the shown group cannot follow it.
     EXPECT_EQ(desk.TakeMessages(), Messages{SubscriptTail("optElementSection_Click")}) << standard;
-    EXPECT_EQ(form.Model.ElementSection[sectionUpPoyas].Profile, ProfileRec());
+    EXPECT_EQ(form.Model.Inputs.ElementSection[sectionUpPoyas].Profile, ProfileRec());
     EXPECT_EQ(form.lblProfilName[optionUpPoyas].Caption(), "");
     EXPECT_TRUE(form.chkDinloadEnable.Checked());
-    EXPECT_EQ(form.Model.Loads.UpPForce[5], 2.5);
+    EXPECT_EQ(form.Model.Inputs.Loads.UpPForce[5], 2.5);
   }
 }
 
 TEST_F(DamagedRestore, SaysNothingOfASectionOutsideTheCatalogueThatIsNotShown) {
   EXPECT_TRUE(RestoreWith(lineStoyka, "30000"));
   EXPECT_EQ(desk.TakeMessages(), Messages());
-  EXPECT_EQ(form.Model.ElementSection[sectionStoyka].Profile, ProfileRec());
+  EXPECT_EQ(form.Model.Inputs.ElementSection[sectionStoyka].Profile, ProfileRec());
   EXPECT_EQ(form.lblProfilName[optionStoyka].Caption(), "");
 }
 

@@ -107,12 +107,12 @@ TEST_F(RestoreCommand, FillsTheInputs) {
                                {lineDinloadOn, "1"},
                                {lineOwnWeightOn, "1"}})));
   EXPECT_EQ(desk.TakeMessages(), Messages());
-  EXPECT_EQ(form.Model.TreloData.TreloType, 2);
+  EXPECT_EQ(form.Model.Inputs.TreloType, 2);
   EXPECT_EQ(MarkedOf(form.imgTreloType), std::vector<Long>{2});
   EXPECT_EQ(form.imgMain.Shown(), BitmapOf(102));
-  EXPECT_EQ(form.Model.TreloData.UpPoyasBrace, 4);
+  EXPECT_EQ(form.Model.Inputs.UpPoyasBrace, 4);
   EXPECT_EQ(form.optUpPoyas.Selected(), 4);
-  EXPECT_EQ(form.Model.TreloData.DownPoyasBrace, 1);
+  EXPECT_EQ(form.Model.Inputs.DownPoyasBrace, 1);
   EXPECT_EQ(form.optDownPoyas.Selected(), 1);
   EXPECT_EQ(form.txtLengthF.Text(), "18.25");
   EXPECT_EQ(form.txtHight.Text(), "2.5");
@@ -120,9 +120,9 @@ TEST_F(RestoreCommand, FillsTheInputs) {
   EXPECT_EQ(form.cmbPanelNum.Text(), "12");
   EXPECT_EQ(form.lblStillName.Caption(), "Сталь 09Г2С");
   EXPECT_EQ(form.txtRy.Text(), "315.5");
-  EXPECT_EQ(form.txtDensitSteel.Text(), "7.8");
-  EXPECT_EQ(form.txtModulYung.Text(), "206000");
-  EXPECT_EQ(form.txtLimitFlex.Text(), "140");
+  EXPECT_EQ(form.Steel.DensitSteel, "7.8");
+  EXPECT_EQ(form.Steel.ModulYung, "206000");
+  EXPECT_EQ(form.Steel.LimitFlex, "140");
   EXPECT_EQ(form.txtNadegnost.Text(), "0.95");
   EXPECT_EQ(form.txtUsloviyaRabot.Text(), "1.1");
   EXPECT_TRUE(form.chkDinloadEnable.Checked());
@@ -144,17 +144,17 @@ TEST_F(RestoreCommand, DropsWhatTheInputsHeld) {
   EXPECT_FALSE(form.cmbLenlim.Enabled());
   EXPECT_EQ(form.txtProgib.Text(), "");
   EXPECT_EQ(form.optUpPoyas.Selected(), 2);
-  EXPECT_EQ(Values(form.Model.Loads.UpPForce), Zeros(11));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpPForce), Zeros(11));
 }
 
 TEST_F(RestoreCommand, GoesBackToTheFirstTabSoThatTheGeometryOfTheFileIsTaken) {
   form.tabMain.SetTab(2);
-  ASSERT_EQ(form.Model.TreloData.LengthF, 20);
+  ASSERT_EQ(form.Model.Accepted.LengthF, 20);
   EXPECT_TRUE(Restore(Changed({{lineLengthF, "24"}, {lineHight, "2.5"}})));
   EXPECT_EQ(form.tabMain.Tab(), 0);
   form.tabMain.SetTab(2);
-  EXPECT_EQ(form.Model.TreloData.LengthF, 24);
-  EXPECT_EQ(form.Model.TreloData.Hight, 2.5);
+  EXPECT_EQ(form.Model.Accepted.LengthF, 24);
+  EXPECT_EQ(form.Model.Accepted.Hight, 2.5);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
@@ -173,11 +173,11 @@ TEST_F(RestoreCommand, TakesTheFallbackOfWhatIsNotPositive) {
     EXPECT_EQ(form.cmbPanelNum.Text(), "12") << text;
     EXPECT_EQ(form.txtLenOporn.Text(), "") << text;
     EXPECT_EQ(form.txtRy.Text(), "240") << text;
-    EXPECT_EQ(form.txtModulYung.Text(), "210000") << text;
-    EXPECT_EQ(form.txtDensitSteel.Text(), "7.850") << text;
+    EXPECT_EQ(form.Steel.ModulYung, "210000") << text;
+    EXPECT_EQ(form.Steel.DensitSteel, "7.850") << text;
     EXPECT_EQ(form.txtNadegnost.Text(), "1") << text;
     EXPECT_EQ(form.txtUsloviyaRabot.Text(), "0.9") << text;
-    EXPECT_EQ(form.txtLimitFlex.Text(), "150") << text;
+    EXPECT_EQ(form.Steel.LimitFlex, "150") << text;
     // A Latin C, then Cyrillic letters.
     EXPECT_EQ(form.lblStillName.Caption(),
               "\x43"
@@ -193,7 +193,7 @@ TEST_F(RestoreCommand, TakesTheFallbackTextsAsTheyStandAlsoUnderAComma) {
       other, other.Main,
       ProjectBytes(Changed({{lineHight, "0"}, {lineDensity, "0"}, {lineUsloviyaRabot, "0"}}))));
   EXPECT_EQ(other.Main.txtHight.Text(), "1.5");
-  EXPECT_EQ(other.Main.txtDensitSteel.Text(), "7.850");
+  EXPECT_EQ(other.Main.Steel.DensitSteel, "7.850");
   EXPECT_EQ(other.Main.txtUsloviyaRabot.Text(), "0.9");
 }
 
@@ -260,7 +260,7 @@ TEST_F(RestoreCommand, PutsTheSectionsInTheirPlaces) {
     SectionRec pair = section(4, 2, 2);
     pair.Paired = true;
     pair.Gdist = 12.5;
-    const SectionArray& sections = form.Model.ElementSection;
+    const SectionArray& sections = form.Model.Inputs.ElementSection;
     EXPECT_EQ(Described(sections[sectionUpPoyas]), Described(section(3, 1, 1))) << active;
     EXPECT_EQ(Described(sections[sectionDwnPoyas]), Described(pair)) << active;
     EXPECT_EQ(Described(sections[sectionOpornRaskos]), Described(section(5, 3, 5))) << active;
@@ -333,10 +333,10 @@ TEST_F(RestoreCommand, ShowsTheLoadsOfTheUpperChord) {
   EXPECT_EQ(desk.TakeMessages(), Messages());
   EXPECT_TRUE(form.tglUpPoyas.Value());
   EXPECT_FALSE(form.tglDwnPoyas.Value());
-  EXPECT_EQ(Values(form.Model.Loads.UpPForce), (std::vector<double>{0, 0, 2.5, 0, 0}));
-  EXPECT_EQ(Values(form.Model.Loads.UpDistForce), (std::vector<double>{0, 0, 0, -0.5}));
-  EXPECT_EQ(Values(form.Model.Loads.DwnPForce), (std::vector<double>{7, 0, 0, 0, 0}));
-  EXPECT_EQ(Values(form.Model.Loads.DwnDistForce), Zeros(4));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpPForce), (std::vector<double>{0, 0, 2.5, 0, 0}));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce), (std::vector<double>{0, 0, 0, -0.5}));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.DwnPForce), (std::vector<double>{7, 0, 0, 0, 0}));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.DwnDistForce), Zeros(4));
   EXPECT_TRUE(form.Preview.Up.lblP[2].Visible);
   EXPECT_EQ(form.Preview.Up.lblP[2].Caption, "2.5");
   EXPECT_FALSE(form.Preview.Up.lblP[1].Visible);
@@ -361,15 +361,15 @@ TEST_F(RestoreCommand, KeepsTheBoundsThatTheFileGaveTheLoads) {
                    {lineUpDistForce, "4"},
                    {lineDwnPForce, "1;2;3;4;5;6;7;8;9;10;11;12;13;14"},
                    {lineDwnDistForce, ""}}));
-  EXPECT_EQ(Values(form.Model.Loads.UpPForce), (std::vector<double>{1, 2, 3}));
-  EXPECT_EQ(Values(form.Model.Loads.UpDistForce), std::vector<double>{4});
-  EXPECT_EQ(form.Model.Loads.DwnPForce.UpperBound(), 13);
-  EXPECT_EQ(Values(form.Model.Loads.DwnDistForce), Zeros(1));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpPForce), (std::vector<double>{1, 2, 3}));
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce), std::vector<double>{4});
+  EXPECT_EQ(form.Model.Inputs.Loads.DwnPForce.UpperBound(), 13);
+  EXPECT_EQ(Values(form.Model.Inputs.Loads.DwnDistForce), Zeros(1));
 }
 
 TEST_F(RestoreCommand, GoesToSchemeThreeAndBack) {
   Restore(FiveSections("1"));
-  const SectionRec verticals = form.Model.ElementSection[sectionStoyka];
+  const SectionRec verticals = form.Model.Inputs.ElementSection[sectionStoyka];
   ProjectValues lattice = FiveSections("1");
   lattice.at(lineTreloType - 1) = "3";
   lattice.at(linePanelNum - 1) = "7";
@@ -382,12 +382,12 @@ TEST_F(RestoreCommand, GoesToSchemeThreeAndBack) {
   EXPECT_EQ(form.cmbPanelNum.Text(), "7");
   EXPECT_FALSE(form.txtLenOporn.Enabled());
   EXPECT_FALSE(form.optElementSection[optionStoyka].Visible());
-  EXPECT_EQ(form.Model.ElementSection[sectionStoyka], verticals);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[sectionStoyka], verticals);
   EXPECT_TRUE(Restore(FiveSections("1")));
   EXPECT_EQ(form.cmbPanelNum.List(), Numbers(4, 30, 2));
   EXPECT_TRUE(form.txtLenOporn.Enabled());
   EXPECT_TRUE(form.optElementSection[optionStoyka].Visible());
-  EXPECT_EQ(form.Model.ElementSection[sectionStoyka], verticals);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[sectionStoyka], verticals);
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 

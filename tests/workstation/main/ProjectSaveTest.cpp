@@ -229,11 +229,11 @@ TEST(ProjectCommands, EndWithTheirTailWhereTheDialogFails) {
 }
 
 TEST_F(SaveCommand, TakesInputsThatAreNoNumbersForZero) {
-  for (TextBox* box :
-       {&form.txtLengthF, &form.txtHight, &form.txtLenOporn, &form.txtRy, &form.txtDensitSteel,
-        &form.txtModulYung, &form.txtLimitFlex, &form.txtNadegnost, &form.txtUsloviyaRabot}) {
+  for (TextBox* box : {&form.txtLengthF, &form.txtHight, &form.txtLenOporn, &form.txtRy,
+                       &form.txtNadegnost, &form.txtUsloviyaRabot}) {
     box->SetText("abc");
   }
+  form.Steel = {.ModulYung = "abc", .DensitSteel = "abc", .LimitFlex = "abc"};
   const ProjectValues values = Saved();
   for (const std::size_t line : {lineLengthF, lineHight, lineLenOporn, lineRy, lineDensity,
                                  lineModulYung, lineLimitFlex, lineNadegnost, lineUsloviyaRabot}) {
@@ -341,9 +341,9 @@ TEST_F(SaveCommand, StoresTheLoadsOfTheChords) {
 TEST_F(SaveCommand, LeavesTheFormAsItIs) {
   form.tabMain.SetTab(2);
   AddForce(form, 2, "3");
-  const LoadArrays loads = form.Model.Loads;
+  const LoadArrays loads = form.Model.Inputs.Loads;
   Saved();
-  EXPECT_EQ(form.Model.Loads, loads);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
   EXPECT_EQ(form.txtLengthF.Text(), "20");
   EXPECT_EQ(form.tabMain.Tab(), 2);
   EXPECT_EQ(desk.TakeMessages(), Messages());

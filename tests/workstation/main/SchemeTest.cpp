@@ -19,7 +19,7 @@ std::vector<bool> VerticalsShown(const frmMain& form) {
 TEST_F(Scheme, ShowsItsPicture) {
   for (const Integer scheme : {Integer{5}, Integer{2}, Integer{3}, Integer{4}, Integer{1}}) {
     form.imgTreloType_Click(scheme);
-    EXPECT_EQ(form.Model.TreloData.TreloType, scheme);
+    EXPECT_EQ(form.Model.Inputs.TreloType, scheme);
     EXPECT_EQ(MarkedOf(form.imgTreloType), std::vector<Long>{scheme});
     EXPECT_EQ(form.imgMain.Shown(), BitmapOf(static_cast<Integer>(100 + scheme)));
   }
@@ -33,7 +33,7 @@ TEST_F(Scheme, FailsWithoutALargePicture) {
               Messages{BitmapTail("imgTreloType_Click", static_cast<int>(100 + scheme))});
     // The pictures were unmarked before; the scheme is the one from before.
     EXPECT_EQ(MarkedOf(form.imgTreloType), std::vector<Long>());
-    EXPECT_EQ(form.Model.TreloData.TreloType, 1);
+    EXPECT_EQ(form.Model.Inputs.TreloType, 1);
     EXPECT_EQ(form.imgMain.Shown(), BitmapOf(101));
   }
   form.imgTreloType_Click(2);
@@ -88,12 +88,12 @@ TEST_F(Scheme, ThreeChosenAgainKeepsItsPanelCount) {
 TEST_F(Scheme, KeepsTheSectionOfTheHiddenVerticals) {
   form.optElementSection.Select(4);
   form.imgProfileSecSelect_Click(5);
-  const SectionRec verticals = form.Model.ElementSection[5];
+  const SectionRec verticals = form.Model.Inputs.ElementSection[5];
   EXPECT_EQ(verticals.Layout, 5);
   form.imgTreloType_Click(3);
-  EXPECT_EQ(form.Model.ElementSection[5], verticals);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[5], verticals);
   form.imgTreloType_Click(1);
-  EXPECT_EQ(form.Model.ElementSection[5], verticals);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[5], verticals);
   EXPECT_EQ(VerticalsShown(form), std::vector<bool>(3, true));
 }
 
@@ -124,10 +124,10 @@ TEST_F(Scheme, OptimalHeightFollowsTheSpanWhenItsBoxIsLeft) {
 }
 
 TEST_F(Scheme, OptimalHeightIsUnknownForTheReservedPictures) {
-  form.Model.TreloData.TreloType = 5;
+  form.Model.Inputs.TreloType = 5;
   form.txtLengthF_LostFocus();
   EXPECT_EQ(form.StatusBarMain[6].Caption(), "Hopt = 2.00000");
-  form.Model.TreloData.TreloType = 6;
+  form.Model.Inputs.TreloType = 6;
   form.txtLengthF_LostFocus();
   EXPECT_EQ(form.StatusBarMain[6].Caption(), "Hopt = 0.00000");
 }
@@ -187,8 +187,8 @@ TEST_F(Scheme, BracingIsTakenAtOnce) {
   for (Integer option = 1; option <= 4; ++option) {
     form.optUpPoyas.Select(option);
     form.optDownPoyas.Select(5 - option);
-    EXPECT_EQ(form.Model.TreloData.UpPoyasBrace, option);
-    EXPECT_EQ(form.Model.TreloData.DownPoyasBrace, 5 - option);
+    EXPECT_EQ(form.Model.Inputs.UpPoyasBrace, option);
+    EXPECT_EQ(form.Model.Inputs.DownPoyasBrace, 5 - option);
   }
 }
 

@@ -8,8 +8,8 @@ namespace {
 
 class SectionChoices : public ::testing::Test {
  protected:
-  const SectionRec& Upper() const { return form.Model.ElementSection[1]; }
-  const SectionRec& Lower() const { return form.Model.ElementSection[2]; }
+  const SectionRec& Upper() const { return form.Model.Inputs.ElementSection[1]; }
+  const SectionRec& Lower() const { return form.Model.Inputs.ElementSection[2]; }
 
   StartedDesk desk;
   frmMain& form = desk.Main;
@@ -83,7 +83,7 @@ TEST_F(SectionChoices, OfEqualStandardsTheLastIsTaken) {
   index.replace(static_cast<std::size_t>(12) * 58, 50, index.substr(0, 50));
   frmMain& edited = desk.MakeAndLoad();
   edited.cmbTypeProfile_Click();
-  EXPECT_EQ(edited.Model.ElementSection[1].TypeIdx, 13);
+  EXPECT_EQ(edited.Model.Inputs.ElementSection[1].TypeIdx, 13);
   EXPECT_EQ(edited.lblProfilName[1].Caption(), "Тр60x40x2");
 }
 
@@ -132,7 +132,7 @@ TEST_F(SectionChoices, GapThatIsNoNumberStopsTheOtherGroups) {
     form.imgProfileSecSelect_Click(2);
     EXPECT_EQ(desk.TakeMessages(), Messages{TypeMismatchTail("imgProfileSecSelect_Click")});
     // What came before the gap stays changed, what comes after it does not happen.
-    const SectionRec& section = form.Model.ElementSection[PlaceOfOption(option)];
+    const SectionRec& section = form.Model.Inputs.ElementSection[PlaceOfOption(option)];
     EXPECT_EQ(section.Layout, 2);
     EXPECT_EQ(section.Gdist, 0);
     EXPECT_FALSE(form.cmbGdist.Enabled());
@@ -145,7 +145,7 @@ TEST_F(SectionChoices, GapWithTheSystemsSeparatorIsReadInEveryGroup) {
   comma.Main.cmbGdist.SetText("5,5");
   comma.Main.imgProfileSecSelect_Click(2);
   EXPECT_EQ(comma.TakeMessages(), Messages());
-  EXPECT_EQ(comma.Main.Model.ElementSection[4].Gdist, 5.5);
+  EXPECT_EQ(comma.Main.Model.Inputs.ElementSection[4].Gdist, 5.5);
 }
 
 TEST_F(SectionChoices, GapClickReadsOnlyANumber) {
@@ -162,23 +162,23 @@ class SectionsWithOwnWeight : public SectionChoices {
   SectionsWithOwnWeight() { AddOwnWeight(0.25); }
 
   void AddOwnWeight(double perMetre) {
-    for (double& load : form.Model.Loads.UpDistForce) {
+    for (double& load : form.Model.Inputs.Loads.UpDistForce) {
       load = 1.25;
     }
-    for (double& load : form.Model.Loads.DwnDistForce) {
+    for (double& load : form.Model.Inputs.Loads.DwnDistForce) {
       load = 0.25;
     }
-    form.Model.Loads.UpPForce[3] = 7;
-    form.Model.OwnWeightAdded = true;
-    form.Model.OwnWeightPerMetre = perMetre;
+    form.Model.Inputs.Loads.UpPForce[3] = 7;
+    form.Model.OwnWeight.Added = true;
+    form.Model.OwnWeight.PerMetre = perMetre;
     form.chkOwnWeight.SetChecked(true);
   }
 
   void ExpectWithdrawn() {
-    EXPECT_FALSE(form.Model.OwnWeightAdded);
-    EXPECT_EQ(Values(form.Model.Loads.UpDistForce), std::vector<double>(10, 1.0));
-    EXPECT_EQ(Values(form.Model.Loads.DwnDistForce), std::vector<double>(10, 0.0));
-    EXPECT_EQ(form.Model.Loads.UpPForce[3], 7);
+    EXPECT_FALSE(form.Model.OwnWeight.Added);
+    EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce), std::vector<double>(10, 1.0));
+    EXPECT_EQ(Values(form.Model.Inputs.Loads.DwnDistForce), std::vector<double>(10, 0.0));
+    EXPECT_EQ(form.Model.Inputs.Loads.UpPForce[3], 7);
     // The wish for own weight stays: the next calculation adds the new one.
     EXPECT_TRUE(form.chkOwnWeight.Checked());
     EXPECT_EQ(desk.TakeMessages(), Messages());
@@ -202,9 +202,9 @@ TEST_F(SectionsWithOwnWeight, LoseItWithANewSize) {
 
 TEST_F(SectionsWithOwnWeight, KeepItWithANewGap) {
   Choose(form.cmbGdist, "9");
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
-  EXPECT_EQ(form.Model.Loads.UpDistForce[0], 1.25);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.25);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
+  EXPECT_EQ(form.Model.Inputs.Loads.UpDistForce[0], 1.25);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.25);
 }
 
 TEST_F(SectionsWithOwnWeight, TellAnAmountThatCannotBeWithdrawn) {
@@ -217,9 +217,9 @@ TEST_F(SectionsWithOwnWeight, TellAnAmountThatCannotBeWithdrawn) {
                            "\n Собственный вес фермы не вычтен из общей нагрузки",
                        MessageStyle::Critical};
     EXPECT_EQ(desk.TakeMessages(), Messages{told});
-    EXPECT_FALSE(form.Model.OwnWeightAdded);
-    EXPECT_EQ(form.Model.OwnWeightPerMetre, 0);
-    EXPECT_EQ(Values(form.Model.Loads.UpDistForce), std::vector<double>(10, 1.25));
+    EXPECT_FALSE(form.Model.OwnWeight.Added);
+    EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0);
+    EXPECT_EQ(Values(form.Model.Inputs.Loads.UpDistForce), std::vector<double>(10, 1.25));
   }
 }
 

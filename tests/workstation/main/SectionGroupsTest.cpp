@@ -7,7 +7,7 @@ namespace {
 
 class SectionGroups : public ::testing::Test {
  protected:
-  const SectionRec& Stored(Long place) const { return form.Model.ElementSection[place]; }
+  const SectionRec& Stored(Long place) const { return form.Model.Inputs.ElementSection[place]; }
 
   StartedDesk desk;
   frmMain& form = desk.Main;
@@ -16,14 +16,14 @@ class SectionGroups : public ::testing::Test {
 TEST_F(SectionGroups, KeepVerticalsAndSupportDiagonalsInOtherPlacesThanTheOptions) {
   const std::vector<Long> places{1, 2, 3, 5, 4};
   for (Long option = 1; option <= 5; ++option) {
-    SectionArray expected = form.Model.ElementSection;
+    SectionArray expected = form.Model.Inputs.ElementSection;
     form.optElementSection.Select(option);
     form.imgProfileSecSelect_Click(5);
     SectionRec& changed = expected[places[static_cast<std::size_t>(option - 1)]];
     changed.Layout = 5;
     changed.TypeIdx = 3;
     changed.Profile = form.Model.ProfileTypes[3].Rec[1];
-    EXPECT_EQ(form.Model.ElementSection, expected) << option;
+    EXPECT_EQ(form.Model.Inputs.ElementSection, expected) << option;
     EXPECT_EQ(form.lblProfilName[option].Caption(), "Шв5П") << option;
     EXPECT_EQ(form.imgProfileSec[option].Shown(), form.imgProfileSecSelect[5].Shown()) << option;
   }
@@ -65,7 +65,7 @@ TEST_F(SectionGroups, KeepTheirOwnValuesWhileTheUserSwitches) {
       Choose(form.cmbGdist, std::to_string(10 + option));
     }
   }
-  const SectionArray chosen = form.Model.ElementSection;
+  const SectionArray chosen = form.Model.Inputs.ElementSection;
   const std::string verticals = form.lblProfilName[4].Caption();
   EXPECT_EQ(chosen[2].Gdist, 12);
   EXPECT_EQ(chosen[3].Gdist, 13);
@@ -76,7 +76,7 @@ TEST_F(SectionGroups, KeepTheirOwnValuesWhileTheUserSwitches) {
   EXPECT_EQ(chosen[4].TypeIdx, 15);
   for (const Long option : {1, 2, 3, 4, 5, 4, 3, 2, 1, 5, 1}) {
     form.optElementSection.Select(option);
-    EXPECT_EQ(form.Model.ElementSection, chosen) << option;
+    EXPECT_EQ(form.Model.Inputs.ElementSection, chosen) << option;
   }
   EXPECT_EQ(form.lblProfilName[4].Caption(), verticals);
   EXPECT_EQ(verticals, chosen[5].Profile.Name.Trimmed());
@@ -148,17 +148,17 @@ TEST_F(SectionGroups, WriteABrokenGapInTheUsersLocale) {
   StartedDesk comma(CommaLocale());
   comma.Main.cmbGdist.SetText("7.5");
   comma.Main.imgProfileSecSelect_Click(2);
-  EXPECT_EQ(comma.Main.Model.ElementSection[1].Gdist, 7.5);
+  EXPECT_EQ(comma.Main.Model.Inputs.ElementSection[1].Gdist, 7.5);
   comma.Main.optElementSection.Select(2);
   comma.Main.optElementSection.Select(1);
   EXPECT_EQ(comma.Main.cmbGdist.Text(), "7,5");
-  EXPECT_EQ(comma.Main.Model.ElementSection[1].Gdist, 7.5);
+  EXPECT_EQ(comma.Main.Model.Inputs.ElementSection[1].Gdist, 7.5);
 }
 
 TEST_F(SectionGroups, ThatAreNotThereTakeTheTail) {
   form.optElementSection_Click(6);
   EXPECT_EQ(desk.TakeMessages(), Messages{SubscriptTail("optElementSection_Click")});
-  form.Model.ElementSection[3].TypeIdx = 23;
+  form.Model.Inputs.ElementSection[3].TypeIdx = 23;
   form.optElementSection.Select(3);
   EXPECT_EQ(desk.TakeMessages(), Messages{SubscriptTail("optElementSection_Click")});
 }

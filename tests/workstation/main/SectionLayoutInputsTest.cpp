@@ -54,7 +54,7 @@ TEST_P(LayoutInput, IsKeptInTheRecordOfTheGroup) {
   const Layout& layout = GetParam();
   StartedDesk desk;
   frmMain& form = desk.Main;
-  const SectionArray before = form.Model.ElementSection;
+  const SectionArray before = form.Model.Inputs.ElementSection;
   Choose(form.cmbGdist, "12");
   form.imgProfileSecSelect_Click(layout.Number);
   const SectionRec expected{.TypeIdx = layout.DefaultStandard,
@@ -63,9 +63,9 @@ TEST_P(LayoutInput, IsKeptInTheRecordOfTheGroup) {
                             .Paired = layout.Paired,
                             .Profile = form.Model.ProfileTypes[layout.DefaultStandard].Rec[1],
                             .Layout = layout.Number};
-  EXPECT_EQ(form.Model.ElementSection[1], expected);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[1], expected);
   for (Long place = 2; place <= 5; ++place) {
-    EXPECT_EQ(form.Model.ElementSection[place], before[place]);
+    EXPECT_EQ(form.Model.Inputs.ElementSection[place], before[place]);
   }
 }
 
@@ -77,7 +77,7 @@ TEST_P(LayoutInput, IsShownAgainWhenItsGroupIsChosenAgain) {
   const std::vector<std::string> standards = form.cmbTypeProfile.List();
   Choose(form.cmbTypeProfile, standards.back());
   Choose(form.cmbSectType, form.cmbSectType.List()[2]);
-  const SectionRec chosen = form.Model.ElementSection[1];
+  const SectionRec chosen = form.Model.Inputs.ElementSection[1];
   form.optElementSection.Select(2);
   form.optElementSection.Select(1);
   EXPECT_EQ(MarkedOf(form.imgProfileSecSelect), std::vector<Long>{layout.Number});
@@ -87,7 +87,7 @@ TEST_P(LayoutInput, IsShownAgainWhenItsGroupIsChosenAgain) {
   EXPECT_EQ(form.cmbTypeProfile.Text(), standards.back());
   EXPECT_EQ(form.cmbSectType.Text(), SizeName(form, layout.Standards.back(), 3));
   EXPECT_EQ(form.lblProfilName[1].Caption(), SizeName(form, layout.Standards.back(), 3));
-  EXPECT_EQ(form.Model.ElementSection[1], chosen);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[1], chosen);
   EXPECT_EQ(chosen.TypeIdx, layout.Standards.back());
   EXPECT_EQ(chosen.SizeIdx, 3);
   EXPECT_EQ(chosen.Profile, form.Model.ProfileTypes[chosen.TypeIdx].Rec[3]);
@@ -117,17 +117,17 @@ const Message unknownLayout =
 TEST(UnknownLayout, IsToldAndChangesNothingFurther) {
   StartedDesk desk;
   frmMain& form = desk.Main;
-  form.Model.OwnWeightAdded = true;
-  form.Model.OwnWeightPerMetre = 0.5;
-  const SectionRec before = form.Model.ElementSection[1];
+  form.Model.OwnWeight.Added = true;
+  form.Model.OwnWeight.PerMetre = 0.5;
+  const SectionRec before = form.Model.Inputs.ElementSection[1];
   for (const Long layout : {0, 12, -1}) {
     form.imgProfileSecSelect_Click(layout);
     EXPECT_EQ(desk.TakeMessages(), Messages{unknownLayout});
   }
-  EXPECT_EQ(form.Model.ElementSection[1].Profile, before.Profile);
-  EXPECT_EQ(form.Model.ElementSection[1].Paired, before.Paired);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[1].Profile, before.Profile);
+  EXPECT_EQ(form.Model.Inputs.ElementSection[1].Paired, before.Paired);
   EXPECT_EQ(form.cmbTypeProfile.List().size(), 2U);
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
 }
 
 TEST(UnknownLayout, IsToldByTheListsToo) {
@@ -141,7 +141,7 @@ TEST(UnknownLayout, IsToldByTheListsToo) {
 TEST(UnknownLayout, OfAGroupIsToldWhenTheGroupIsChosen) {
   StartedDesk desk;
   frmMain& form = desk.Main;
-  form.Model.ElementSection[2].Layout = 12;
+  form.Model.Inputs.ElementSection[2].Layout = 12;
   const Picture before = form.imgProfView.Shown();
   form.optElementSection.Select(2);
   EXPECT_EQ(desk.TakeMessages(), Messages{unknownLayout});

@@ -68,9 +68,9 @@ TEST(CalcAndSelect, ProposesForWhatCalculateWouldFind) {
       desk.Main.chkOwnWeight.SetChecked(ownWeight);
       other.Main.chkOwnWeight.SetChecked(ownWeight);
       ExpectSame(desk.Select(false), ProposalAfterCalculate(other));
-      EXPECT_EQ(desk.Main.Model.Loads, other.Main.Model.Loads);
-      EXPECT_EQ(desk.Main.Model.OwnWeightAdded, ownWeight);
-      EXPECT_EQ(desk.Main.Model.OwnWeightPerMetre, other.Main.Model.OwnWeightPerMetre);
+      EXPECT_EQ(desk.Main.Model.Inputs.Loads, other.Main.Model.Inputs.Loads);
+      EXPECT_EQ(desk.Main.Model.OwnWeight.Added, ownWeight);
+      EXPECT_EQ(desk.Main.Model.OwnWeight.PerMetre, other.Main.Model.OwnWeight.PerMetre);
     }
   }
 }
@@ -82,7 +82,7 @@ TEST(CalcAndSelect, ReadsTheNumbersOfTheForm) {
   LoadedTruss other;
   for (LoadedTruss* truss : {&desk, &other}) {
     truss->Main.txtRy.SetText("120,5");
-    truss->Main.txtLimitFlex.SetText("80");
+    truss->Main.Steel.LimitFlex = "80";
     truss->Main.chkDinloadEnable.SetChecked(true);
   }
   ExpectSame(desk.Select(false), ProposalAfterCalculate(other));
@@ -123,12 +123,12 @@ TEST(CalcAndSelect, LeavesEverythingAsCalculateWouldWhereTheUserDoesNotTakeIt) {
   for (const Long scheme : {1, 3}) {
     LoadedTruss desk(scheme);
     LoadedTruss other(scheme);
-    const SectionArray before = desk.Main.Model.ElementSection;
+    const SectionArray before = desk.Main.Model.Inputs.ElementSection;
     const std::vector<std::string> shown = desk.SizesShown();
     desk.Select(false);
     ASSERT_NE(NamesOf(desk.Proposals[0].Sections), NamesOf(before));
     const ResultLists& expected = other.Calculate();
-    EXPECT_EQ(desk.Main.Model.ElementSection, before);
+    EXPECT_EQ(desk.Main.Model.Inputs.ElementSection, before);
     EXPECT_EQ(desk.SizesShown(), shown);
     EXPECT_EQ(Numbers(desk.Main.Model.Last.CheckData), Numbers(other.Main.Model.Last.CheckData));
     ASSERT_EQ(desk.Results.size(), 1U);
@@ -142,7 +142,7 @@ TEST(CalcAndSelect, PutsWhatTheUserTakesIntoTheForm) {
     LoadedTruss desk(scheme);
     const SelectionProposal proposal = desk.Select(true);
     const DesignModel& model = desk.Main.Model;
-    EXPECT_EQ(model.ElementSection, proposal.Sections);
+    EXPECT_EQ(model.Inputs.ElementSection, proposal.Sections);
     EXPECT_EQ(Numbers(model.Last.CheckData), Numbers(proposal.Check));
     EXPECT_EQ(desk.SizesShown(), NamesOf(proposal.Sections));
     EXPECT_EQ(desk.Results.size(), 1U);
@@ -164,8 +164,8 @@ TEST(CalcAndSelect, RunsNoNewAnalysisForWhatTheUserTakes) {
   EXPECT_EQ(Values(model.Last.TreloResult.RaskosForce),
             Values(other.Main.Model.Last.TreloResult.RaskosForce));
   EXPECT_EQ(model.Last.TreloResult.ReactLeft, other.Main.Model.Last.TreloResult.ReactLeft);
-  EXPECT_EQ(model.Loads, other.Main.Model.Loads);
-  EXPECT_EQ(static_cast<const LoadArrays&>(model.Last.TreloData), model.Loads);
+  EXPECT_EQ(model.Inputs.Loads, other.Main.Model.Inputs.Loads);
+  EXPECT_EQ(static_cast<const LoadArrays&>(model.Last.TreloData), model.Inputs.Loads);
 }
 
 TEST(CalcAndSelect, BuildsTheListsFromWhatTheUserTakes) {
@@ -193,9 +193,10 @@ TEST_P(DeflectionAfterSelection, IsOfTheSectionsThatTheFormHas) {
   ASSERT_TRUE(desk.Results.at(0).Of.Progib.has_value());
   const ProgibResult progib = *desk.Results[0].Of.Progib;
   const Calculation& last = desk.Main.Model.Last;
-  const double expected = CalcProgib(last.TreloData, last.TreloResult, last.CheckData,
-                                     desk.Main.optBP.Value(), desk.Main.ReadCheckNumbers().E)
-                              .Value;
+  const double expected =
+      CalcProgib(last.TreloData, last.TreloResult, last.CheckData, desk.Main.optBP.Value(),
+                 CheckNumbersOf(desk.Main.ReadInputs()).E)
+          .Value;
   EXPECT_GT(progib.Value, 0);
   EXPECT_EQ(progib.Value, expected);
   EXPECT_EQ(desk.Main.tabMain.Tab(), 0);
@@ -231,40 +232,40 @@ TEST(OwnWeightInSelection, StaysThatOfTheOldSectionsUntilTheNextCalculation) {
   const double oldWeight = Spread(oldMass, model.Last.TreloResult);
   const double newWeight = Spread(model.Last.CheckData.Mass, model.Last.TreloResult);
   ASSERT_GT(std::abs(newWeight - oldWeight), 1e-3);
-  EXPECT_TRUE(model.OwnWeightAdded);
-  EXPECT_NEAR(model.OwnWeightPerMetre, oldWeight, 1e-12);
-  EXPECT_NEAR(model.Loads.UpDistForce[0], oldWeight, 1e-12);
+  EXPECT_TRUE(model.OwnWeight.Added);
+  EXPECT_NEAR(model.OwnWeight.PerMetre, oldWeight, 1e-12);
+  EXPECT_NEAR(model.Inputs.Loads.UpDistForce[0], oldWeight, 1e-12);
 
   desk.Calculate();
   const double weight = Spread(model.Last.CheckData.Mass, model.Last.TreloResult);
-  EXPECT_NEAR(model.OwnWeightPerMetre, weight, 1e-12);
-  EXPECT_NEAR(model.Loads.UpDistForce[0], weight, 1e-12);
-  EXPECT_NEAR(model.Loads.DwnDistForce[0], weight, 1e-12);
+  EXPECT_NEAR(model.OwnWeight.PerMetre, weight, 1e-12);
+  EXPECT_NEAR(model.Inputs.Loads.UpDistForce[0], weight, 1e-12);
+  EXPECT_NEAR(model.Inputs.Loads.DwnDistForce[0], weight, 1e-12);
 }
 
 TEST(OwnWeightInSelection, StaysInTheLoadsWhereTheUserDoesNotTakeTheProposal) {
   LoadedTruss desk;
   desk.Main.chkOwnWeight.SetChecked(true);
-  const LoadArrays before = desk.Main.Model.Loads;
-  const SectionArray sections = desk.Main.Model.ElementSection;
+  const LoadArrays before = desk.Main.Model.Inputs.Loads;
+  const SectionArray sections = desk.Main.Model.Inputs.ElementSection;
   desk.Select(false);
-  EXPECT_EQ(desk.Main.Model.ElementSection, sections);
-  EXPECT_TRUE(desk.Main.Model.OwnWeightAdded);
-  EXPECT_GT(desk.Main.Model.Loads.UpDistForce[0], 0);
-  EXPECT_EQ(desk.Main.Model.Loads.UpDistForce[0], desk.Main.Model.OwnWeightPerMetre);
+  EXPECT_EQ(desk.Main.Model.Inputs.ElementSection, sections);
+  EXPECT_TRUE(desk.Main.Model.OwnWeight.Added);
+  EXPECT_GT(desk.Main.Model.Inputs.Loads.UpDistForce[0], 0);
+  EXPECT_EQ(desk.Main.Model.Inputs.Loads.UpDistForce[0], desk.Main.Model.OwnWeight.PerMetre);
   // The check box takes it out again.
   desk.Main.chkOwnWeight.SetChecked(false);
-  EXPECT_EQ(desk.Main.Model.Loads, before);
+  EXPECT_EQ(desk.Main.Model.Inputs.Loads, before);
 }
 
 TEST(OwnWeightInSelection, IsTakenOutAgainAfterTheProposalWasTaken) {
   LoadedTruss desk;
   desk.Main.chkOwnWeight.SetChecked(true);
-  const LoadArrays before = desk.Main.Model.Loads;
+  const LoadArrays before = desk.Main.Model.Inputs.Loads;
   desk.Select(true);
   desk.Main.chkOwnWeight.SetChecked(false);
-  EXPECT_EQ(desk.Main.Model.Loads, before);
-  EXPECT_FALSE(desk.Main.Model.OwnWeightAdded);
+  EXPECT_EQ(desk.Main.Model.Inputs.Loads, before);
+  EXPECT_FALSE(desk.Main.Model.OwnWeight.Added);
 }
 
 TEST(CalcAndSelect, EndsAtTheSameSizesTheSecondTime) {
@@ -282,7 +283,7 @@ TEST(CalcAndSelect, NamesTheLargestSizeWhereNonePasses) {
   desk.Main.txtRy.SetText("0.001");
   const SelectionProposal& proposal = desk.Select(true);
   EXPECT_EQ(proposal.Impossible.size(), 5U);
-  for (const SectionRec& section : desk.Main.Model.ElementSection) {
+  for (const SectionRec& section : desk.Main.Model.Inputs.ElementSection) {
     EXPECT_EQ(section.SizeIdx, desk.Main.Model.ProfileTypes[section.TypeIdx].Rec.UpperBound());
   }
   EXPECT_EQ(desk.SizesShown(), NamesOf(proposal.Sections));
@@ -291,9 +292,9 @@ TEST(CalcAndSelect, NamesTheLargestSizeWhereNonePasses) {
 
 TEST(CalcAndSelect, LeavesTheVerticalsOfSchemeThree) {
   LoadedTruss desk(3);
-  const SectionRec verticals = desk.Main.Model.ElementSection[sectionStoyka];
+  const SectionRec verticals = desk.Main.Model.Inputs.ElementSection[sectionStoyka];
   desk.Select(true);
-  EXPECT_EQ(desk.Main.Model.ElementSection[sectionStoyka], verticals);
+  EXPECT_EQ(desk.Main.Model.Inputs.ElementSection[sectionStoyka], verticals);
   for (const Grid::Row& row : desk.Results[0].MSFlexGKoefUse) {
     EXPECT_NE(row.at(0), "*** Cтойки");
   }
@@ -301,7 +302,7 @@ TEST(CalcAndSelect, LeavesTheVerticalsOfSchemeThree) {
 
 TEST(CalcAndSelect, ShowsABoxOfTheTriesOnce) {
   LoadedTruss desk(3);
-  desk.Main.Model.ElementSection[sectionStoyka].Layout = 6;
+  desk.Main.Model.Inputs.ElementSection[sectionStoyka].Layout = 6;
   desk.Select(true);
   const Message noLength = Stop("Ошибочное значение длинны стержня (<=0)!");
   // Two of the preparation, as Calculate shows them, and one of all tries.
@@ -314,13 +315,13 @@ TEST(CalcAndSelect, TellsADamagedStandardUnderItsOwnTitle) {
     for (const Long standard : {-1, 0, 23}) {
       LoadedTruss desk;
       desk.Main.txtRy.SetText("1");
-      desk.Main.Model.ElementSection[place].TypeIdx = standard;
-      const SectionArray before = desk.Main.Model.ElementSection;
+      desk.Main.Model.Inputs.ElementSection[place].TypeIdx = standard;
+      const SectionArray before = desk.Main.Model.Inputs.ElementSection;
       desk.Main.cmdCalcAndSelect_Click();
       EXPECT_EQ(desk.TakeMessages(), Messages{SubscriptTail("cmdCalcAndSelect_Click")});
       EXPECT_TRUE(desk.Proposals.empty());
       EXPECT_TRUE(desk.Results.empty());
-      EXPECT_EQ(desk.Main.Model.ElementSection, before);
+      EXPECT_EQ(desk.Main.Model.Inputs.ElementSection, before);
     }
   }
 }
@@ -328,8 +329,8 @@ TEST(CalcAndSelect, TellsADamagedStandardUnderItsOwnTitle) {
 TEST(CalcAndSelect, TellsADamagedSizeUnderItsOwnTitle) {
   LoadedTruss down;
   down.Main.txtRy.SetText("1E9");
-  down.Main.txtLimitFlex.SetText("1E9");
-  SectionRec& verticals = down.Main.Model.ElementSection[sectionStoyka];
+  down.Main.Steel.LimitFlex = "1E9";
+  SectionRec& verticals = down.Main.Model.Inputs.ElementSection[sectionStoyka];
   verticals.SizeIdx = 1000;
   // Thick enough to pass, so that the walk goes down from there.
   verticals.Profile = down.Main.Model.ProfileTypes[verticals.TypeIdx].Rec[62];
@@ -339,7 +340,7 @@ TEST(CalcAndSelect, TellsADamagedSizeUnderItsOwnTitle) {
 
   LoadedTruss up;
   up.Main.txtRy.SetText("1");
-  up.Main.Model.ElementSection[sectionUpPoyas].SizeIdx = -5;
+  up.Main.Model.Inputs.ElementSection[sectionUpPoyas].SizeIdx = -5;
   up.Main.cmdCalcAndSelect_Click();
   EXPECT_EQ(up.TakeMessages(), Messages{SubscriptTail("cmdCalcAndSelect_Click")});
   EXPECT_TRUE(up.Proposals.empty());
@@ -368,9 +369,9 @@ TEST(CalcAndSelect, DoesNotNeedItsWindow) {
   form.Form_Load();
   form.tabMain.SetTab(2);
   AddForce(form, 5, "4");
-  const SectionArray before = form.Model.ElementSection;
+  const SectionArray before = form.Model.Inputs.ElementSection;
   form.cmdCalcAndSelect_Click();
-  EXPECT_EQ(form.Model.ElementSection, before);
+  EXPECT_EQ(form.Model.Inputs.ElementSection, before);
   EXPECT_EQ(results.size(), 1U);
   EXPECT_EQ(world.TakeMessages(), Messages());
 }
@@ -385,7 +386,7 @@ TEST(SearchMenu, GoesOverTheTabsToTheCommand) {
     EXPECT_EQ(desk.Results.size(), 1U);
     EXPECT_EQ(desk.Main.tabMain.Tab(), 2);
     // The geometry is checked on the way off the first tab only.
-    EXPECT_EQ(desk.Main.Model.TreloData.LengthF, from == 0 ? 24 : 20);
+    EXPECT_EQ(desk.Main.Model.Accepted.LengthF, from == 0 ? 24 : 20);
   }
 }
 
@@ -405,7 +406,7 @@ TEST(SearchMenu, DoesWhatTheButtonDoes) {
   menu.TakesProposals = true;
   menu.Main.mnuSearch_Click();
   button.Select(true);
-  EXPECT_EQ(menu.Main.Model.ElementSection, button.Main.Model.ElementSection);
+  EXPECT_EQ(menu.Main.Model.Inputs.ElementSection, button.Main.Model.Inputs.ElementSection);
   EXPECT_EQ(menu.Results.at(0).MSFlexGKoefUse, button.Results.at(0).MSFlexGKoefUse);
 }
 

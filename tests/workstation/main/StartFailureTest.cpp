@@ -124,10 +124,10 @@ TEST(StartWithoutCatalogue, StillTakesTheGeometry) {
   desk.Resources.MissingBlocks = {102, 103};
   frmMain& form = desk.MakeAndLoad();
   Choose(form.cmbPanelNum, "4");
-  EXPECT_EQ(form.Model.Loads.UpPForce.UpperBound(), 4);
+  EXPECT_EQ(form.Model.Inputs.Loads.UpPForce.UpperBound(), 4);
   form.tabMain.SetTab(1);
-  EXPECT_EQ(form.Model.TreloData.LengthF, 20);
-  EXPECT_EQ(form.Model.TreloData.PanelNum, 4);
+  EXPECT_EQ(form.Model.Accepted.LengthF, 20);
+  EXPECT_EQ(form.Model.Accepted.PanelNum, 4);
 }
 
 TEST(StartWithoutCatalogue, SkipsWhatWouldComeAfterIt) {
@@ -138,7 +138,7 @@ TEST(StartWithoutCatalogue, SkipsWhatWouldComeAfterIt) {
   EXPECT_TRUE(form.cmbKatalog.List().empty());
   EXPECT_TRUE(form.cmbGdist.List().empty());
   EXPECT_EQ(form.imgPForce.Shown(), Picture());
-  EXPECT_FALSE(form.Model.Loads.UpPForce.IsAllocated());
+  EXPECT_FALSE(form.Model.Inputs.Loads.UpPForce.IsAllocated());
   EXPECT_EQ(form.tmrRuningString.Interval(), 0);
 }
 
@@ -167,7 +167,7 @@ TEST(StartAfterAFailure, AnswersToTheUser) {
   form.chkProgib.SetChecked(true);
   EXPECT_TRUE(form.cmbLenlim.Enabled());
   form.optUpPoyas.Select(4);
-  EXPECT_EQ(form.Model.TreloData.UpPoyasBrace, 4);
+  EXPECT_EQ(form.Model.Inputs.UpPoyasBrace, 4);
   form.imgTreloType_Click(3);
   EXPECT_EQ(form.cmbPanelNum.List(), Numbers(2, 30));
 }

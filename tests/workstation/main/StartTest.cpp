@@ -8,7 +8,7 @@ namespace {
 TEST(Start, ShowsTheFirstTabWithTheFirstScheme) {
   StartedDesk desk;
   EXPECT_EQ(desk.Main.tabMain.Tab(), 0);
-  EXPECT_EQ(desk.Main.Model.TreloData.TreloType, 1);
+  EXPECT_EQ(desk.Main.Model.Inputs.TreloType, 1);
   EXPECT_EQ(MarkedOf(desk.Main.imgTreloType), std::vector<Long>{1});
   EXPECT_EQ(desk.Main.imgMain.Shown(), BitmapOf(101));
 }
@@ -26,16 +26,16 @@ TEST(Start, FillsTheGeometry) {
 
 TEST(Start, LeavesTheGeometryOfTheAnalysisToTheGeometryCheck) {
   StartedDesk desk;
-  EXPECT_EQ(desk.Main.Model.TreloData.LengthF, 0);
-  EXPECT_EQ(desk.Main.Model.TreloData.PanelNum, 0);
+  EXPECT_EQ(desk.Main.Model.Accepted.LengthF, 0);
+  EXPECT_EQ(desk.Main.Model.Accepted.PanelNum, 0);
 }
 
 TEST(Start, HoldsBothChordsAtTheEndsAndInTheMiddle) {
   StartedDesk desk;
   EXPECT_EQ(desk.Main.optUpPoyas.Selected(), 2);
   EXPECT_EQ(desk.Main.optDownPoyas.Selected(), 2);
-  EXPECT_EQ(desk.Main.Model.TreloData.UpPoyasBrace, 2);
-  EXPECT_EQ(desk.Main.Model.TreloData.DownPoyasBrace, 2);
+  EXPECT_EQ(desk.Main.Model.Inputs.UpPoyasBrace, 2);
+  EXPECT_EQ(desk.Main.Model.Inputs.DownPoyasBrace, 2);
 }
 
 TEST(Start, FillsTheSteelAndTheReliability) {
@@ -44,9 +44,9 @@ TEST(Start, FillsTheSteelAndTheReliability) {
   EXPECT_EQ(desk.Main.txtUsloviyaRabot.Text(), "0.9");
   EXPECT_EQ(desk.Main.lblStillName.Caption(), "Сталь С245 - лист от 2 до 20 мм");
   EXPECT_EQ(desk.Main.txtRy.Text(), "240");
-  EXPECT_EQ(desk.Main.txtDensitSteel.Text(), "7.850");
-  EXPECT_EQ(desk.Main.txtModulYung.Text(), "210000");
-  EXPECT_EQ(desk.Main.txtLimitFlex.Text(), "150");
+  EXPECT_EQ(desk.Main.Steel.DensitSteel, "7.850");
+  EXPECT_EQ(desk.Main.Steel.ModulYung, "210000");
+  EXPECT_EQ(desk.Main.Steel.LimitFlex, "150");
 }
 
 TEST(Start, WritesItsNumbersWithTheDecimalSeparatorOfTheSystem) {
@@ -55,7 +55,7 @@ TEST(Start, WritesItsNumbersWithTheDecimalSeparatorOfTheSystem) {
   EXPECT_EQ(desk.Main.StatusBarMain[6].Caption(), "Hopt = 2,00000");
   // Fixed texts, which both decimal separators read.
   EXPECT_EQ(desk.Main.txtHight.Text(), "1.5");
-  EXPECT_EQ(desk.Main.txtDensitSteel.Text(), "7.850");
+  EXPECT_EQ(desk.Main.Steel.DensitSteel, "7.850");
 }
 
 TEST(Start, OffersTheDeflectionLimitsAndAsksForNone) {
@@ -100,7 +100,7 @@ TEST(Start, GivesEveryGroupTheFirstSizeOfTheFirstStandard) {
                             .Layout = 1};
   EXPECT_EQ(expected.Profile.Name.Trimmed(), "L25x16x3");
   for (Long place = 1; place <= 5; ++place) {
-    EXPECT_EQ(desk.Main.Model.ElementSection[place], expected) << place;
+    EXPECT_EQ(desk.Main.Model.Inputs.ElementSection[place], expected) << place;
     EXPECT_EQ(desk.Main.lblProfilName[place].Caption(), "L25x16x3") << place;
     EXPECT_EQ(desk.Main.imgProfileSec[place].Shown(), desk.Main.imgProfileSecSelect[1].Shown());
   }
@@ -162,15 +162,15 @@ TEST(Start, OffersNodalForcesOnTheUpperChord) {
 
 TEST(Start, HasNoLoads) {
   StartedDesk desk;
-  EXPECT_EQ(Values(desk.Main.Model.Loads.UpPForce), Zeros(11));
-  EXPECT_EQ(Values(desk.Main.Model.Loads.UpDistForce), Zeros(10));
-  EXPECT_EQ(Values(desk.Main.Model.Loads.DwnPForce), Zeros(11));
-  EXPECT_EQ(Values(desk.Main.Model.Loads.DwnDistForce), Zeros(10));
-  EXPECT_EQ(desk.Main.Model.Loads.DwnDistForce.LowerBound(), 0);
+  EXPECT_EQ(Values(desk.Main.Model.Inputs.Loads.UpPForce), Zeros(11));
+  EXPECT_EQ(Values(desk.Main.Model.Inputs.Loads.UpDistForce), Zeros(10));
+  EXPECT_EQ(Values(desk.Main.Model.Inputs.Loads.DwnPForce), Zeros(11));
+  EXPECT_EQ(Values(desk.Main.Model.Inputs.Loads.DwnDistForce), Zeros(10));
+  EXPECT_EQ(desk.Main.Model.Inputs.Loads.DwnDistForce.LowerBound(), 0);
   EXPECT_FALSE(desk.Main.chkDinloadEnable.Checked());
   EXPECT_FALSE(desk.Main.chkOwnWeight.Checked());
-  EXPECT_FALSE(desk.Main.Model.OwnWeightAdded);
-  EXPECT_EQ(desk.Main.Model.OwnWeightPerMetre, 0);
+  EXPECT_FALSE(desk.Main.Model.OwnWeight.Added);
+  EXPECT_EQ(desk.Main.Model.OwnWeight.PerMetre, 0);
 }
 
 TEST(Start, SetsTheCaptionRunning) {

@@ -20,14 +20,14 @@ TEST_P(TabChange, RunsWhatItsDirectionAsksFor) {
   frmMain& form = desk.Main;
   form.tabMain.SetTab(change.From);
   // Traces of the way here are wiped.
-  form.Model.TreloData.LengthF = 0;
+  form.Model.Accepted.LengthF = 0;
   form.cmbKnotNum.Clear();
   if (change.From == change.To) {
     form.tabMain_Click(change.From);
   } else {
     form.tabMain.SetTab(change.To);
   }
-  EXPECT_EQ(form.Model.TreloData.LengthF, change.ChecksGeometry ? 20 : 0);
+  EXPECT_EQ(form.Model.Accepted.LengthF, change.ChecksGeometry ? 20 : 0);
   EXPECT_EQ(form.cmbKnotNum.List(),
             change.RefreshesLoads ? Numbers(0, 10) : std::vector<std::string>());
   EXPECT_EQ(form.tabMain.Tab(), change.To);
@@ -52,7 +52,7 @@ TEST(TabChange, IsTakenBackByAGeometryThatIsRefused) {
     desk.Main.tabMain.SetTab(to);
     EXPECT_EQ(desk.Main.tabMain.Tab(), 0);
     EXPECT_EQ(desk.TakeMessages().size(), 1U);
-    EXPECT_EQ(desk.Main.Model.TreloData.LengthF, 0);
+    EXPECT_EQ(desk.Main.Model.Accepted.LengthF, 0);
   }
 }
 

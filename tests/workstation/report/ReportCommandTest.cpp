@@ -9,14 +9,14 @@ namespace {
 const Message wrongMass = Stop("Не правильно расчитана масса фермы !");
 
 void ExpectSnapshotOf(const DesignModel& model, const Calculation& snapshot) {
-  EXPECT_EQ(snapshot.TreloData.TreloType, model.TreloData.TreloType);
-  EXPECT_EQ(snapshot.TreloData.LengthF, model.TreloData.LengthF);
-  EXPECT_EQ(snapshot.TreloData.Hight, model.TreloData.Hight);
-  EXPECT_EQ(snapshot.TreloData.LenOporn, model.TreloData.LenOporn);
-  EXPECT_EQ(snapshot.TreloData.PanelNum, model.TreloData.PanelNum);
-  EXPECT_EQ(snapshot.TreloData.UpPoyasBrace, model.TreloData.UpPoyasBrace);
-  EXPECT_EQ(snapshot.TreloData.DownPoyasBrace, model.TreloData.DownPoyasBrace);
-  EXPECT_EQ(static_cast<const LoadArrays&>(snapshot.TreloData), model.Loads);
+  EXPECT_EQ(snapshot.TreloData.TreloType, model.Inputs.TreloType);
+  EXPECT_EQ(snapshot.TreloData.LengthF, model.Accepted.LengthF);
+  EXPECT_EQ(snapshot.TreloData.Hight, model.Accepted.Hight);
+  EXPECT_EQ(snapshot.TreloData.LenOporn, model.Accepted.LenOporn);
+  EXPECT_EQ(snapshot.TreloData.PanelNum, model.Accepted.PanelNum);
+  EXPECT_EQ(snapshot.TreloData.UpPoyasBrace, model.Inputs.UpPoyasBrace);
+  EXPECT_EQ(snapshot.TreloData.DownPoyasBrace, model.Inputs.DownPoyasBrace);
+  EXPECT_EQ(static_cast<const LoadArrays&>(snapshot.TreloData), model.Inputs.Loads);
   EXPECT_EQ(snapshot.TreloResult.UpPoyasForce, model.Last.TreloResult.UpPoyasForce);
   EXPECT_EQ(snapshot.TreloResult.DwnPoyasForce, model.Last.TreloResult.DwnPoyasForce);
   EXPECT_EQ(snapshot.TreloResult.RaskosForce, model.Last.TreloResult.RaskosForce);
@@ -27,7 +27,7 @@ void ExpectSnapshotOf(const DesignModel& model, const Calculation& snapshot) {
   EXPECT_EQ(snapshot.CheckData.Mass, model.Last.CheckData.Mass);
   EXPECT_EQ(snapshot.CheckData.Stoyka.KStabY, model.Last.CheckData.Stoyka.KStabY);
   EXPECT_EQ(snapshot.CheckData.OpornRaskos.LenX, model.Last.CheckData.OpornRaskos.LenX);
-  EXPECT_EQ(snapshot.ElementSection, model.ElementSection);
+  EXPECT_EQ(snapshot.ElementSection, model.Inputs.ElementSection);
 }
 
 /// A truss under 4 t at its second upper joint.
@@ -100,11 +100,11 @@ TEST_F(ReportCommand, WritesTheSameAgainIntoAnEmptyEditor) {
 TEST_F(ReportCommand, AnalysesTheInputsAsTheyNowAre) {
   form.cmdCalculate_Click();
   desk.Load(true, 1, "4");
-  form.txtDensitSteel.SetText("15,7");
+  form.Steel.DensitSteel = "15,7";
   form.txtRy.SetText("480");
   form.txtNadegnost.SetText("1.1");
   form.txtUsloviyaRabot.SetText("1");
-  form.txtLimitFlex.SetText("300");
+  form.Steel.LimitFlex = "300";
   form.lblStillName.SetCaption("Сталь другая");
   form.chkDinloadEnable.SetChecked(true);
   const ReportText lines = Report();
@@ -123,7 +123,7 @@ TEST_F(ReportCommand, AnalysesTheInputsAsTheyNowAre) {
 }
 
 TEST_F(ReportCommand, ReadsWhatIsNoNumberAsZero) {
-  form.txtDensitSteel.SetText("плотность");
+  form.Steel.DensitSteel = "плотность";
   const ReportText lines = Report();
   EXPECT_TRUE(HasLine(lines, "Плотность материала p = 0"));
   EXPECT_TRUE(HasLine(lines, "Теоретическая масса профильного проката фермы : 0"));
@@ -165,30 +165,30 @@ TEST_F(ReportCommand, AddsTheOwnWeightToTheLoadsItLists) {
 TEST_F(ReportCommand, DoesNotAddTheOwnWeightTwice) {
   form.chkOwnWeight.SetChecked(true);
   const ReportText first = Report();
-  const LoadArrays loads = form.Model.Loads;
+  const LoadArrays loads = form.Model.Inputs.Loads;
   EXPECT_EQ(Report(), first);
-  EXPECT_EQ(form.Model.Loads, loads);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.0081);
-  EXPECT_TRUE(form.Model.OwnWeightAdded);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.0081);
+  EXPECT_TRUE(form.Model.OwnWeight.Added);
 }
 
 TEST_F(ReportCommand, FindsTheOwnWeightThatACalculationAdded) {
   form.chkOwnWeight.SetChecked(true);
   form.cmdCalculate_Click();
-  const LoadArrays loads = form.Model.Loads;
+  const LoadArrays loads = form.Model.Inputs.Loads;
   Report();
-  EXPECT_EQ(form.Model.Loads, loads);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
   desk.Calculate();
-  EXPECT_EQ(form.Model.Loads, loads);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
 }
 
 TEST_F(ReportCommand, ReplacesAnOwnWeightThatHasChanged) {
   form.chkOwnWeight.SetChecked(true);
   Report();
-  form.txtDensitSteel.SetText("9");
+  form.Steel.DensitSteel = "9";
   const ReportText lines = Report();
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, 0.0092);
-  for (const double value : form.Model.Loads.UpDistForce) {
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, 0.0092);
+  for (const double value : form.Model.Inputs.Loads.UpDistForce) {
     EXPECT_NEAR(value, 0.0092, 1e-15);
   }
   const std::string reaction = "Реакция левой опоры фермы : ";
@@ -200,10 +200,10 @@ TEST_F(ReportCommand, ReplacesAnOwnWeightThatHasChanged) {
 }
 
 TEST_F(ReportCommand, LeavesTheLoadsAloneWithoutOwnWeight) {
-  const LoadArrays loads = form.Model.Loads;
+  const LoadArrays loads = form.Model.Inputs.Loads;
   Report();
-  EXPECT_EQ(form.Model.Loads, loads);
-  EXPECT_FALSE(form.Model.OwnWeightAdded);
+  EXPECT_EQ(form.Model.Inputs.Loads, loads);
+  EXPECT_FALSE(form.Model.OwnWeight.Added);
 }
 
 TEST_F(ReportCommand, LeavesTheDesignAsACalculationDoes) {
@@ -215,7 +215,7 @@ TEST_F(ReportCommand, LeavesTheDesignAsACalculationDoes) {
   Report();
   calculated.Calculate();
   ExpectSnapshotOf(form.Model, calculated.Main.Model.Last);
-  EXPECT_EQ(form.Model.OwnWeightPerMetre, calculated.Main.Model.OwnWeightPerMetre);
+  EXPECT_EQ(form.Model.OwnWeight.PerMetre, calculated.Main.Model.OwnWeight.PerMetre);
 }
 
 // --- deflection
@@ -256,7 +256,7 @@ TEST_F(ReportCommand, TakesTheChordOfTheDeflection) {
 
 TEST_F(ReportCommand, TakesTheElasticModulusIntoTheDeflection) {
   form.chkProgib.SetChecked(true);
-  form.txtModulYung.SetText("105000");
+  form.Steel.ModulYung = "105000";
   EXPECT_TRUE(HasLine(Report(), "Максимальный прогиб : 0.01375 м "));
 }
 
@@ -318,7 +318,7 @@ TEST_F(ReportCommand, OfAReservedSchemeWithOwnWeightLeavesTheEditorAsItIs) {
   const ReportText before = Report();
   desk.Opened.clear();
   form.chkOwnWeight.SetChecked(true);
-  form.Model.TreloData.TreloType = 5;
+  form.Model.Inputs.TreloType = 5;
   form.cmdShowResults_Click();
   EXPECT_EQ(desk.TakeMessages(), (Messages{wrongMass, SubscriptTail(formTitle),
                                            Tail("cmdShowResults_Click", 6, "Overflow")}));
@@ -329,9 +329,9 @@ TEST_F(ReportCommand, OfAReservedSchemeWithOwnWeightLeavesTheEditorAsItIs) {
 
 TEST_F(ReportCommand, LeavesTheFormUsableAfterAFailure) {
   const ReportText whole = Report();
-  form.Model.TreloData.TreloType = 7;
+  form.Model.Inputs.TreloType = 7;
   Report();
-  form.Model.TreloData.TreloType = 1;
+  form.Model.Inputs.TreloType = 1;
   EXPECT_EQ(Report(), whole);
 }
 

@@ -212,8 +212,9 @@ TEST(ResultPicture, DoesNotMarkARowOfExactlyOne) {
 TEST(ResultPicture, IsEmptyWithoutForces) {
   SmallTruss desk(1);
   desk.Calculate();
-  EXPECT_TRUE(BuildBars(CalculationOf(desk.Main.Model.TreloData, TreloResult())).empty());
-  TreloData reserved = desk.Main.Model.TreloData;
+  EXPECT_TRUE(
+      BuildBars(CalculationOf(desk.Main.Model.ToCalculate().TreloData, TreloResult())).empty());
+  TreloData reserved = desk.Main.Model.ToCalculate().TreloData;
   reserved.TreloType = 5;
   EXPECT_TRUE(BuildBars(CalculationOf(reserved, desk.Main.Model.Last.TreloResult)).empty());
 }
@@ -222,7 +223,7 @@ TEST(ResultPicture, IsEmptyWhereTheTrussHasChangedSinceTheForces) {
   SmallTruss desk(1);
   desk.Calculate();
   for (const Long panels : {2, 3, 6, 30}) {
-    TreloData changed = desk.Main.Model.TreloData;
+    TreloData changed = desk.Main.Model.ToCalculate().TreloData;
     changed.PanelNum = panels;
     std::vector<PictureBar> bars;
     EXPECT_NO_THROW(bars = BuildBars(CalculationOf(changed, desk.Main.Model.Last.TreloResult)))
