@@ -7,13 +7,13 @@
 
 #include "apps/trelonit/DesktopSession.h"
 #include "apps/trelonit/Machine.h"
-#include "platform/errors/RuntimeError.h"
+#include "platform/errors/Guard.h"
 #include "platform/system/ProgramNames.h"
 #include "windows/services/Desktop.h"
 
 namespace {
 
-/// A failure in a handler without a tail of its own is shown; the program goes on.
+/// Whatever a handler without a tail of its own throws is shown; the program goes on.
 class Application : public QApplication {
  public:
   using QApplication::QApplication;
@@ -21,11 +21,21 @@ class Application : public QApplication {
   bool notify(QObject* receiver, QEvent* event) override {
     try {
       return QApplication::notify(receiver, event);
-    } catch (const trelonit::RuntimeError& error) {
-      trelonit::DesktopMessages().Show(
-          trelonit::ErrorMessage(trelonit::applicationTitle, error.Number(), error.Description()));
+    } catch (...) {
+      Tell(trelonit::ErrorInHand());
     }
     return false;
+  }
+
+ private:
+  static void Tell(const trelonit::RuntimeError& error) {
+    // Where even the box cannot be shown, the document is still there to be saved.
+    try {
+      trelonit::DesktopMessages().Show(
+          trelonit::ErrorMessage(trelonit::applicationTitle, error.Number(), error.Description()));
+    } catch (...) {
+      std::fprintf(stderr, "trelonit: %s\n", error.what());
+    }
   }
 };
 

@@ -132,6 +132,21 @@ void frmFind::cmdReplace_Click() {
   AddToHistory(cboReplace);
 }
 
+/// A run of "Replace All"; however it ends, the next one can begin.
+class frmFind::Run {
+ public:
+  explicit Run(frmFind& form) : form_(form) { form_.replacing_ = true; }
+  ~Run() {
+    form_.replacing_ = false;
+    form_.cancelRun_ = false;
+  }
+  Run(const Run&) = delete;
+  Run& operator=(const Run&) = delete;
+
+ private:
+  frmFind& form_;
+};
+
 Long frmFind::ReplaceFromHere() {
   const std::string wanted = cboFind.Text();
   const Long length = UnitCount(wanted);
@@ -161,13 +176,16 @@ void frmFind::cmdReplaceAll_Click() {
   if (replacing_) {
     return;  // pressed again while it runs
   }
-  replacing_ = true;
   AddToHistory(cboFind);
   AddToHistory(cboReplace);
-  const Long count = ReplaceFromHere();
-  const bool foundNothing = count == 0 && !cancelRun_;
-  replacing_ = false;
-  cancelRun_ = false;
+  bool cancelled = false;
+  Long count = 0;
+  {
+    const Run run(*this);
+    count = ReplaceFromHere();
+    cancelled = cancelRun_;
+  }
+  const bool foundNothing = count == 0 && !cancelled;
   if (foundNothing) {
     SayNotFound();
   }

@@ -56,6 +56,8 @@ class frmFind {
   std::function<void()> Unload;
 
  private:
+  class Run;
+
   Long Options() const;
   void SayNotFound();
   bool WantedIsSelected() const;

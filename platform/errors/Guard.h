@@ -1,6 +1,6 @@
 #pragma once
 
-#include <new>
+#include <exception>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -18,20 +18,23 @@ struct Ending {
   std::optional<Message> Failure;
 };
 
-/// Runs the body; a run-time error ends it and is cleared. What the body had changed before stays
+/// The run-time error of the exception that is being handled, whatever was thrown: 7 where memory
+/// ran out, 57 where a stream failed, 51 with its own words for what nobody foresaw. To be called
+/// from a catch clause.
+RuntimeError ErrorInHand();
+
+/// Runs the body; whatever is thrown ends it and is cleared. What the body had changed before stays
 /// changed.
 template <class Body>
 Ending RunToEnd(std::string_view title, Body&& body) {
   try {
     std::forward<Body>(body)();
     return {};
-  } catch (const RuntimeError& error) {
+  } catch (...) {
+    const RuntimeError error = ErrorInHand();
     if (error.Number() == 0) {
       return {.Whole = false};
     }
-    return {.Whole = false, .Failure = ErrorMessage(title, error.Number(), error.Description())};
-  } catch (const std::bad_alloc&) {
-    const RuntimeError error(ErrorNumber::OutOfMemory);
     return {.Whole = false, .Failure = ErrorMessage(title, error.Number(), error.Description())};
   }
 }
@@ -54,9 +57,7 @@ bool PassOver(Statement&& statement) {
   try {
     std::forward<Statement>(statement)();
     return true;
-  } catch (const RuntimeError&) {
-    return false;
-  } catch (const std::bad_alloc&) {
+  } catch (const std::exception&) {
     return false;
   }
 }

@@ -20,6 +20,8 @@ const char* DescriptionOf(ErrorNumber number) {
       return "Division by zero";
     case ErrorNumber::TypeMismatch:
       return "Type mismatch";
+    case ErrorNumber::InternalError:
+      return "Internal error";
     case ErrorNumber::BadFileName:
       return "Bad file name or number";
     case ErrorNumber::FileNotFound:

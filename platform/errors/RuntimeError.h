@@ -13,6 +13,7 @@ enum class ErrorNumber : int {
   SubscriptOutOfRange = 9,
   DivisionByZero = 11,
   TypeMismatch = 13,
+  InternalError = 51,
   BadFileName = 52,
   FileNotFound = 53,
   DeviceIoError = 57,

@@ -283,6 +283,9 @@ class frmMain {
   void ApplyProject(const DesignInputs& record);
   /// Sizes and pictures of all groups as the model has them.
   void ShowSectionSummary();
+  void ShowSection(Long option);
+  /// After a restore that did not come to its end.
+  void ShowWhatBrokeOff();
   void ShowInputs(const DesignInputs& record);
 
   Services services_;

@@ -84,15 +84,21 @@ bool frmMain::OpenProject(const std::string& name) {
 
 bool frmMain::RestoreFrom(const std::function<std::string()>& nameOfFile) {
   bool restored = false;
+  bool begun = false;
   Guard(services_.Messages, "Restore comand", [&] {
     const std::string name = nameOfFile();
     if (name.empty()) {
       services_.Messages.Show({.Text = "Указаный файл не найден ! Восстановление отменено !"});
       return;
     }
-    ApplyProject(ReadApplParameters(name, Model.ProfileTypes, services_));
+    const DesignInputs record = ReadApplParameters(name, Model.ProfileTypes, services_);
+    begun = true;
+    ApplyProject(record);
     restored = true;
   });
+  if (begun && !restored) {
+    ShowWhatBrokeOff();
+  }
   return restored;
 }
 
@@ -136,12 +142,25 @@ void frmMain::ApplyProject(const DesignInputs& record) {
   tabMain.SetTab(0);
 }
 
+void frmMain::ShowWhatBrokeOff() {
+  // What has come from the file is in the model, so it is shown; and the geometry, old or new, is
+  // checked and taken again on the way to the commands.
+  for (Long option = 1; option <= groupCount; ++option) {
+    PassOver([&] { ShowSection(option); });
+  }
+  tabMain.SetTab(0);
+}
+
 void frmMain::ShowSectionSummary() {
   for (Long option = 1; option <= groupCount; ++option) {
-    const SectionRec& section = Model.Inputs.ElementSection[PlaceOfOption(option)];
-    lblProfilName[option].SetCaption(section.Profile.Name.Trimmed());
-    imgProfileSec[option].Show(imgProfileSecSelect[section.Layout].Shown());
+    ShowSection(option);
   }
+}
+
+void frmMain::ShowSection(Long option) {
+  const SectionRec& section = Model.Inputs.ElementSection[PlaceOfOption(option)];
+  lblProfilName[option].SetCaption(section.Profile.Name.Trimmed());
+  imgProfileSec[option].Show(imgProfileSecSelect[section.Layout].Shown());
 }
 
 void frmMain::ShowInputs(const DesignInputs& record) {

@@ -120,6 +120,18 @@ TEST_F(Find, CountsWhatItReplaced) {
   EXPECT_EQ(Said(), Texts{"Text not found."});
 }
 
+TEST_F(Find, CanReplaceAllAgainAfterARunThatFailed) {
+  Look("a b a", "a", "c");
+  form.DoEvents = [] { throw RuntimeError(ErrorNumber::OutOfMemory); };
+  EXPECT_THROW(form.cmdReplaceAll_Click(), RuntimeError);
+  EXPECT_FALSE(form.Replacing());
+  EXPECT_EQ(box.Locks, 0);
+  form.DoEvents = nullptr;
+  form.cmdReplaceAll_Click();
+  EXPECT_EQ(box.Text(), "c b c");
+  EXPECT_EQ(Said(), Texts{"2 items replaced"});
+}
+
 TEST_F(Find, ReplacesFromWhereTheLastSearchStopped) {
   Look("a a a", "a", "b");
   form.cmdFindNext_Click();

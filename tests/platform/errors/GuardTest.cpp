@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <ios>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -83,6 +85,24 @@ TEST(Guard, ShowsExhaustedMemoryAsItsRunTimeError) {
                                    MessageStyle::Critical}}));
 }
 
+TEST(Guard, ShowsAFailedStreamAsADeviceError) {
+  RecordingMessages messages;
+  EXPECT_FALSE(Guard(messages, "Restore comand", [] { throw std::ios_base::failure("read"); }));
+  EXPECT_EQ(messages.Shown,
+            (std::vector<Message>{{"Restore comand", " Err # 57 Discription : Device I/O error",
+                                   MessageStyle::Critical}}));
+}
+
+TEST(Guard, ShowsWhatNobodyForesawInItsOwnWords) {
+  RecordingMessages messages;
+  EXPECT_FALSE(Guard(messages, "title", [] { throw std::length_error("too long"); }));
+  EXPECT_FALSE(Guard(messages, "title", [] { throw 1; }));
+  EXPECT_EQ(messages.Shown,
+            (std::vector<Message>{
+                {"title", " Err # 51 Discription : too long", MessageStyle::Critical},
+                {"title", " Err # 51 Discription : Internal error", MessageStyle::Critical}}));
+}
+
 TEST(Guard, ShowsAnErrorOnceWhenGuardsAreNested) {
   RecordingMessages messages;
   const bool outer = Guard(messages, "outer", [&] {
@@ -106,6 +126,10 @@ TEST(PassOver, GoesOnAfterARunTimeError) {
     throw RuntimeError(ErrorNumber::ObjectNotSet);
   }));
   EXPECT_EQ(steps, 1);
+}
+
+TEST(PassOver, GoesOnAfterAFailedStream) {
+  EXPECT_FALSE(PassOver([] { throw std::ios_base::failure("read"); }));
 }
 
 // Exhausted memory is a run-time error as any other, for Guard as well.

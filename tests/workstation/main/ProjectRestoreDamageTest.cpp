@@ -107,6 +107,31 @@ TEST_F(DamagedRestore, StopsAtTheFirstPictureOfALayoutThatThereIsNot) {
   }
 }
 
+// Wherever it stops: at the bracing the geometry is still the old one, at a picture the new.
+TEST_F(DamagedRestore, ThatStopsIsShownAndCalculatedAsItIsShown) {
+  struct Stop {
+    std::size_t Line;
+    const char* Text;
+    double Span;
+  };
+  for (const Stop& stop : {Stop{lineUpPoyasBrace, "7", 20}, Stop{lineUpPoyas + 4, "12", 24}}) {
+    StartedDesk other;
+    frmMain& main = other.Main;
+    main.tabMain.SetTab(2);
+    other.TakeMessages();
+    EXPECT_FALSE(RestoreBytes(other, main, ProjectBytes(With(good, stop.Line, stop.Text))));
+    EXPECT_EQ(other.TakeMessages(), Messages{SubscriptTail("Restore comand")});
+    EXPECT_EQ(main.tabMain.Tab(), 0);
+    EXPECT_EQ(main.txtLengthF.Text(), std::to_string(static_cast<int>(stop.Span)));
+    for (Long option = 1; option <= groupCount; ++option) {
+      EXPECT_EQ(main.lblProfilName[option].Caption(),
+                main.Model.Inputs.ElementSection[PlaceOfOption(option)].Profile.Name.Trimmed());
+    }
+    main.mnuCalc_Click();
+    EXPECT_EQ(main.Model.Last.TreloData.LengthF, stop.Span);
+  }
+}
+
 TEST_F(DamagedRestore, OfNothingLeavesAUsableForm) {
   for (const std::string& bytes :
        {std::string(), std::string("abc"), std::string(100, '\n'), std::string(100, '\0')}) {
