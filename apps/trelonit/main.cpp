@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <cstdio>
 #include <exception>
 #include <optional>
@@ -7,37 +6,17 @@
 
 #include "apps/trelonit/DesktopSession.h"
 #include "apps/trelonit/Machine.h"
-#include "platform/errors/Guard.h"
+#include "platform/errors/Message.h"
 #include "platform/system/ProgramNames.h"
 #include "windows/services/Desktop.h"
+#include "windows/services/GuardedApplication.h"
 
 namespace {
 
-/// Whatever a handler without a tail of its own throws is shown; the program goes on.
-class Application : public QApplication {
- public:
-  using QApplication::QApplication;
-
-  bool notify(QObject* receiver, QEvent* event) override {
-    try {
-      return QApplication::notify(receiver, event);
-    } catch (...) {
-      Tell(trelonit::ErrorInHand());
-    }
-    return false;
-  }
-
- private:
-  static void Tell(const trelonit::RuntimeError& error) {
-    // Where even the box cannot be shown, the document is still there to be saved.
-    try {
-      trelonit::DesktopMessages().Show(
-          trelonit::ErrorMessage(trelonit::applicationTitle, error.Number(), error.Description()));
-    } catch (...) {
-      std::fprintf(stderr, "trelonit: %s\n", error.what());
-    }
-  }
-};
+void Tell(const trelonit::RuntimeError& error) {
+  trelonit::DesktopMessages().Show(
+      trelonit::ErrorMessage(trelonit::applicationTitle, error.Number(), error.Description()));
+}
 
 /// The answer to --help or --version, to a wrong command line its line; nothing to go on.
 /// They need no display, so they come before the application.
@@ -70,7 +49,8 @@ int main(int argc, char** argv) {
     return *answer;
   }
   try {
-    Application application(argc, argv);
+    trelonit::GuardedApplication application(argc, argv);
+    application.Tell = Tell;
     const std::optional<std::string> file = trelonit::HandedFile(QApplication::arguments());
     if (!file) {
       std::fprintf(stderr, "trelonit: можно открыть один файл; справка: trelonit --help\n");

@@ -1,5 +1,6 @@
-#include <QApplication>
 #include <gtest/gtest.h>
+
+#include "windows/services/GuardedApplication.h"
 
 int main(int argc, char** argv) {
   // A run by hand has the same desktop as one by the test driver: no screen, a neutral locale, no
@@ -7,7 +8,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("LC_ALL", "C.UTF-8");
   qunsetenv("QT_QPA_PLATFORMTHEME");
-  const QApplication application(argc, argv);
+  const trelonit::GuardedApplication application(argc, argv);
   QApplication::setOrganizationName(QStringLiteral("Trelonit"));
   QApplication::setApplicationName(QStringLiteral("trelonit-windows-tests"));
   ::testing::InitGoogleTest(&argc, argv);
