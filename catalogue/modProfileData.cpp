@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 
+#include "catalogue/DataFile.h"
 #include "catalogue/RecordCoding.h"
 #include "platform/errors/Guard.h"
 #include "platform/files/Paths.h"
@@ -13,10 +13,6 @@
 namespace trelonit {
 
 namespace {
-
-/// Record numbers are Integers. A damaged index therefore cannot claim more memory than this many
-/// records take.
-constexpr std::int64_t mostRecords = std::numeric_limits<Integer>::max();
 
 std::string FindOrUnpack(const Services& services, std::string_view name, Integer resId,
                          Long size) {
@@ -123,7 +119,7 @@ ProfileTypeArray LoadProfileTypes(const Services& services) {
   for (Long number = 1; number <= index.Count(); ++number) {
     const IndexRec row = DecodeIndexRecord(index.Record(number));
     claimed += ClaimedRecords(row);
-    if (claimed > mostRecords) {
+    if (claimed > mostCatalogueRecords) {
       RaiseOverflow();
     }
     standards[number].Name = row.Name;

@@ -57,7 +57,13 @@ std::optional<ProfileTypeArray> RecordsOfFile(const std::string& file,
   BoundedArray<ProfileRec> records;
   try {
     const std::unique_ptr<std::istream> stream = files.OpenForReading(file);
-    records = ReadProfileRecords(*stream, files.FileLength(file));
+    const std::uint64_t length = files.FileLength(file);
+    if (CountProfileRecords(length) > mostCatalogueRecords) {
+      throw RuntimeError(static_cast<int>(ErrorNumber::Overflow),
+                         "записей больше " + std::to_string(mostCatalogueRecords) +
+                             ", столько каталог не вмещает");
+    }
+    records = ReadProfileRecords(*stream, length);
   } catch (const RuntimeError& error) {
     std::cerr << "trelonit-cli: файл «" << file << "» не прочитан: " << error.Description() << "\n";
     return std::nullopt;

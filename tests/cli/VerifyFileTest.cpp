@@ -179,6 +179,26 @@ TEST_F(VerifyFile, TellsAFileThatMayNotBeRead) {
                 "trelonit-cli: файл «secret.dat» не прочитан: Permission denied\n");
 }
 
+TEST_F(VerifyFile, TellsAFileWithMoreRecordsThanACatalogueHolds) {
+  // Without blocks of its own on most file systems.
+  Put("huge.dat", "");
+  fs::resize_file(WorkFolder() / "huge.dat", std::uintmax_t{1} << 30U);
+  Launch launch = Command({"catalogue", "verify", "huge.dat"});
+  const Outcome outcome = RunProgram(launch);
+  ExpectFailure(outcome,
+                "trelonit-cli: файл «huge.dat» не прочитан: записей больше 32767, столько каталог "
+                "не вмещает\n");
+  EXPECT_LT(outcome.PeakMemory, std::uint64_t{100} << 20U);
+}
+
+TEST_F(VerifyFile, TakesAsManyRecordsAsACatalogueHolds) {
+  Put("full.dat", "");
+  fs::resize_file(WorkFolder() / "full.dat", 32767 * recordSize);
+  EXPECT_TRUE(Run({"catalogue", "verify", "full.dat"}).Out.ends_with(Summary(32767, 32767) + "\n"));
+  fs::resize_file(WorkFolder() / "full.dat", 32768 * recordSize);
+  EXPECT_EQ(Run({"catalogue", "verify", "full.dat"}).Status, failed);
+}
+
 TEST_F(VerifyFile, NeedsTheCatalogueForItsStandards) {
   const std::string shipped = Shipped();
   Cut(ProgramFolder() / indexName, 0);
