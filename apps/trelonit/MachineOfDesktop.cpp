@@ -1,6 +1,7 @@
 #include "apps/trelonit/Machine.h"
 #include "editor/associations/MimeAssociations.h"
 #include "platform/console/ConsoleServices.h"
+#include "platform/posix/UnfinishedFile.h"
 #include "windows/services/MimeDefaults.h"
 
 namespace trelonit {
@@ -9,7 +10,9 @@ namespace {
 
 class DesktopMachine : public Machine {
  public:
-  explicit DesktopMachine(AutomationService& office) : office_(office) {}
+  explicit DesktopMachine(AutomationService& office) : office_(office) {
+    TakeUnfinishedFileAlongWhenInterrupted();
+  }
   RegistryService& Registry() override { return registry_; }
   AutomationService& Programs() override { return office_; }
 

@@ -1,10 +1,6 @@
 #include "platform/files/Files.h"
 
-#include <algorithm>
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 #include <system_error>
 
@@ -38,14 +34,6 @@ fs::path ResolveLinks(const fs::path& path) {
   return target.empty() ? path : target;
 }
 
-/// A new name in the target's folder. It is not the target's with something behind it, which could
-/// become too long, and nobody can guess it and put a link there beforehand.
-fs::path NameBeside(const fs::path& target) {
-  std::random_device random;
-  return target.parent_path() /
-         (".trelonit-new" + std::to_string(random()) + "-" + std::to_string(random()));
-}
-
 }  // namespace
 
 bool DiskFiles::FileExists(const std::string& path) {
@@ -68,13 +56,7 @@ std::unique_ptr<std::istream> DiskFiles::OpenForReading(const std::string& path)
   if (fs::is_directory(status)) {
     throw RuntimeError(ErrorNumber::PathFileAccess);
   }
-  errno = 0;
-  auto stream = std::make_unique<std::ifstream>(native, std::ios::binary);
-  if (!*stream) {
-    throw errno != 0 ? FileError(std::error_code(errno, std::generic_category()))
-                     : RuntimeError(ErrorNumber::PathFileAccess);
-  }
-  return stream;
+  return OpenDiskFile(native);
 }
 
 std::uint64_t DiskFiles::FileLength(const std::string& path) {
@@ -96,21 +78,7 @@ void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) {
     throw RuntimeError(ErrorNumber::PathFileAccess);
   }
   RequireWritable(target);
-  const fs::path beside = NameBeside(target);
-  try {
-    WriteNewFile(beside, bytes);
-    if (fs::exists(before)) {
-      // A file system without permissions refuses this; the content matters more.
-      fs::permissions(beside, before.permissions(), code);
-    }
-    fs::rename(beside, target);
-  } catch (const RuntimeError&) {
-    fs::remove(beside, code);
-    throw;
-  } catch (const fs::filesystem_error& error) {
-    fs::remove(beside, code);
-    throw FileError(error.code());
-  }
+  ReplaceOnDisk(target, bytes);
 }
 
 std::unique_ptr<FileUpdate> DiskFiles::OpenForUpdate(const std::string& path) {

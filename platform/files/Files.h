@@ -28,14 +28,17 @@ class FileService {
 
   virtual bool FileExists(const std::string& path) = 0;
 
-  /// A stream at the beginning of the file, for reading bytes.
+  /// A stream at the beginning of the file, for reading bytes. It never waits for a pipe that
+  /// nobody writes into: that raises 75, as a device does.
   virtual std::unique_ptr<std::istream> OpenForReading(const std::string& path) = 0;
 
   /// Bytes in the file.
   virtual std::uint64_t FileLength(const std::string& path) = 0;
 
-  /// Puts these bytes in the place of the file: written beside it, flushed, renamed over it. On a
-  /// failure the file that was there before stays whole.
+  /// Puts these bytes in the place of the file: written beside it, flushed, renamed over it. A file
+  /// that cannot be replaced, or has other names, is written where it stands, with a copy of its
+  /// old content kept meanwhile. On a failure the file that was there before stays whole; where its
+  /// old content cannot be put back, the error tells where the copy is.
   virtual void ReplaceFile(const std::string& path, std::string_view bytes) = 0;
 
   /// A file that is there, for writing in place.

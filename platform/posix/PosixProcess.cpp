@@ -3,6 +3,7 @@
 #include <cstring>
 #include <unistd.h>
 
+#include "platform/posix/UnfinishedFile.h"
 #include "platform/system/Process.h"
 #include "platform/system/ProgramFolder.h"
 
@@ -10,6 +11,7 @@ namespace trelonit {
 
 int RunConsoleProgram(int argc, char** argv, const std::function<int(int, char**)>& work) {
   std::signal(SIGXFSZ, SIG_IGN);
+  TakeUnfinishedFileAlongWhenInterrupted();
   return work(argc, argv);
 }
 

@@ -1,4 +1,8 @@
 #include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <random>
+#include <string>
 
 #include "platform/files/DiskAccess.h"
 #include "platform/files/FileErrors.h"
@@ -83,8 +87,7 @@ class DiskUpdate : public FileUpdate {
   FileHandle file_;
 };
 
-}  // namespace
-
+/// Makes a file of these bytes and sees them on the disk. There must be none of this name yet.
 void WriteNewFile(const fs::path& path, std::string_view bytes) {
   FileHandle file(path, 0, CREATE_NEW);
   if (!file.IsOpen()) {
@@ -94,6 +97,45 @@ void WriteNewFile(const fs::path& path, std::string_view bytes) {
   file.Flush();
 }
 
+/// A new name in the target's folder. It is not the target's with something behind it, which could
+/// become too long.
+fs::path NameBeside(const fs::path& target) {
+  std::random_device random;
+  return target.parent_path() /
+         (".trelonit-new" + std::to_string(random()) + "-" + std::to_string(random()));
+}
+
+}  // namespace
+
+std::unique_ptr<std::istream> OpenDiskFile(const fs::path& path) {
+  errno = 0;
+  auto stream = std::make_unique<std::ifstream>(path, std::ios::binary);
+  if (!*stream) {
+    throw errno != 0 ? FileError(std::error_code(errno, std::generic_category()))
+                     : RuntimeError(ErrorNumber::PathFileAccess);
+  }
+  return stream;
+}
+
+void ReplaceOnDisk(const fs::path& target, std::string_view bytes) {
+  const fs::path beside = NameBeside(target);
+  std::error_code code;
+  try {
+    WriteNewFile(beside, bytes);
+    const fs::file_status before = fs::status(target, code);
+    if (fs::exists(before)) {
+      // A file system without permissions refuses this; the content matters more.
+      fs::permissions(beside, before.permissions(), code);
+    }
+    fs::rename(beside, target);
+  } catch (const RuntimeError&) {
+    fs::remove(beside, code);
+    throw;
+  } catch (const fs::filesystem_error& error) {
+    fs::remove(beside, code);
+    throw FileError(error.code());
+  }
+}
 std::unique_ptr<FileUpdate> OpenDiskUpdate(const fs::path& path) {
   return std::make_unique<DiskUpdate>(path);
 }

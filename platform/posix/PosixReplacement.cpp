@@ -1,0 +1,255 @@
+#include "platform/posix/PosixReplacement.h"
+
+#include <array>
+#include <cstdlib>
+#include <fcntl.h>
+#include <optional>
+#include <random>
+#include <string>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include "platform/files/DiskAccess.h"
+#include "platform/files/FileErrors.h"
+#include "platform/files/InPlace.h"
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/Leftovers.h"
+#include "platform/posix/UnfinishedFile.h"
+#include "platform/system/ProgramFolder.h"
+
+namespace trelonit {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using FileStatus = struct stat;
+
+constexpr mode_t permissionBits = 07777;
+/// As any program's new file, less the user's mask.
+constexpr mode_t newFile = 0666;
+/// Until it has the rights of the file that it is to replace.
+constexpr mode_t ownFile = 0600;
+
+/// The new file beside the old one, until it takes its place; otherwise it goes with this object.
+class FileBeside {
+ public:
+  FileBeside(const fs::path& target, mode_t mode, WhileWritten way)
+      : name_(NameForUnfinished(target)),
+        unfinished_(name_),
+        hasName_(way == WhileWritten::Named),
+        file_(hasName_ ? ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode)
+                       : OpenNameless(target, mode)) {
+    hasName_ = hasName_ && file_.IsOpen();
+    if (file_.IsOpen()) {
+      // Seen by whoever cleans up, also from another machine, which knows nothing of our processes.
+      ::flock(file_.Number(), LOCK_EX | LOCK_NB);
+    }
+  }
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+  ~FileBeside() {
+    if (hasName_) {
+      ::unlink(name_.c_str());
+    }
+  }
+  const Descriptor& File() const { return file_; }
+
+  /// False where a nameless file cannot get its name; then errno is set, as by all of these.
+  bool GetName() {
+    if (!hasName_) {
+      hasName_ = ::linkat(AT_FDCWD, PathOf(file_).c_str(), AT_FDCWD, name_.c_str(),
+                          AT_SYMLINK_FOLLOW) == 0;
+    }
+    return hasName_;
+  }
+  bool TakePlaceOf(const fs::path& target) {
+    const bool taken = ::rename(name_.c_str(), target.c_str()) == 0;
+    hasName_ = hasName_ && !taken;
+    return taken;
+  }
+
+ private:
+  static std::string PathOf(const Descriptor& file) {
+    return "/proc/self/fd/" + std::to_string(file.Number());
+  }
+  static int OpenNameless([[maybe_unused]] const fs::path& target, [[maybe_unused]] mode_t mode) {
+#ifdef O_TMPFILE
+    return ::open(target.parent_path().c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode);
+#else
+    errno = EOPNOTSUPP;
+    return -1;
+#endif
+  }
+
+  fs::path name_;
+  UnfinishedFile unfinished_;
+  bool hasName_;
+  Descriptor file_;
+};
+
+/// Before the first byte is in it. False where the group cannot be kept: its rights would be those
+/// of another one then. Another owner is none the worse for a file that he may read and write by
+/// its group or as anybody, as he let this user do.
+bool GiveRightsOf(const FileStatus& before, const Descriptor& file) {
+  FileStatus now{};
+  if (::fstat(file.Number(), &now) != 0 ||
+      (now.st_gid != before.st_gid &&
+       ::fchown(file.Number(), static_cast<uid_t>(-1), before.st_gid) != 0)) {
+    return false;
+  }
+  // A file system without owners or permissions refuses these; the content matters more.
+  if (now.st_uid != before.st_uid) {
+    static_cast<void>(::fchown(file.Number(), before.st_uid, static_cast<gid_t>(-1)));
+  }
+  static_cast<void>(::fchmod(file.Number(), before.st_mode & permissionBits));
+  return true;
+}
+
+/// Writes the new file and puts it in the place of the old one. 0, or the system's error where that
+/// is not to be had; raises where the bytes cannot be written.
+int PutBeside(const fs::path& target, const std::optional<FileStatus>& before,
+              std::string_view bytes, WhileWritten way) {
+  FileBeside beside(target, before ? ownFile : newFile, way);
+  if (!beside.File().IsOpen()) {
+    return errno;
+  }
+  if (before && !GiveRightsOf(*before, beside.File())) {
+    return EPERM;
+  }
+  WriteAt(beside.File(), 0, bytes);
+  Flush(beside.File());
+  if (!beside.GetName()) {
+    // Nobody says which of the reasons is the one that a name from the start has not.
+    return EOPNOTSUPP;
+  }
+  return beside.TakePlaceOf(target) ? 0 : errno;
+}
+
+/// Of a folder that can hold no nameless file.
+bool NeedsName(int error) {
+  return error == EOPNOTSUPP || error == EISDIR || error == EINVAL || error == ENOENT;
+}
+
+/// Whether the old file might take the bytes all the same.
+bool StandsInTheWay(int error) {
+  return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == EXDEV;
+}
+
+std::string ReadAll(const Descriptor& file) {
+  std::string content;
+  std::array<char, 65536> part{};
+  for (;;) {
+    const ssize_t count =
+        ::pread(file.Number(), part.data(), part.size(), static_cast<off_t>(content.size()));
+    if (count < 0 && errno == EINTR) {
+      continue;
+    }
+    if (count < 0) {
+      throw FromErrno();
+    }
+    if (count == 0) {
+      return content;
+    }
+    content.append(part.data(), static_cast<std::size_t>(count));
+  }
+}
+
+/// Where a copy outlives the machine's next start, otherwise where there is always room.
+fs::path FolderForCopies() {
+  const fs::path own = UserDataFolder();
+  if (IsWritableFolder(own)) {
+    return own;
+  }
+  std::error_code code;
+  const fs::path folder = fs::temp_directory_path(code);
+  return code ? fs::path("/tmp") : folder;
+}
+
+/// A copy of the old content, for this user's eyes only; it goes with this object unless it is
+/// kept.
+class ContentCopy {
+ public:
+  explicit ContentCopy(std::string_view content)
+      : name_((FolderForCopies() / "trelonit-copy-XXXXXX").native()),
+        file_(::mkostemp(name_.data(), O_CLOEXEC)) {
+    if (!file_.IsOpen()) {
+      throw FromErrno();
+    }
+    try {
+      WriteAt(file_, 0, content);
+      Flush(file_);
+    } catch (...) {
+      ::unlink(name_.c_str());
+      throw;
+    }
+  }
+  ContentCopy(const ContentCopy&) = delete;
+  ContentCopy& operator=(const ContentCopy&) = delete;
+  ~ContentCopy() {
+    if (!kept_) {
+      ::unlink(name_.c_str());
+    }
+  }
+  std::string Keep() {
+    kept_ = true;
+    return name_;
+  }
+
+ private:
+  std::string name_;
+  Descriptor file_;
+  bool kept_ = false;
+};
+
+void WriteWhereItStands(const fs::path& target, std::string_view bytes) {
+  const Descriptor file(::open(target.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (!file.IsOpen()) {
+    throw FromErrno();
+  }
+  const std::string old = ReadAll(file);
+  ContentCopy copy(old);
+  const HeldInterruption untilItIsWhole;
+  const auto write = [&file](std::string_view content) {
+    WriteAt(file, 0, content);
+    if (::ftruncate(file.Number(), static_cast<off_t>(content.size())) != 0) {
+      throw FromErrno();
+    }
+    Flush(file);
+  };
+  WriteInPlace(write, old, bytes, [&copy] { return copy.Keep(); });
+}
+
+}  // namespace
+
+void ReplaceOnDisk(const fs::path& target, std::string_view bytes, WhileWritten first) {
+  // The handler of a signal may run when the working folder is another one.
+  std::error_code code;
+  const fs::path whole = fs::absolute(target, code);
+  RemoveLeftovers(whole.parent_path());
+  std::optional<FileStatus> before;
+  if (FileStatus status{}; ::stat(whole.c_str(), &status) == 0) {
+    before = status;
+  }
+  if (before && before->st_nlink > 1) {
+    WriteWhereItStands(whole, bytes);
+    return;
+  }
+  int error = PutBeside(whole, before, bytes, first);
+  if (first == WhileWritten::Nameless && NeedsName(error)) {
+    error = PutBeside(whole, before, bytes, WhileWritten::Named);
+  }
+  if (before && StandsInTheWay(error)) {
+    WriteWhereItStands(whole, bytes);
+  } else if (error == ENOENT) {
+    throw RuntimeError(ErrorNumber::PathNotFound);
+  } else if (error != 0) {
+    throw FileError(std::error_code(error, std::generic_category()));
+  }
+}
+
+void ReplaceOnDisk(const fs::path& target, std::string_view bytes) {
+  ReplaceOnDisk(target, bytes, WhileWritten::Nameless);
+}
+
+}  // namespace trelonit
