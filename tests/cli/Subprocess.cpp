@@ -35,6 +35,24 @@ std::array<int, 2> MakePipe() {
   return ends;
 }
 
+/// The descriptor that becomes standard input.
+int OpenInput(const Launch& launch) {
+  if (!launch.PipedInput) {
+    const int in = ::open(launch.InputFrom.c_str(), O_RDONLY | O_CLOEXEC);
+    if (in < 0) {
+      ThrowErrno(launch.InputFrom.c_str());
+    }
+    return in;
+  }
+  const std::array<int, 2> ends = MakePipe();
+  const std::string& input = *launch.PipedInput;
+  if (::write(ends[1], input.data(), input.size()) != static_cast<ssize_t>(input.size())) {
+    ThrowErrno("input");
+  }
+  ::close(ends[1]);
+  return ends[0];
+}
+
 std::vector<std::string> MergedEnvironment(const std::map<std::string, std::string>& additions) {
   std::vector<std::string> merged;
   for (char** entry = environ; *entry != nullptr; ++entry) {
@@ -78,12 +96,11 @@ void DropRights() {
 }
 
 /// All that happens in the child between its birth and the program: system calls only.
-[[noreturn]] void BecomeProgram(const Launch& launch, int out, int err,
+[[noreturn]] void BecomeProgram(const Launch& launch, int in, int out, int err,
                                 const std::vector<char*>& arguments,
                                 const std::vector<char*>& environment) {
   ::dup2(err, STDERR_FILENO);
-  const int in = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
-  if (in < 0 || ::dup2(in, STDIN_FILENO) < 0 || ::dup2(out, STDOUT_FILENO) < 0) {
+  if (::dup2(in, STDIN_FILENO) < 0 || ::dup2(out, STDOUT_FILENO) < 0) {
     Refuse("standard streams");
   }
   if (::chdir(launch.Folder.c_str()) != 0) {
@@ -141,10 +158,12 @@ Subprocess::Subprocess(const Launch& launch) : deadline_(Clock::now() + launch.T
       ThrowErrno(launch.OutputTo.c_str());
     }
   }
+  const int in = OpenInput(launch);
   child_ = ::fork();
   if (child_ == 0) {
-    BecomeProgram(launch, out, err[1], arguments, environment);
+    BecomeProgram(launch, in, out, err[1], arguments, environment);
   }
+  ::close(in);
   ::close(out);
   ::close(err[1]);
   if (child_ < 0) {

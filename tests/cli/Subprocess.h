@@ -11,7 +11,7 @@
 
 namespace trelonit::test {
 
-/// A program to start directly, without a shell; its standard input is empty.
+/// A program to start directly, without a shell.
 struct Launch {
   std::vector<std::string> Arguments;  ///< the program's path first
   std::filesystem::path Folder;        ///< working folder
@@ -19,6 +19,10 @@ struct Launch {
   std::map<std::string, std::string> Environment;
   /// A file or device for standard output, which is captured otherwise.
   std::string OutputTo;
+  /// A file, device or pipe for standard input, which is empty otherwise.
+  std::string InputFrom = "/dev/null";
+  /// What comes through a pipe instead; no more than a pipe holds.
+  std::optional<std::string> PipedInput;
   /// Without the rights of root, where the test has them.
   bool PlainUser = false;
   /// Bytes that a file may grow to: beyond them a write fails as on a full disk.

@@ -1,8 +1,11 @@
 #include "workstation/design/ProjectFile.h"
 
 #include <array>
+#include <cstdint>
 #include <istream>
-#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/errors/Guard.h"
 #include "platform/text/CodePage1251.h"
@@ -46,21 +49,29 @@ class ProjectWriter {
   std::string text_;
 };
 
-/// Lines of a file whatever it holds. A line longer than any project can need is cut, so that a
-/// damaged file costs no memory.
-class LineReader {
- public:
-  explicit LineReader(std::istream& stream) : buffer_(*stream.rdbuf()) {}
+using Lines = std::vector<std::string>;
 
-  /// The next line without its end; nothing at the end of the file.
-  std::optional<std::string> Next() {
-    using Traits = std::istream::traits_type;
-    int byte = buffer_.sbumpc();
-    if (Traits::eq_int_type(byte, Traits::eof())) {
-      return std::nullopt;
+/// The lines of the format, each without its end, as far as they are there; what stands behind them
+/// is not looked at. Read once, for a pipe has no beginning to go back to. A line longer than any
+/// project can need is cut, so that a damaged file costs no memory, and a file without an end, as
+/// devices have, ends after more bytes than any project has. Raises 57 where the reading breaks
+/// off.
+Lines ReadLines(std::istream& stream) {
+  using Traits = std::istream::traits_type;
+  constexpr std::size_t maxLineLength = std::size_t{64} * 1024;
+  constexpr std::uint64_t mostBytes = std::uint64_t{256} << 20U;
+  std::streambuf& buffer = *stream.rdbuf();
+  std::uint64_t bytes = 0;
+  const auto next = [&] { return bytes++ < mostBytes ? buffer.sbumpc() : Traits::eof(); };
+  const auto isEnd = [](int byte) { return Traits::eq_int_type(byte, Traits::eof()); };
+  Lines lines;
+  while (lines.size() < projectLineCount) {
+    int byte = next();
+    if (isEnd(byte)) {
+      break;
     }
     std::string line;
-    for (; !Traits::eq_int_type(byte, Traits::eof()) && byte != '\n'; byte = buffer_.sbumpc()) {
+    for (; !isEnd(byte) && byte != '\n'; byte = next()) {
       if (line.size() < maxLineLength) {
         line.push_back(Traits::to_char_type(byte));
       }
@@ -68,29 +79,10 @@ class LineReader {
     if (!line.empty() && line.back() == '\r') {
       line.pop_back();
     }
-    return line;
+    lines.push_back(std::move(line));
   }
-
-  /// Lines up to the end of the file.
-  int CountRest() {
-    int count = 0;
-    bool open = false;
-    std::array<char, 65536> block{};
-    for (std::streamsize got = 0; (got = buffer_.sgetn(block.data(), block.size())) > 0;) {
-      for (std::streamsize place = 0; place < got; ++place) {
-        open = block[static_cast<std::size_t>(place)] != '\n';
-        if (!open && count < projectLineCount) {
-          ++count;
-        }
-      }
-    }
-    return open ? count + 1 : count;
-  }
-
- private:
-  static constexpr std::size_t maxLineLength = std::size_t{64} * 1024;
-  std::streambuf& buffer_;
-};
+  return lines;
+}
 
 /// The text between the first two quotes of a line; an unquoted line whole.
 std::string Unquote(const std::string& line) {
@@ -105,17 +97,11 @@ std::string Unquote(const std::string& line) {
 /// a text that does not convert leaves its field at 0.
 class ProjectReader {
  public:
-  ProjectReader(std::istream* stream, const NumberLocale& locale) : locale_(locale) {
-    if (stream != nullptr) {
-      lines_.emplace(*stream);
-    }
-  }
+  ProjectReader(const Lines& lines, const NumberLocale& locale) : locale_(locale), lines_(lines) {}
 
   const std::string& NextItem() {
-    if (lines_) {
-      if (const auto line = lines_->Next()) {
-        item_ = DecodeCodePage1251(Unquote(*line));
-      }
+    if (next_ < lines_.size()) {
+      item_ = DecodeCodePage1251(Unquote(lines_[next_++]));
     }
     return item_;
   }
@@ -140,7 +126,8 @@ class ProjectReader {
 
  private:
   const NumberLocale& locale_;
-  std::optional<LineReader> lines_;
+  const Lines& lines_;
+  std::size_t next_ = 0;
   std::string item_;
 };
 
@@ -210,25 +197,21 @@ bool WriteApplParameters(const std::string& fileName, const DesignInputs& record
 }
 
 DesignInputs ReadApplParameters(const std::string& fileName, const ProfileTypeArray& catalogue,
-                                const Services& services) {
-  std::unique_ptr<std::istream> stream;
+                                 const Services& services) {
+  Lines lines;
   try {
-    stream = services.Files.OpenForReading(fileName);
-  } catch (const RuntimeError& error) {
-    ShowOpenFailure(error, services);
+    lines = ReadLines(*services.Files.OpenForReading(fileName));
+  } catch (...) {
+    // What a stream's buffer raises is of the stream's kind, not of ours.
+    ShowOpenFailure(ErrorInHand(), services);
   }
-  const int lines = stream ? LineReader(*stream).CountRest() : 0;
-  if (lines < projectLineCount) {
+  if (lines.size() < projectLineCount) {
     services.Messages.Show({.Title = "ReadApplParameters",
                             .Text = "Ошибка чтения файла сохранения.\n"
                                     "колличество строк не соответствует ожидаемому!",
                             .Style = MessageStyle::Critical});
   }
-  if (stream) {
-    stream->clear();
-    stream->seekg(0);
-  }
-  ProjectReader reader(stream.get(), services.Locale);
+  ProjectReader reader(lines, services.Locale);
   if (reader.NextItem() != header) {
     services.Messages.Show({.Title = "",
                             .Text = "Ошибка считывания первой строки файла сохранения !",
