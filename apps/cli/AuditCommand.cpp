@@ -1,6 +1,7 @@
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
 #include "apps/cli/OpinionOutput.h"
+#include "apps/cli/PrintJson.h"
 #include "apps/cli/ResultJson.h"
 
 namespace trelonit::cli {
@@ -40,8 +41,9 @@ Status RunAudit(const AuditOptions& options) {
   }
   const SecondOpinion& opinion = session.TheProgram().LastResults()->Opinion;
   const CheckResult& check = session.Main().Model.Last.CheckData;
-  const Status printed =
-      Print(options.Json ? OpinionJson(check, opinion) : OpinionText(check, opinion));
+  const Status printed = options.Json
+                             ? PrintJson(session, [&] { return OpinionJson(check, opinion); })
+                             : Print(OpinionText(check, opinion));
   if (printed != Status::Done) {
     return printed;
   }

@@ -1,6 +1,7 @@
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
 #include "apps/cli/OpinionOutput.h"
+#include "apps/cli/PrintJson.h"
 #include "apps/cli/ResultJson.h"
 
 namespace trelonit::cli {
@@ -15,8 +16,10 @@ Status RunCalc(const CalcOptions& options) {
   }
   const ResultLists& lists = *session.TheProgram().LastResults();
   PrintDangers(lists.Opinion);
-  return Print(options.Json ? CalcJson(lists, session.Messages(), options.BarForce)
-                            : ListsAsText(lists));
+  return options.Json
+             ? PrintJson(session,
+                         [&] { return CalcJson(lists, session.Messages(), options.BarForce); })
+             : Print(ListsAsText(lists));
 }
 
 }  // namespace trelonit::cli

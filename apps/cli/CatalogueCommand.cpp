@@ -119,8 +119,8 @@ Status RunCatalogueShow(const CatalogueShowOptions& options) {
     }
   }
   if (rows.size() == 1) {
-    std::cerr << "trelonit-cli: в стандарте «" << (*catalogue)[standard].Name.Trimmed()
-              << "» нет типоразмера «" << options.Size << "»\n";
+    Tell("trelonit-cli: в стандарте «" + (*catalogue)[standard].Name.Trimmed() +
+         "» нет типоразмера «" + options.Size + "»");
     return Status::Failed;
   }
   return Print((*catalogue)[standard].Name.Trimmed() + "\n" + TextTable(rows));

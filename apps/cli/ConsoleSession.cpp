@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "platform/files/Paths.h"
+#include "platform/system/Process.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/text/TerminalText.h"
 
 namespace trelonit::cli {
 
@@ -19,7 +21,7 @@ std::string FullPath(const std::string& name) {
 }  // namespace
 
 ConsoleSession::ConsoleSession(MessageAnswer toQuestions, Program::Windows windows)
-    : messages_(std::cerr, toQuestions),
+    : messages_(std::cerr, toQuestions, IsErrorTerminal()),
       program_({messages_, dialogs_, clipboard_, settings_, registry_, automation_, shell_, clock_,
                 resources_, files_, SystemNumberLocale(), FindProgramFolder()},
                std::move(windows)) {}
@@ -42,12 +44,16 @@ bool ConsoleSession::SaveProject(const std::string& name) {
 }
 
 Status Print(const std::string& text) {
-  std::cout << text << std::flush;
+  std::cout << (IsOutputTerminal() ? TerminalText(text) : text) << std::flush;
   if (!std::cout) {
     std::cerr << "trelonit-cli: не удалось записать результат в стандартный вывод\n";
     return Status::Failed;
   }
   return Status::Done;
+}
+
+void Tell(const std::string& line) {
+  std::cerr << (IsErrorTerminal() ? TerminalText(line) : line) << '\n';
 }
 
 }  // namespace trelonit::cli

@@ -49,7 +49,11 @@ class ConsoleSession {
   Program program_;
 };
 
-/// Writes to standard output and makes sure that it arrived.
+/// Writes to standard output and makes sure that it arrived. What comes from files gives a terminal
+/// no orders; files and pipes get the bytes as they are.
 Status Print(const std::string& text);
+
+/// Writes a line to standard error, to a terminal in the same way.
+void Tell(const std::string& line);
 
 }  // namespace trelonit::cli

@@ -1,8 +1,8 @@
 #include "apps/cli/OpinionOutput.h"
 
-#include <iostream>
 #include <vector>
 
+#include "apps/cli/ConsoleSession.h"
 #include "apps/cli/OpinionJson.h"
 #include "apps/cli/TextTable.h"
 #include "checks/ElementGroups.h"
@@ -50,13 +50,13 @@ std::string OpinionText(const CheckResult& check, const SecondOpinion& opinion) 
 void PrintDangers(const SecondOpinion& opinion) {
   for (const Finding& finding : opinion.Findings) {
     if (finding.Grade == Severity::Danger) {
-      std::cerr << opinionTitle << ": " << finding.Text << '\n';
+      Tell(std::string(opinionTitle) + ": " + finding.Text);
     }
   }
 }
 
 void PrintRefusal(const Opinion& opinion) {
-  std::cerr << opinionTitle << ": " << opinion.Refusal << '\n';
+  Tell(std::string(opinionTitle) + ": " + opinion.Refusal);
 }
 
 }  // namespace trelonit::cli

@@ -2,6 +2,7 @@
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
 #include "apps/cli/OpinionOutput.h"
+#include "apps/cli/PrintJson.h"
 #include "apps/cli/ResultJson.h"
 #include "apps/cli/TextTable.h"
 
@@ -79,9 +80,11 @@ Status RunSelect(const SelectOptions& options) {
       return fail();
     }
   }
-  return Print(options.Json
-                   ? SelectJson(lists, session.Messages(), selection, proposal.Rounds)
-                   : RowsAsText(selection) + RoundsAsText(proposal.Rounds) + ListsAsText(lists));
+  if (options.Json) {
+    return PrintJson(
+        session, [&] { return SelectJson(lists, session.Messages(), selection, proposal.Rounds); });
+  }
+  return Print(RowsAsText(selection) + RoundsAsText(proposal.Rounds) + ListsAsText(lists));
 }
 
 }  // namespace trelonit::cli

@@ -4,15 +4,18 @@
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/system/LocalTime.h"
+#include "platform/text/TerminalText.h"
 
 namespace trelonit {
 
 MessageAnswer ConsoleMessages::Show(const Message& message) {
-  shown_.push_back(message);
-  if (!message.Title.empty()) {
-    stream_ << message.Title << ": ";
+  if (message.Style == MessageStyle::QuestionYesNo && toQuestions_ == MessageAnswer::Yes) {
+    return MessageAnswer::Yes;
   }
-  stream_ << message.Text << std::endl;
+  shown_.push_back(message);
+  const std::string line =
+      message.Title.empty() ? message.Text : message.Title + ": " + message.Text;
+  stream_ << (onTerminal_ ? TerminalText(line) : line) << std::endl;
   if (!IsQuestion(message)) {
     return MessageAnswer::Ok;
   }

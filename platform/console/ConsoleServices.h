@@ -11,18 +11,20 @@
 
 namespace trelonit {
 
-/// Message boxes as lines "title: text" on a stream; a question takes its safe answer, No, unless
-/// told otherwise. Keeps what it has shown.
+/// Message boxes as lines "title: text" on a stream; a question takes its safe answer, No. Where
+/// Yes is the answer from the start, it is not asked. Keeps what it has shown.
 class ConsoleMessages : public MessageService {
  public:
-  explicit ConsoleMessages(std::ostream& stream, MessageAnswer toQuestions = MessageAnswer::No)
-      : stream_(stream), toQuestions_(toQuestions) {}
+  explicit ConsoleMessages(std::ostream& stream, MessageAnswer toQuestions = MessageAnswer::No,
+                           bool onTerminal = false)
+      : stream_(stream), toQuestions_(toQuestions), onTerminal_(onTerminal) {}
   MessageAnswer Show(const Message& message) override;
   const std::vector<Message>& Shown() const { return shown_; }
 
  private:
   std::ostream& stream_;
   MessageAnswer toQuestions_;
+  bool onTerminal_;
   std::vector<Message> shown_;
 };
 

@@ -15,6 +15,14 @@ int RunConsoleProgram(int argc, char** argv, const std::function<int(int, char**
   return work(argc, argv);
 }
 
+bool IsOutputTerminal() {
+  return ::isatty(STDOUT_FILENO) == 1;
+}
+
+bool IsErrorTerminal() {
+  return ::isatty(STDERR_FILENO) == 1;
+}
+
 std::string ProgramFileName(std::string name) {
   return name;
 }

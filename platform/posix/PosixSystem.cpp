@@ -11,6 +11,20 @@ namespace trelonit {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// Never one below the working folder, which is another one every time.
+fs::path HomeFolder() {
+  const char* home = std::getenv("HOME");
+  if (home != nullptr && home[0] == '/') {
+    return home;
+  }
+  const passwd* entry = ::getpwuid(::getuid());
+  return entry != nullptr && entry->pw_dir[0] == '/' ? entry->pw_dir : "/";
+}
+
+}  // namespace
+
 std::string SystemShell::ComputerName() {
   std::array<char, 256> name{};
   if (::gethostname(name.data(), name.size() - 1) != 0) {
@@ -52,8 +66,7 @@ fs::path UserDataFolder() {
   if (data != nullptr && data[0] == '/') {
     return fs::path(data) / "trelonit";
   }
-  const char* home = std::getenv("HOME");
-  return fs::path(home != nullptr ? home : "/") / ".local/share/trelonit";
+  return HomeFolder() / ".local/share/trelonit";
 }
 
 std::tm LocalTime(std::time_t time) {

@@ -11,6 +11,10 @@ namespace trelonit {
 /// of the program.
 int RunConsoleProgram(int argc, char** argv, const std::function<int(int, char**)>& work);
 
+/// Whether somebody reads it on a terminal.
+bool IsOutputTerminal();
+bool IsErrorTerminal();
+
 /// The name of a program's file, with the ending that this system gives it.
 std::string ProgramFileName(std::string name);
 

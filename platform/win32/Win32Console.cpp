@@ -1,5 +1,7 @@
 #include "platform/win32/Win32Console.h"
 
+#include <cstdio>
+#include <io.h>
 #include <memory>
 
 #include "platform/system/Process.h"
@@ -61,6 +63,14 @@ int RunConsoleProgram(int /*argc*/, char** /*argv*/, const std::function<int(int
   // The given arguments are in the code page of the system, which not every name fits into.
   Utf8Console console;
   return work(console.ArgumentCount(), console.Arguments());
+}
+
+bool IsOutputTerminal() {
+  return _isatty(_fileno(stdout)) != 0;
+}
+
+bool IsErrorTerminal() {
+  return _isatty(_fileno(stderr)) != 0;
 }
 
 std::string ProgramFileName(std::string name) {

@@ -90,6 +90,27 @@ TEST_F(InstalledProgram, UsesTheHomeFolderWhereNoDataFolderIsSet) {
   ExpectWholeFiles(DataFolder() / ".local" / "share" / "trelonit", {});
 }
 
+TEST_F(InstalledProgram, MakesNoFolderInTheWorkingOneWhereTheHomeIsEmpty) {
+  Install();
+  fs::permissions(WorkFolder(), fs::perms(0777));
+  for (const char* home : {"", "home", "./home"}) {
+    Launch launch = AsUser({"catalogue", "list"});
+    launch.Environment["HOME"] = home;
+    launch.Environment["XDG_DATA_HOME"] = "";
+    RunProgram(launch);
+    EXPECT_TRUE(Names().empty()) << home;
+  }
+}
+
+TEST_F(InstalledProgram, IsTakenForOneWhereItsDocumentsMayNotBeRead) {
+  fs::create_directories(ProgramFolder().parent_path() / "share" / "doc");
+  fs::permissions(ProgramFolder().parent_path() / "share" / "doc", fs::perms(0000));
+  fs::permissions(ProgramFolder(), fs::perms(0777));
+  EXPECT_EQ(StandardsListedToUser(), 22U);
+  EXPECT_EQ(Names(ProgramFolder()), std::set<std::string>{ProgramName()});
+  ExpectWholeFiles(UserFolder(), {});
+}
+
 TEST_F(InstalledProgram, TellsThatItCannotKeepItsFilesAnywhere) {
   Install();
   fs::permissions(DataFolder(), fs::perms(0555));

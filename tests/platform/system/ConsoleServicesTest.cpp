@@ -55,6 +55,16 @@ TEST(ConsoleMessages, AnswersQuestionsAsTold) {
   EXPECT_EQ(messages.Show({"t", "q", MessageStyle::QuestionYesNo}), MessageAnswer::Yes);
 }
 
+TEST(ConsoleMessages, DoesNotAskWhatIsAnsweredAlready) {
+  std::ostringstream stream;
+  ConsoleMessages messages(stream, MessageAnswer::Yes);
+  messages.Show({"t", "q", MessageStyle::QuestionYesNo});
+  EXPECT_EQ(stream.str(), "");
+  EXPECT_TRUE(messages.Shown().empty());
+  messages.Show({"t", "q", MessageStyle::QuestionYesNoCancel});
+  EXPECT_EQ(stream.str(), "t: q\n");
+}
+
 TEST(ConsoleMessages, AnswersEveryOtherMessageWithOk) {
   std::ostringstream stream;
   ConsoleMessages messages(stream, MessageAnswer::Yes);
