@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <optional>
-#include <random>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "catalogue/DataFile.h"
+#include "tests/catalogue/CatalogueWorld.h"
 #include "tests/catalogue/DataManagerDesk.h"
 
 namespace trelonit {
@@ -49,7 +50,7 @@ class ShakyFiles : public test::MemoryFiles {
                ? std::make_unique<BreakingStream>(Content[path].substr(0, At))
                : std::move(stream);
   }
-  const std::string Shaky = "/data/shaky.dat";
+  std::string Shaky = "/data/shaky.dat";
   std::size_t At = 0;
 
  private:
@@ -87,6 +88,22 @@ TEST(ReadProfileRecords, TakesALastRecordThatIsCutAsTheLengthTells) {
   EXPECT_EQ(ErrorOfReading(cut, bytes.size()), 0);
   std::istringstream stray(bytes.substr(0, 2 * 177 + 1));
   EXPECT_EQ(ErrorOfReading(stray, 2 * 177 + 1), 0);
+}
+
+TEST(CatalogueLoading, Raises57WhereTheReadingOfEitherFileBreaksOff) {
+  test::CatalogueWorld world;
+  world.Load();
+  const Services real = world.Outside.Bundle();
+  for (const std::string& path : {world.DataPath, world.IndexPath}) {
+    ShakyFiles files;
+    files.Content = world.Outside.Files.Content;
+    files.Shaky = path;
+    files.At = 500;
+    const Services services{real.Messages,  real.Dialogs,    real.Clipboard, real.Settings,
+                            real.Registry,  real.Automation, real.Shell,     real.Clock,
+                            real.Resources, files,           real.Locale,    real.ProgramFolder};
+    EXPECT_EQ(test::ErrorOf([&] { LoadProfileTypes(services); }), 57) << path;
+  }
 }
 
 TEST(DataManagerCheck, TouchesNoFileThatItCouldNotRead) {
