@@ -197,7 +197,7 @@ bool WriteApplParameters(const std::string& fileName, const DesignInputs& record
 }
 
 DesignInputs ReadApplParameters(const std::string& fileName, const ProfileTypeArray& catalogue,
-                                 const Services& services) {
+                                const Services& services) {
   Lines lines;
   try {
     lines = ReadLines(*services.Files.OpenForReading(fileName));
