@@ -25,7 +25,9 @@ void RequireNumbers(const OrderedJson& value, const std::string& way, const std:
   std::size_t number = 0;
   for (const auto& item : value.items()) {
     const std::string step = value.is_array() ? std::to_string(++number) : item.key();
-    RequireNumbers(item.value(), way.empty() ? step : way + "/" + step, named);
+    std::string there = way.empty() ? way : way + '/';
+    there += step;
+    RequireNumbers(item.value(), there, named);
   }
 }
 
