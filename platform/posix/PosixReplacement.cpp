@@ -156,7 +156,7 @@ std::string ReadAll(const Descriptor& file) {
 
 /// Where a copy outlives the machine's next start, otherwise where there is always room.
 fs::path FolderForCopies() {
-  const fs::path own = UserDataFolder();
+  fs::path own = UserDataFolder();
   if (IsWritableFolder(own)) {
     return own;
   }
