@@ -12,6 +12,7 @@
 #include "windows/editor/AssocWindow.h"
 #include "windows/editor/DateWindow.h"
 #include "windows/help/HelpFile.h"
+#include "windows/office/OfficeWorkFolder.h"
 #include "windows/results/KoeffOfUseWindow.h"
 
 namespace trelonit {
@@ -61,9 +62,10 @@ void DesktopSession::Start(const std::string& commandLine) {
   program_.Main().Form_Load();
   window_ = std::make_unique<MainWindow>(program_.Main(), settings_);
   window_->show();
-  // After the first paint: it may have a file to copy.
+  // After the first paint: there may be a file to copy, and folders of a killed session to remove.
   QTimer::singleShot(0, window_.get(), [] {
     PlaceHelpFile(InstalledHelpFile(ExecutableFolder()), FindProgramFolder());
+    RemoveLeftWorkFolders();
   });
   if (!commandLine.empty()) {
     // Once the events run: the document window waits for its end.

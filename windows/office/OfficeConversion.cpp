@@ -1,23 +1,20 @@
 #include "windows/office/OfficeConversion.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QThread>
 #include <QUrl>
 
 #include "platform/files/FileBytes.h"
 #include "windows/office/OfficeHost.h"
 #include "windows/office/OfficeProfile.h"
+#include "windows/office/OfficeWorkFolder.h"
 
 namespace trelonit {
 
 namespace {
 
-constexpr int watchInterval = 50;    // milliseconds
-constexpr int timeToDie = 5000;      // milliseconds
-constexpr int removalAttempts = 20;  // at the same interval
+constexpr int watchInterval = 50;  // milliseconds
+constexpr int timeToDie = 5000;    // milliseconds
 
 constexpr QLatin1String profileName("profile");
 
@@ -98,34 +95,8 @@ void ProcessTree::Finish(std::chrono::milliseconds timeLimit, ConversionWatch* w
   }
 }
 
-/// A folder of one conversion, gone with this object.
-class WorkFolder {
- public:
-  explicit WorkFolder(const std::string& place)
-      : folder_(QDir(place.empty() ? QDir::tempPath() : QString::fromStdString(place))
-                    .absoluteFilePath(QStringLiteral("trelonit-XXXXXX"))) {
-    if (!folder_.isValid()) {
-      throw RuntimeError(ErrorNumber::PathFileAccess);
-    }
-    folder_.setAutoRemove(false);
-  }
-  WorkFolder(const WorkFolder&) = delete;
-  WorkFolder& operator=(const WorkFolder&) = delete;
-  ~WorkFolder() {
-    // Who was just killed may still make a last file.
-    for (int attempt = 0; attempt < removalAttempts && !folder_.remove(); ++attempt) {
-      QThread::msleep(watchInterval);
-    }
-  }
-
-  QString Path(const QString& name) const { return folder_.filePath(name); }
-
- private:
-  QTemporaryDir folder_;
-};
-
 /// One run of the converter; empty where it gives no result.
-std::string Convert(const ConversionSettings& settings, const WorkFolder& folder,
+std::string Convert(const ConversionSettings& settings, const OfficeWorkFolder& folder,
                     const QString& reader, OfficeFormat from, OfficeFormat to,
                     ConversionWatch* watch) {
   const QString target = folder.Path(QStringLiteral("converted"));
@@ -149,7 +120,7 @@ std::string ConvertDocument(const ConversionSettings& settings, std::string_view
                             OfficeFormat from, OfficeFormat to) {
   const std::unique_ptr<ConversionWatch> watch =
       settings.Watch ? settings.Watch() : std::unique_ptr<ConversionWatch>();
-  const WorkFolder folder(settings.TemporaryFolder);
+  const OfficeWorkFolder folder(settings.TemporaryFolder);
   WriteOfficeProfile(folder.Path(profileName));
   DiskFiles().ReplaceFile(folder.Path(DocumentName(from)).toStdString(), bytes);
   // The program ends well even when it could not load the document: only its result tells.
