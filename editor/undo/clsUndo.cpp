@@ -92,7 +92,11 @@ void clsUndo::Undo() {
 void clsUndo::Redo() {
   Apply(redoElements_, undoElements_, [this](const clsUndoElement& element) {
     Box().Select(element.Start, element.NewLength);
-    PutIn(element.NewText);
+    if (element.Plain) {
+      Box().SetSelText(element.NewText);
+    } else {
+      PutIn(element.NewText);
+    }
     if (element.CaretAfter != clsUndoElement::leaveCaret) {
       Box().SetSelStart(element.CaretAfter);
     }
@@ -162,6 +166,7 @@ void clsUndo::InsertText(const std::string& text) {
   const std::string whole = WithWholeLineEnds(text);
   BeginEdit();
   current_.NewText = whole;
+  current_.Plain = true;
   current_.OldLength = UnitCount(whole);
   if (current_.OldLength > 0 || current_.NewLength > 0) {
     Record();

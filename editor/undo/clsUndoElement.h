@@ -26,6 +26,8 @@ struct clsUndoElement {
   Long CaretAfter = leaveCaret;
   /// The edit removed text.
   bool Removal = false;
+  /// The new text is text whatever it begins like.
+  bool Plain = false;
 
   friend bool operator==(const clsUndoElement&, const clsUndoElement&) = default;
 };

@@ -104,6 +104,18 @@ TEST_F(Undo, InsertsATextAsOneStep) {
   EXPECT_EQ(box.Text(), "aраз\r\nдваd");
 }
 
+TEST_F(Undo, RedoesAnInsertedTextAsTextThoughItBeginsLikeRichText) {
+  undo.SetRichEditing(true);
+  Hold("ab");
+  box.Select(1, 0);
+  undo.InsertText("{\\rtf1 x}");
+  EXPECT_EQ(box.Text(), "a{\\rtf1 x}b");
+  undo.Undo();
+  EXPECT_EQ(box.Text(), "ab");
+  undo.Redo();
+  EXPECT_EQ(box.Text(), "a{\\rtf1 x}b");
+}
+
 TEST_F(Undo, InsertsAnEmptyTextByTakingTheSelectionOut) {
   Hold("abcd");
   undo.InsertText("");
