@@ -30,7 +30,7 @@ rule(drawing USES drawing analysis catalogue platform BUT drawing/host)
 rule(windows QT USES windows ${logic})
 rule(apps QT USES apps windows ${logic})
 rule(examples USES examples apps ${logic})
-rule(fuzz USES fuzz ${logic})
+rule(fuzz USES fuzz tests/support ${logic})
 rule(bench QT USES bench apps windows ${logic})
 # What is tested without a window knows no window.
 set(tests_of_windows tests/windows tests/office)

@@ -1,40 +1,16 @@
-#include <algorithm>
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <random>
 
 #include "fuzz/rtf/RtfInvariants.h"
 #include "tests/editor/rtf/RtfTexts.h"
+#include "tests/support/Corpus.h"
 
 namespace trelonit::test {
 namespace {
 
-struct Sample {
-  std::string Name;
-  std::string Bytes;
-};
-
-std::vector<Sample> Corpus() {
-  const auto folder = std::filesystem::path(RTF_CORPUS);
-  std::vector<Sample> samples;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() == ".rtf") {
-      std::ifstream file(entry.path(), std::ios::binary);
-      samples.push_back(
-          {entry.path().stem().string(), std::string(std::istreambuf_iterator(file), {})});
-    }
-  }
-  // The system's order is any; the mutations below must be the same everywhere.
-  std::sort(samples.begin(), samples.end(),
-            [](const Sample& a, const Sample& b) { return a.Name < b.Name; });
-  return samples;
-}
-
 std::string BytesOf(const std::string& name) {
-  for (const Sample& sample : Corpus()) {
+  for (const Sample& sample : CorpusOf("rtf")) {
     if (sample.Name == name) {
       return sample.Bytes;
     }
@@ -44,15 +20,11 @@ std::string BytesOf(const std::string& name) {
 }
 
 TEST(RtfCorpus, EverySampleIsReadWell) {
-  const std::vector<Sample> corpus = Corpus();
-  ASSERT_GE(corpus.size(), 8U);
-  for (const Sample& sample : corpus) {
-    EXPECT_EQ(fuzz::ComplaintAboutReading(sample.Bytes), "") << sample.Name;
-  }
+  ReplayCorpus("rtf", fuzz::ComplaintAboutReading);
 }
 
 TEST(RtfCorpus, EverySampleIsReadWellWhereverItEnds) {
-  for (const Sample& sample : Corpus()) {
+  for (const Sample& sample : CorpusOf("rtf")) {
     for (std::size_t length = 0; length < sample.Bytes.size(); ++length) {
       ASSERT_EQ(fuzz::ComplaintAboutReading(sample.Bytes.substr(0, length)), "")
           << sample.Name << " " << length;
@@ -95,7 +67,7 @@ std::string Mutated(std::string bytes, const std::string& other, std::mt19937& r
 }
 
 TEST(RtfCorpus, MutationsOfTheSamplesAreReadWell) {
-  const std::vector<Sample> corpus = Corpus();
+  const std::vector<Sample> corpus = CorpusOf("rtf");
   std::mt19937 random(20240229);
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(3);
   int tried = 0;
