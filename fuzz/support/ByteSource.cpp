@@ -59,7 +59,9 @@ double ByteSource::Number() {
     case 1:
       return Whole16() / hundredths;
     case 2: {
-      const int power = static_cast<std::int8_t>(Byte());
+      constexpr int values = 256;
+      const int byte = Byte();
+      const int power = byte < values / 2 ? byte : byte - values;
       return Whole16() * std::pow(10.0, power * 2);
     }
     default: {
@@ -72,7 +74,7 @@ double ByteSource::Number() {
 
 std::string ByteSource::Text() {
   const std::size_t length = Byte();
-  const std::string text(rest_.substr(0, length));
+  std::string text(rest_.substr(0, length));
   rest_.remove_prefix(text.size());
   return text;
 }

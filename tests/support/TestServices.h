@@ -92,6 +92,8 @@ class FrozenClock : public ClockService {
 class World {
  public:
   explicit World(ResourceService& resources);
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
   ~World();
 
   /// A bundle of references to this world; the world must outlive whoever holds it.
