@@ -172,7 +172,8 @@ Real Value(const Expression& expression, const SymbolValues& symbols) {
 
 /// Without an exponent, so that the text stays plain arithmetic for every reader.
 std::string PlainNumber(double value, int digits) {
-  const int magnitude = value == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(value))));
+  const int magnitude =
+      Finite(value) == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(value))));
   const int decimals = std::clamp(digits - 1 - magnitude, 0, 300);
   std::string text(350 + static_cast<std::size_t>(decimals), '\0');
   const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, value);

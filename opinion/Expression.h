@@ -27,7 +27,7 @@ Expression ParseExpression(std::string_view text);
 double ValueOf(const Expression& expression, const SymbolValues& symbols = {});
 
 /// The formula as text again, with a number of this many significant digits in the place of each
-/// symbol.
+/// symbol. Raises 6 for a value that is not finite.
 std::string WithNumbers(const Expression& expression, const SymbolValues& symbols, int digits);
 
 /// The same with as few digits as give the formula's value within 1e-5, and within 1e-5 of it.

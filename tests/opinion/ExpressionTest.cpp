@@ -194,6 +194,19 @@ TEST(WithNumbers, WritesPlainDigitsWithoutAnExponent) {
   EXPECT_EQ(written(-0.25, 5), "(-0.25)");
 }
 
+TEST(WithNumbers, RefusesAValueThatIsNoNumber) {
+  const Expression x = ParseExpression("180/x");
+  for (const double value :
+       {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+        std::numeric_limits<double>::quiet_NaN()}) {
+    try {
+      ADD_FAILURE() << WithNumbers(x, {{"x", value}}, 5);
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Number(), 6);
+    }
+  }
+}
+
 TEST(WithNumbers, KeepsTheNumbersAndTheSymbolsThatItDoesNotKnow) {
   const Expression formula = ParseExpression("180-60*α/(0.50+y)");
   EXPECT_EQ(WithNumbers(formula, {{"α", 0.75}}, 5), "180-60*0.75/(0.50+y)");
