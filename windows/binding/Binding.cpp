@@ -76,6 +76,15 @@ void RefreshTable(const Grid& state, QTableWidget* table) {
   }
 }
 
+/// The first of the selected rows, as the state counts them.
+Long FirstSelected(const QListWidget& list) {
+  Long first = ListBox::noSelection;
+  for (const QModelIndex& index : list.selectionModel()->selectedIndexes()) {
+    first = first == ListBox::noSelection ? index.row() : std::min<Long>(first, index.row());
+  }
+  return first;
+}
+
 }  // namespace
 
 QString ToQt(const std::string& text) {
@@ -210,14 +219,15 @@ void Bind(ListBox& state, QListWidget* list) {
       list->clear();
       list->addItems(lines);
     }
-    list->setCurrentRow(state.ListIndex());
+    // More rows than the state knows of may be selected; they stay so.
+    if (FirstSelected(*list) != state.ListIndex()) {
+      list->setCurrentRow(state.ListIndex());
+    }
     ShowCommon(state, list);
   });
   // The row with the focus is not yet a selected one.
-  QObject::connect(list, &QListWidget::itemSelectionChanged, list, [&state, list] {
-    const QList<QListWidgetItem*> selected = list->selectedItems();
-    state.Select(selected.isEmpty() ? ListBox::noSelection : list->row(selected.front()));
-  });
+  QObject::connect(list, &QListWidget::itemSelectionChanged, list,
+                   [&state, list] { state.Select(FirstSelected(*list)); });
 }
 
 void Bind(Grid& state, QTableWidget* table) {

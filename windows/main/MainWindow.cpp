@@ -207,6 +207,10 @@ void MainWindow::StorePlace() {
   settings_.Set(settingsSection, placeKey, saveGeometry().toBase64().toStdString());
 }
 
+MainWindow::~MainWindow() {
+  StorePlace();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   StorePlace();
   event->accept();

@@ -17,6 +17,10 @@ class MainWindow : public QMainWindow {
  public:
   /// Settings keep the place of the window between runs.
   MainWindow(frmMain& form, SettingsService& settings);
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+  /// However the program ends, the place is kept.
+  ~MainWindow() override;
 
   /// Builds the tabs that are not to be seen yet. It happens by itself after the first paint or on
   /// the way to one of them, so that the window stands sooner.

@@ -16,6 +16,7 @@ Desktop::Desktop() {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationVersion(QLatin1String(applicationVersion));
   QApplication::setDesktopFileName(QStringLiteral("ru.trelonit.Trelonit"));
+  qApp->installEventFilter(&wheel_);
   if (buttons_.load(QStringLiteral("qtbase_ru"),
                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&buttons_);

@@ -2,6 +2,8 @@
 
 #include <QTranslator>
 
+#include "windows/services/WheelGuard.h"
+
 namespace trelonit {
 
 /// What the toolkit is told once about this program: its name (by which settings are found), the
@@ -12,6 +14,7 @@ class Desktop {
 
  private:
   QTranslator buttons_;
+  WheelGuard wheel_;
 };
 
 }  // namespace trelonit

@@ -121,8 +121,17 @@ std::string DesktopDialogs::AskOpenName(const FileDialogRequest& request) {
   return RunDialog(request, QFileDialog::AcceptOpen);
 }
 
+DesktopClipboard::DesktopClipboard() {
+  QObject::connect(QApplication::clipboard(), &QClipboard::dataChanged, &changes_,
+                   [this] { hasText_.reset(); });
+}
+
 bool DesktopClipboard::HasText() {
-  return !QApplication::clipboard()->text().isEmpty();
+  if (!hasText_) {
+    const QMimeData* content = QApplication::clipboard()->mimeData();
+    hasText_ = content != nullptr && content->hasText();
+  }
+  return *hasText_;
 }
 
 std::string DesktopClipboard::Text() {

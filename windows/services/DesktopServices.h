@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QObject>
 #include <memory>
+#include <optional>
 
 #include "platform/console/ConsoleServices.h"
 #include "platform/system/Services.h"
@@ -27,11 +29,18 @@ class DesktopDialogs : public DialogService {
 
 class DesktopClipboard : public ClipboardService {
  public:
+  DesktopClipboard();
+  /// Asks the owner of the content only which forms it has, and only after a change of it: this is
+  /// asked ten times a second, and what the content is may take long to hand over.
   bool HasText() override;
   std::string Text() override;
   void SetText(const std::string& text) override;
   std::string RichText() override;
   void SetRichText(const std::string& rtf, const std::string& plain) override;
+
+ private:
+  std::optional<bool> hasText_;
+  QObject changes_;
 };
 
 /// Settings of the user, in the desktop's own store.

@@ -273,6 +273,8 @@ class frmMain {
   void WriteOtchet(const ReportSink& sink);
   std::optional<SelectionProposal> ProposeByOpinion();
   void TakeProposal(const SelectionProposal& proposal);
+  /// The size list as the selection that was taken over has it.
+  void ShowTakenSize();
   void ShowProgib(const ProgibResult& progib);
 
   DesignInputs CollectProject();

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "analysis/modMaxProgib.h"
 #include "platform/errors/Guard.h"
 #include "workstation/design/OpinionSelection.h"
@@ -130,11 +132,20 @@ void frmMain::TakeProposal(const SelectionProposal& proposal) {
     Model.Last.CheckData = proposal.Check;
   }
   takenSections_ = Model.Inputs.ElementSection;
+  ShowTakenSize();
   RefreshSectionSource(SelectedSection());
   for (Long option = 1; option <= groupCount; ++option) {
     lblProfilName[option].SetCaption(
         Model.Inputs.ElementSection[PlaceOfOption(option)].Profile.Name.Trimmed());
   }
+}
+
+void frmMain::ShowTakenSize() {
+  // Not as a choice of the user: that would take own weight out of the loads, which already is that
+  // of the new sizes or becomes it with the next calculation.
+  const std::function<void()> click = std::exchange(cmbSectType.Click, nullptr);
+  cmbSectType.SetText(SelectedSection().Profile.Name.Trimmed());
+  cmbSectType.Click = click;
 }
 
 void frmMain::ShowResults() {

@@ -190,6 +190,7 @@ void frmMain::ShowInputs(const DesignInputs& record) {
     optBP.SetValue(record.ProgibUpper != 0);
     optNP.SetValue(record.ProgibUpper == 0);
   }
+  RefreshHopt();
 }
 
 }  // namespace trelonit

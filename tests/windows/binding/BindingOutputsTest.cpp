@@ -43,6 +43,20 @@ TEST(BoundListBox, SelectsBothWays) {
   EXPECT_TRUE(list.selectedItems().isEmpty());
 }
 
+TEST(BoundListBox, KeepsASelectionOfSeveralRows) {
+  ListBox state;
+  state.SetList({"a", "b", "c"});
+  QListWidget list;
+  list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+  Bind(state, &list);
+  list.selectAll();
+  EXPECT_EQ(list.selectedItems().size(), 3);
+  EXPECT_EQ(state.ListIndex(), 0);
+  list.item(0)->setSelected(false);
+  EXPECT_EQ(list.selectedItems().size(), 2);
+  EXPECT_EQ(state.ListIndex(), 1);
+}
+
 TEST(BoundGrid, ShowsTheFirstRowAsHead) {
   Grid state;
   QTableWidget table;

@@ -85,6 +85,15 @@ TEST_F(ResultsWindow, CopiesTheChosenLinesInOrder) {
   EXPECT_EQ(Clipboard(), Lists.lstForces[2] + "\n" + Lists.lstForces[4]);
 }
 
+TEST_F(ResultsWindow, CopiesAllLinesThatAreSelectedByKey) {
+  List().setFocus();
+  QTest::keyClick(&List(), Qt::Key_A, Qt::ControlModifier);
+  Copy(List());
+  const std::string text = Clipboard();
+  EXPECT_EQ(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1,
+            Lists.lstForces.size());
+}
+
 TEST_F(ResultsWindow, CopiesTheChosenRows) {
   Table().selectRow(1);
   Copy(Table());

@@ -211,6 +211,32 @@ TEST(DesktopClipboardTexts, GoBothWays) {
   EXPECT_FALSE(clipboard.HasText());
 }
 
+/// A content that counts how often its text is fetched.
+class WatchedContent : public QMimeData {
+ public:
+  explicit WatchedContent(int& fetches) : fetches_(fetches) { setText(QStringLiteral("x")); }
+
+ protected:
+  QVariant retrieveData(const QString& form, QMetaType type) const override {
+    ++fetches_;
+    return QMimeData::retrieveData(form, type);
+  }
+
+ private:
+  int& fetches_;
+};
+
+TEST(DesktopClipboardTexts, AreNotFetchedToTellWhetherThereIsOne) {
+  DesktopClipboard clipboard;
+  int fetches = 0;
+  QApplication::clipboard()->setMimeData(new WatchedContent(fetches));
+  fetches = 0;
+  EXPECT_TRUE(clipboard.HasText());
+  EXPECT_TRUE(clipboard.HasText());
+  EXPECT_EQ(fetches, 0);
+  QApplication::clipboard()->clear();
+}
+
 TEST(DesktopSettingsTexts, AreKeptBySectionAndKey) {
   const QTemporaryDir folder;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());

@@ -118,6 +118,7 @@ TEST_F(RestoreCommand, FillsTheInputs) {
   EXPECT_EQ(form.txtHight.Text(), "2.5");
   EXPECT_EQ(form.txtLenOporn.Text(), "1.75");
   EXPECT_EQ(form.cmbPanelNum.Text(), "12");
+  EXPECT_EQ(form.StatusBarMain[6].Caption(), "Hopt = 1.52083");
   EXPECT_EQ(form.lblStillName.Caption(), "Сталь 09Г2С");
   EXPECT_EQ(form.txtRy.Text(), "315.5");
   EXPECT_EQ(form.Steel.DensitSteel, "7.8");

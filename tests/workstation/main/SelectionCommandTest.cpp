@@ -101,6 +101,16 @@ TEST(CalcAndSelect, ProposesSizesThatPassInACheckOfTheirOwn) {
   }
 }
 
+TEST(CalcAndSelect, ShowsTheTakenSizeInItsListAndLeavesOwnWeightInTheLoads) {
+  LoadedTruss desk;
+  desk.Main.chkOwnWeight.SetChecked(true);
+  const std::string before = desk.Main.cmbSectType.Text();
+  const SelectionProposal& proposal = desk.Select(true);
+  EXPECT_EQ(desk.Main.cmbSectType.Text(), proposal.Sections[sectionUpPoyas].Profile.Name.Trimmed());
+  EXPECT_NE(desk.Main.cmbSectType.Text(), before);
+  EXPECT_TRUE(desk.Main.Model.OwnWeight.Added);
+}
+
 TEST(CalcAndSelect, ShowsTheProposalBeforeTheResultsAndEachOnce) {
   Desk world;
   std::vector<std::string> order;

@@ -1,0 +1,44 @@
+#include "windows/services/WheelGuard.h"
+
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QScrollBar>
+#include <QTabBar>
+
+namespace trelonit {
+
+namespace {
+
+/// Whether the wheel would choose something in it.
+bool IsChanged(const QWidget& widget) {
+  return qobject_cast<const QComboBox*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
+         qobject_cast<const QTabBar*>(&widget) != nullptr ||
+         (qobject_cast<const QAbstractSlider*>(&widget) != nullptr &&
+          qobject_cast<const QScrollBar*>(&widget) == nullptr);
+}
+
+bool HasFocus(const QWidget& widget) {
+  const QWidget* focus = widget.window()->focusWidget();
+  return widget.isActiveWindow() && focus != nullptr &&
+         (focus == &widget || widget.isAncestorOf(focus));
+}
+
+}  // namespace
+
+bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Wheel) {
+    return false;
+  }
+  const auto* widget = qobject_cast<QWidget*>(watched);
+  if (widget == nullptr || !IsChanged(*widget) || HasFocus(*widget)) {
+    return false;
+  }
+  // Not taken, so that it goes on to the parent.
+  event->ignore();
+  return true;
+}
+
+}  // namespace trelonit
