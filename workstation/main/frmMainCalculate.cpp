@@ -42,7 +42,12 @@ void frmMain::cmdCalcAndSelect_Click() {
 
 void frmMain::cmdShowResults_Click() {
   Guard(services_.Messages, "cmdShowResults_Click", [&] {
+    const Long chosen = cmbKnotNum.ListIndex();
     CalculateModel();
+    // Own weight has filled the list anew. Who reads a report goes on where he was.
+    if (chosen != ComboBox::noSelection && chosen < static_cast<Long>(cmbKnotNum.List().size())) {
+      cmbKnotNum.Select(chosen);
+    }
     if (openers_.BeginOtchet) {
       openers_.BeginOtchet(Model.Last);
     }

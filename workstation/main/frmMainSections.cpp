@@ -85,14 +85,14 @@ void frmMain::optElementSection_Click(Long option) {
       cmbGdist.AddItem(gap);
       cmbGdist.SetText(gap);
     }
+    // The kept pairing decides here, not the layout, which may be a single one by now.
+    cmbGdist.SetEnabled(section.Paired);
     const SectionLayout* layout = FindSectionLayout(section.Layout);
     if (layout == nullptr) {
       ShowUnknownLayout(services_.Messages);
       return;
     }
     imgProfView.Show(layout->View);
-    // The kept pairing decides here, not the layout, which may be a single one by now.
-    cmbGdist.SetEnabled(section.Paired);
     FillProfileLists(section.Layout);
     FillSizes(section.TypeIdx);
     cmbTypeProfile.SetText(Model.ProfileTypes[section.TypeIdx].Name.Trimmed());

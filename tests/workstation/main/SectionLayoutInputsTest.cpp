@@ -148,6 +148,12 @@ TEST(UnknownLayout, OfAGroupIsToldWhenTheGroupIsChosen) {
   EXPECT_EQ(MarkedOf(form.imgProfileSecSelect), std::vector<Long>());
   EXPECT_EQ(form.imgProfView.Shown(), before);
   EXPECT_EQ(form.linDownPoyas.BorderColor(), 255U);
+  EXPECT_FALSE(form.cmbGdist.Enabled());
+  form.Model.Inputs.ElementSection[1].Layout = 12;
+  form.Model.Inputs.ElementSection[1].Paired = true;
+  form.optElementSection.Select(1);
+  EXPECT_EQ(desk.TakeMessages(), Messages{unknownLayout});
+  EXPECT_TRUE(form.cmbGdist.Enabled());
 }
 
 }  // namespace

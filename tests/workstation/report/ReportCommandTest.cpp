@@ -41,6 +41,13 @@ class ReportCommand : public ::testing::Test {
   frmMain& form = desk.Main;
 };
 
+TEST_F(ReportCommand, LeavesTheLoadInputsWhereTheyAre) {
+  form.chkOwnWeight.SetChecked(true);
+  form.cmbKnotNum.Select(3);
+  Report();
+  EXPECT_EQ(form.cmbKnotNum.Text(), "3");
+}
+
 TEST_F(ReportCommand, ShowsTheEditorOnceAndNothingElse) {
   Report();
   EXPECT_EQ(desk.Opened, std::vector<std::string>{"Otchet"});
