@@ -22,6 +22,13 @@ fs::path NativePath(const std::string& path) {
   return PathOfUtf8(path);
 }
 
+/// A device that does not answer has not said that there is no file: what might stand there is
+/// neither new nor nobody's.
+bool IsUnanswered(const std::error_code& code) {
+  return code && code != std::errc::no_such_file_or_directory &&
+         FileError(code).Number() == static_cast<int>(ErrorNumber::DeviceIoError);
+}
+
 /// Where the bytes finally go: the file that a symbolic link names, not the link.
 fs::path ResolveLinks(const fs::path& path) {
   std::error_code code;
@@ -30,6 +37,9 @@ fs::path ResolveLinks(const fs::path& path) {
   while (!code && fs::is_symlink(fs::symlink_status(target, code))) {
     const fs::path named = fs::read_symlink(target, code);
     target = fs::weakly_canonical(target.parent_path() / named, code);
+  }
+  if (IsUnanswered(code)) {
+    throw FileError(code);
   }
   return target.empty() ? path : target;
 }
@@ -42,7 +52,7 @@ bool DiskFiles::FileExists(const std::string& path) {
   }
   std::error_code code;
   const fs::file_status status = fs::status(NativePath(path), code);
-  return fs::exists(status) && !fs::is_directory(status);
+  return IsUnanswered(code) || (fs::exists(status) && !fs::is_directory(status));
 }
 
 std::unique_ptr<std::istream> DiskFiles::OpenForReading(const std::string& path) {
@@ -73,6 +83,9 @@ void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) {
   const fs::path target = ResolveLinks(NativePath(path));
   std::error_code code;
   const fs::file_status before = fs::status(target, code);
+  if (IsUnanswered(code)) {
+    throw FileError(code);
+  }
   // A folder cannot be replaced, and a device or a pipe must not be.
   if (fs::exists(before) && !fs::is_regular_file(before)) {
     throw RuntimeError(ErrorNumber::PathFileAccess);

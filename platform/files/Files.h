@@ -26,6 +26,7 @@ class FileService {
  public:
   virtual ~FileService() = default;
 
+  /// True also where the device does not answer: such a file must not be taken for a new one.
   virtual bool FileExists(const std::string& path) = 0;
 
   /// A stream at the beginning of the file, for reading bytes. It never waits for a pipe that

@@ -229,6 +229,9 @@ void ReplaceOnDisk(const fs::path& target, std::string_view bytes, WhileWritten 
   std::optional<FileStatus> before;
   if (FileStatus status{}; ::stat(whole.c_str(), &status) == 0) {
     before = status;
+  } else if (errno != ENOENT) {
+    // Otherwise its rights and its other names would be lost.
+    throw FromErrno();
   }
   if (before && before->st_nlink > 1) {
     WriteWhereItStands(whole, bytes);

@@ -66,8 +66,11 @@ def try_case(world, case, named, few):
     usual, calls = world.learn(case, Fault(named=named))
     faults = list(faults_of(calls, named))
     if few:
-        # The calls of the save are the last ones; of the rest chance takes some.
-        faults = random.Random(case.name).sample(faults, min(few, len(faults)))
+        # Chance takes some; what is asked of a file that has more to lose than its content is always in.
+        chosen = random.Random(case.name).sample(faults, min(few, len(faults)))
+        if case.before in ("kept", "symlink", "hardlink") and not named:
+            chosen += [pair for pair in faults if pair[0].how == "EIO" and pair[1] in QUESTIONS]
+        faults = chosen
     for fault, call in faults:
         world.prepare(case)
         outcome = world.run(case, fault)

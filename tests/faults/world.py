@@ -85,15 +85,28 @@ class World:
             for name in ("trelonit-cli", "trelonit-paper"):
                 if (programs / name).exists():
                     shutil.copy2(programs / name, folder / name)
-        self.catalogue = {}
+        self.fonts = self._put_fonts()
+        self.catalogue = {}  # as it is unpacked
+        self.edited = {}  # the one beside the program
         self.runs = 0
         self.findings = []
         self._unpack_catalogue()
 
+    def _put_fonts(self):
+        """Those of the system: which fonts the user's folders have is asked of the same folders."""
+        fonts = self.base.parent / "fonts.conf"
+        fonts.write_text("<fontconfig><dir>/usr/share/fonts</dir>"
+                         f"<cachedir>{self.base.parent}/fonts</cachedir></fontconfig>")
+        return str(fonts)
+
     def _unpack_catalogue(self):
         self.prepare(Case("unpack", "catalogue list"))
         self.run(Case("unpack", "catalogue list"))
-        self.catalogue = {name: (self.beside / name).read_bytes() for name in CATALOGUE}
+        for name in CATALOGUE:
+            self.catalogue[name] = (self.beside / name).read_bytes()
+            # Bytes behind the last record mean nothing; as an edit of the user's they have to last.
+            self.edited[name] = self.catalogue[name] + b" "
+            (self.beside / name).write_bytes(self.edited[name])
 
     # Before a run
 
@@ -129,6 +142,7 @@ class World:
             "XDG_DATA_HOME": str(self.base / "data"),
             "TMPDIR": str(self.base / "tmp"),
             "LC_ALL": "C.UTF-8",
+            "FONTCONFIG_FILE": self.fonts,
             "LD_PRELOAD": str(self.shim),
             "FAULTS_BELOW": str(self.base),
             **fault.variables(),
@@ -222,9 +236,9 @@ class World:
         if (self.work / "roof.tsav").read_bytes() != self.example:
             wrong("the project that was read is another one")
         for name in CATALOGUE:
-            if (self.beside / name).read_bytes() != self.catalogue[name]:
+            if (self.beside / name).read_bytes() != self.edited[name]:
                 wrong(f"the catalogue file {name} is another one")
-                (self.beside / name).write_bytes(self.catalogue[name])
+                (self.beside / name).write_bytes(self.edited[name])
 
     def _judge_targets(self, case, fault, outcome, usual, call, wrong):
         for path, (old, new) in self.targets(case).items():
