@@ -79,8 +79,7 @@ def _fill(world, case, disk, links, room):
     if outcome.status == 0:
         if content == OLD:
             world.finding(case, fault, "", "status 0 and no report")
-        whole = world.whole.setdefault("full disk", content)
-        if content != whole:
+        if content != world.whole.setdefault("full disk", content):
             world.finding(case, fault, "", "status 0 and another report")
     elif outcome.status != 1 or not outcome.errors.strip():
         world.finding(case, fault, "", f"status {outcome.status}, {outcome.errors!r}")

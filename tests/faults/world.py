@@ -1,4 +1,4 @@
-"""Where the programs run while their calls fail: folders, single runs, and what is promised of them."""
+"""Where the programs run while their calls fail: folders, single runs, what they promise."""
 
 import dataclasses
 import errno
@@ -50,8 +50,9 @@ class Case:
 
     name: str
     words: str
-    # The file that it saves, in its folder, and how that one stood before: "none", "plain", "symlink"
-    # or "hardlink" (which is written in its place), "kept" for one that the command must leave alone.
+    # The file that it saves, in its folder, and how that one stood before: "none", "plain",
+    # "symlink" or "hardlink" (which is written in its place), "kept" for one that the command must
+    # leave alone.
     target: str = ""
     before: str = "none"
     first_start: bool = False
@@ -288,4 +289,6 @@ class World:
 
 def undated(content):
     """Pages tell when they were made."""
-    return re.sub(rb"(Date \(D:)\d{14}", rb"\1", content) if content.startswith(b"%PDF") else content
+    if not content.startswith(b"%PDF"):
+        return content
+    return re.sub(rb"(Date \(D:)\d{14}", rb"\1", content)
