@@ -144,6 +144,8 @@ class World:
             "TMPDIR": str(self.base / "tmp"),
             "LC_ALL": "C.UTF-8",
             "FONTCONFIG_FILE": self.fonts,
+            # Otherwise the order of what a page is made of is another one every time.
+            "QT_HASH_SEED": "0",
             "LD_PRELOAD": str(self.shim),
             "FAULTS_BELOW": str(self.base),
             **fault.variables(),
