@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
 #include <gtest/gtest.h>
 
 #include "windows/services/WheelGuard.h"
@@ -44,6 +45,8 @@ class WheelOverAPage : public ::testing::Test {
     const QPointF place = widget->rect().center();
     QWheelEvent event(place, widget->mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
+    // As from the user: only such an event goes on to the parent.
+    QSpontaneKeyEvent::setSpontaneous(&event);
     QApplication::sendEvent(widget, &event);
   }
 
