@@ -106,7 +106,8 @@ TEST(CalcAndSelect, ShowsTheTakenSizeInItsListAndLeavesOwnWeightInTheLoads) {
   desk.Main.chkOwnWeight.SetChecked(true);
   const std::string before = desk.Main.cmbSectType.Text();
   const SelectionProposal& proposal = desk.Select(true);
-  EXPECT_EQ(desk.Main.cmbSectType.Text(), proposal.Sections[sectionUpPoyas].Profile.Name.Trimmed());
+  const SectionPlace shown = PlaceOfOption(desk.Main.optElementSection.Selected());
+  EXPECT_EQ(desk.Main.cmbSectType.Text(), proposal.Sections[shown].Profile.Name.Trimmed());
   EXPECT_NE(desk.Main.cmbSectType.Text(), before);
   EXPECT_TRUE(desk.Main.Model.OwnWeight.Added);
 }
