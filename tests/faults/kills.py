@@ -101,8 +101,10 @@ def start_at_once(world, rounds, together=20):
         fault = Fault(named=number % 2 == 1)
         world.prepare(case)
         processes = [world.start(case, fault) for _ in range(together)]
-        for process in processes:
-            world.judge(case, fault, world.end(process), usual)
+        # What a living one is at is not left.
+        outcomes = [world.end(process) for process in processes]
+        for outcome in outcomes:
+            world.judge(case, fault, outcome, usual)
         for name in CATALOGUE:
             if (world.data / name).read_bytes() != world.catalogue[name]:
                 world.finding(case, fault, "", f"{name} is not whole")
