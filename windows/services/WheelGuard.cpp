@@ -29,11 +29,22 @@ bool HasFocus(const QWidget& widget) {
 }  // namespace
 
 bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::Wheel) {
+  const QEvent::Type type = event->type();
+  if (type != QEvent::Wheel && type != QEvent::Polish) {
     return false;
   }
-  const auto* widget = qobject_cast<QWidget*>(watched);
-  if (widget == nullptr || !IsChanged(*widget) || HasFocus(*widget)) {
+  auto* widget = qobject_cast<QWidget*>(watched);
+  if (widget == nullptr || !IsChanged(*widget)) {
+    return false;
+  }
+  if (type == QEvent::Polish) {
+    // The wheel would bring the focus along.
+    if (widget->focusPolicy() == Qt::WheelFocus) {
+      widget->setFocusPolicy(Qt::StrongFocus);
+    }
+    return false;
+  }
+  if (HasFocus(*widget)) {
     return false;
   }
   // Not taken, so that it goes on to the parent.

@@ -45,9 +45,9 @@ class WheelOverAPage : public ::testing::Test {
     const QPointF place = widget->rect().center();
     QWheelEvent event(place, widget->mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
-    // As from the user: only such an event goes on to the parent.
+    // As from the user: only such an event goes on to the parent. Sent, it would be the program's.
     QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::sendEvent(widget, &event);
+    qApp->notify(widget, &event);
   }
 
   WheelGuard guard;
