@@ -202,7 +202,8 @@ TEST_F(SelectByOpinion, SaysWhichGroupNoSizePasses) {
   const Outcome outcome = Started("select", DangerousProject(), {"--opinion", "--json"});
   EXPECT_EQ(outcome.Status, done);
   EXPECT_NE(outcome.Err.find("Второе мнение: Верхний пояс, "), std::string::npos) << outcome.Err;
-  for (const Json& row : ParsedOutput(outcome).at("Selection")) {
+  const Json output = ParsedOutput(outcome);
+  for (const Json& row : output.at("Selection")) {
     EXPECT_EQ(row.at("Possible"), row.at("Group") != "UpPoyas");
   }
 }
