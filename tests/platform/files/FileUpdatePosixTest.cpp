@@ -2,41 +2,28 @@
 
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
-#include <iterator>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <sys/resource.h>
 
 #include "platform/files/Files.h"
+#include "tests/platform/files/FileFolder.h"
 
 namespace trelonit::test {
 
 namespace fs = std::filesystem;
 
 int ErrorOf(const std::function<void()>& body);
-std::shared_ptr<const fs::path> TemporaryFolder();
 std::string InChild(const std::function<std::string()>& body);
 void DropRights();
 
 namespace {
 
 /// Links, permissions and limits of the real file system.
-class FileUpdatePosixTest : public testing::Test {
+class FileUpdatePosixTest : public FileFolder {
  protected:
-  std::string In(const std::string& name) const { return (*folder_ / name).string(); }
-
-  void Put(const std::string& name, const std::string& content, unsigned permissions) {
-    std::ofstream(In(name), std::ios::binary) << content;
-    fs::permissions(In(name), fs::perms(permissions));
-  }
-  std::string Content(const std::string& name) const {
-    std::ifstream stream(In(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
   /// The answer to a plain user who writes one byte at the beginning, from a child process.
   std::string WrittenByAPlainUser(const std::string& name) {
     return InChild([&]() -> std::string {
@@ -45,10 +32,6 @@ class FileUpdatePosixTest : public testing::Test {
       return "written";
     });
   }
-  DiskFiles files;
-
- private:
-  std::shared_ptr<const fs::path> folder_ = TemporaryFolder();
 };
 
 TEST_F(FileUpdatePosixTest, WritesTheFileItselfAndNoNewOneInItsPlace) {

@@ -2,11 +2,9 @@
 
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <memory>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -15,40 +13,23 @@
 #include <unistd.h>
 
 #include "platform/files/Files.h"
+#include "tests/platform/files/FileFolder.h"
 
 namespace trelonit::test {
 
 namespace fs = std::filesystem;
 
 int ErrorOf(const std::function<void()>& body);
-std::shared_ptr<const fs::path> TemporaryFolder();
 std::string InChild(const std::function<std::string()>& body);
 void DropRights();
 
 namespace {
 
 /// Links, permissions and limits of the real file system.
-class DiskFilesPosixTest : public testing::Test {
+class DiskFilesPosixTest : public FileFolder {
  protected:
-  std::string In(const std::string& name) const { return (*folder_ / name).string(); }
-
-  void Put(const std::string& name, const std::string& content, unsigned permissions = 0644) {
-    std::ofstream(In(name), std::ios::binary) << content;
-    fs::permissions(In(name), fs::perms(permissions));
-  }
-  std::string Content(const std::string& name) const {
-    std::ifstream stream(In(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
   unsigned Permissions(const std::string& name) const {
     return static_cast<unsigned>(fs::status(In(name)).permissions());
-  }
-  std::set<std::string> Names(const std::string& below = {}) const {
-    std::set<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(In(below))) {
-      names.insert(entry.path().filename().string());
-    }
-    return names;
   }
   /// The answer of a replacement by a plain user, in a child process.
   std::string ReplaceAsPlainUser(const std::string& name) {
@@ -71,10 +52,6 @@ class DiskFilesPosixTest : public testing::Test {
       return "replaced";
     });
   }
-  DiskFiles files;
-
- private:
-  std::shared_ptr<const fs::path> folder_ = TemporaryFolder();
 };
 
 TEST_F(DiskFilesPosixTest, PutsANewFileInPlaceOfTheOldOne) {

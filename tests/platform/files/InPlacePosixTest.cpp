@@ -2,11 +2,8 @@
 
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
-#include <iterator>
-#include <memory>
 #include <sched.h>
 #include <set>
 #include <stdexcept>
@@ -17,12 +14,12 @@
 #include <unistd.h>
 
 #include "platform/files/Files.h"
+#include "tests/platform/files/FileFolder.h"
 
 namespace trelonit::test {
 
 namespace fs = std::filesystem;
 
-std::shared_ptr<const fs::path> TemporaryFolder();
 std::string InChild(const std::function<std::string()>& body);
 void DropRights();
 
@@ -32,41 +29,25 @@ constexpr unsigned someUser = 12345;
 constexpr unsigned someGroup = 54321;
 
 /// Files that no new one can take the place of, and what else a new one would lose.
-class FileInItsPlace : public testing::Test {
+class FileInItsPlace : public FileFolder {
  protected:
   FileInItsPlace() {
     fs::create_directory(Copies());
     fs::permissions(Copies(), fs::perms(0777));
   }
   ~FileInItsPlace() override {
-    for (const fs::path& folder : {*folder_, *folder_ / "folder"}) {
+    for (const fs::path& folder : {Folder(), Folder() / "folder"}) {
       std::error_code ignored;
       fs::permissions(folder, fs::perms(0777), ignored);
     }
   }
-  std::string In(const std::string& name) const { return (*folder_ / name).string(); }
   /// Where the copies of old contents go.
-  fs::path Copies() const { return *folder_ / "copies"; }
-  void Put(const std::string& name, const std::string& content, unsigned permissions = 0644) {
-    std::ofstream(In(name), std::ios::binary) << content;
-    fs::permissions(In(name), fs::perms(permissions));
-  }
+  fs::path Copies() const { return Folder() / "copies"; }
   /// A file that everybody may write, in a folder that nobody may.
   void PutInReadOnlyFolder(const std::string& content) {
     fs::create_directory(In("folder"));
     Put("folder/file", content, 0666);
     fs::permissions(In("folder"), fs::perms(0555));
-  }
-  std::string Content(const std::string& name) const {
-    std::ifstream stream(In(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
-  static std::set<std::string> Names(const fs::path& folder) {
-    std::set<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-      names.insert(entry.path().filename().string());
-    }
-    return names;
   }
   struct stat Status(const std::string& name) const {
     struct stat status {};
@@ -91,9 +72,6 @@ class FileInItsPlace : public testing::Test {
       throw std::runtime_error("no limit");
     }
   }
-
- private:
-  std::shared_ptr<const fs::path> folder_ = TemporaryFolder();
 };
 
 TEST_F(FileInItsPlace, IsWrittenThereInAReadOnlyFolder) {
@@ -102,7 +80,7 @@ TEST_F(FileInItsPlace, IsWrittenThereInAReadOnlyFolder) {
   EXPECT_EQ(Replace("folder/file", "new", DropRights), "replaced");
   EXPECT_EQ(Content("folder/file"), "new");
   EXPECT_EQ(Status("folder/file").st_ino, before);
-  EXPECT_TRUE(Names(Copies()).empty());
+  EXPECT_TRUE(Names("copies").empty());
 }
 
 TEST_F(FileInItsPlace, GetsItsOldContentBackOnAFullDisk) {
@@ -114,7 +92,7 @@ TEST_F(FileInItsPlace, GetsItsOldContentBackOnAFullDisk) {
                     }),
             "error 61");
   EXPECT_EQ(Content("folder/file"), "old");
-  EXPECT_TRUE(Names(Copies()).empty());
+  EXPECT_TRUE(Names("copies").empty());
 }
 
 TEST_F(FileInItsPlace, IsNotTouchedWhereNoCopyOfItCanBeKept) {
@@ -126,7 +104,7 @@ TEST_F(FileInItsPlace, IsNotTouchedWhereNoCopyOfItCanBeKept) {
                     }),
             "error 61");
   EXPECT_EQ(Content("folder/file"), std::string(5000, 'o'));
-  EXPECT_TRUE(Names(Copies()).empty());
+  EXPECT_TRUE(Names("copies").empty());
 }
 
 TEST_F(FileInItsPlace, KeepsItsOtherNames) {
@@ -137,7 +115,7 @@ TEST_F(FileInItsPlace, KeepsItsOtherNames) {
   EXPECT_EQ(Content("other"), "new");
   EXPECT_EQ(fs::hard_link_count(In("file")), 2U);
   EXPECT_EQ(Status("file").st_mode & 07777U, 0640U);
-  EXPECT_TRUE(Names(Copies()).empty());
+  EXPECT_TRUE(Names("copies").empty());
 }
 
 TEST_F(FileInItsPlace, WithOtherNamesGetsItsOldContentBackOnAFullDisk) {
@@ -145,7 +123,7 @@ TEST_F(FileInItsPlace, WithOtherNamesGetsItsOldContentBackOnAFullDisk) {
   fs::create_hard_link(In("file"), In("other"));
   EXPECT_EQ(Replace("file", std::string(100000, 'x'), LimitFiles), "error 61");
   EXPECT_EQ(Content("other"), "old");
-  EXPECT_TRUE(Names(Copies()).empty());
+  EXPECT_TRUE(Names("copies").empty());
 }
 
 TEST_F(FileInItsPlace, IsWrittenThereWhereItIsMounted) {
@@ -164,7 +142,7 @@ TEST_F(FileInItsPlace, IsWrittenThereWhereItIsMounted) {
   EXPECT_EQ(answer, "replaced");
   EXPECT_EQ(Content("source"), "new");
   EXPECT_EQ(Content("mounted"), "below");
-  EXPECT_EQ(Names(In("")), (std::set<std::string>{"copies", "mounted", "source"}));
+  EXPECT_EQ(Names(), (std::set<std::string>{"copies", "mounted", "source"}));
 }
 
 TEST_F(FileInItsPlace, KeepsItsOwnerAndGroupWhereTheUserMayGiveThem) {

@@ -3,11 +3,8 @@
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
-#include <iterator>
-#include <memory>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -17,35 +14,19 @@
 
 #include "platform/files/Files.h"
 #include "platform/posix/PosixReplacement.h"
+#include "tests/platform/files/FileFolder.h"
 
 namespace trelonit::test {
 
 namespace fs = std::filesystem;
 
-std::shared_ptr<const fs::path> TemporaryFolder();
 std::string InChild(const std::function<std::string()>& body);
 
 namespace {
 
 /// What is left of a save that never came to its end.
-class InterruptedSave : public testing::Test {
+class InterruptedSave : public FileFolder {
  protected:
-  std::string In(const std::string& name) const { return (*folder_ / name).string(); }
-  void Put(const std::string& name, const std::string& content, unsigned permissions = 0644) {
-    std::ofstream(In(name), std::ios::binary) << content;
-    fs::permissions(In(name), fs::perms(permissions));
-  }
-  std::string Content(const std::string& name) const {
-    std::ifstream stream(In(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
-  std::set<std::string> Names() const {
-    std::set<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(*folder_)) {
-      names.insert(entry.path().filename().string());
-    }
-    return names;
-  }
   /// A save that dies in the middle of its writing, by the signal of a file that grows too large.
   void DieWhileSaving(const std::string& name, WhileWritten way = WhileWritten::Nameless) {
     const std::string answer = InChild([&]() -> std::string {
@@ -60,10 +41,6 @@ class InterruptedSave : public testing::Test {
     });
     ASSERT_EQ(answer, "died");
   }
-  DiskFiles files;
-
- private:
-  std::shared_ptr<const fs::path> folder_ = TemporaryFolder();
 };
 
 /// The number of a process that has come to its end and is forgotten.
