@@ -20,7 +20,7 @@ class Check {
         const SectionArray& sections, Messages& told)
       : data_(data), res_(res), numbers_(numbers), sections_(sections), told_(told) {}
 
-  CheckResult Run() {
+  const CheckResult& Run() {
     Compose();
     PutMass();
     PutForces();

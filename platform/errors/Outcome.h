@@ -1,6 +1,5 @@
 #pragma once
 
-#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -20,8 +19,9 @@ struct Outcome {
 /// Takes the value of an outcome; what it tells joins the list.
 template <class T>
 T TakeValue(Outcome<T>&& outcome, Messages& told) {
-  told.insert(told.end(), std::make_move_iterator(outcome.Told.begin()),
-              std::make_move_iterator(outcome.Told.end()));
+  for (Message& message : outcome.Told) {
+    told.push_back(std::move(message));
+  }
   return std::move(outcome.Value);
 }
 

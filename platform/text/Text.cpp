@@ -63,10 +63,6 @@ char LowerLatin(char byte) {
   return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
 
-char UpperLatin(char byte) {
-  return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
-}
-
 std::string LowerLatin(std::string text) {
   for (char& byte : text) {
     byte = LowerLatin(byte);

@@ -30,7 +30,9 @@ void AppendUtf8(std::string& text, char32_t character);
 
 bool IsLatinLetter(char byte);
 char LowerLatin(char byte);
-char UpperLatin(char byte);
+constexpr char UpperLatin(char byte) {
+  return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
+}
 std::string LowerLatin(std::string text);
 
 /// The text without blanks at its right end.

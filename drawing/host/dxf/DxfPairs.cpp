@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 #include "platform/text/Text.h"
@@ -64,6 +65,23 @@ std::string EscapedWhole(std::string_view text, Escape&& escape) {
   return written;
 }
 
+using NumberBuffer = std::array<char, 32>;
+
+/// The number as it is written, in the buffer.
+std::string_view FormatNumber(double value, NumberBuffer& buffer) {
+  // Zero has no sign.
+  const double number = Finite(value) == 0 ? 0 : value;
+  constexpr int digits = 16;
+  char* end =
+      std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::general, digits).ptr;
+  // A reader shall see at once that it is no whole number.
+  if (std::none_of(buffer.begin(), end, [](char sign) { return sign == '.' || sign == 'e'; })) {
+    *end++ = '.';
+    *end++ = '0';
+  }
+  return {buffer.begin(), end};
+}
+
 }  // namespace
 
 std::string HandleText(DxfHandle handle) {
@@ -71,11 +89,7 @@ std::string HandleText(DxfHandle handle) {
   constexpr int base = 16;
   const auto result = std::to_chars(digits.begin(), digits.end(), handle, base);
   std::string text(digits.begin(), result.ptr);
-  for (char& digit : text) {
-    if (digit >= 'a') {
-      digit = static_cast<char>(digit - 'a' + 'A');
-    }
-  }
+  std::transform(text.begin(), text.end(), text.begin(), UpperLatin);
   return text;
 }
 
@@ -93,27 +107,19 @@ std::string DxfContent(std::string_view text) {
 }
 
 std::string DxfNumber(double value) {
-  // Zero has no sign.
-  const double number = Finite(value) == 0 ? 0 : value;
-  constexpr int digits = 16;
-  std::array<char, 32> buffer{};
-  const auto result =
-      std::to_chars(buffer.begin(), buffer.end(), number, std::chars_format::general, digits);
-  std::string text(buffer.begin(), result.ptr);
-  // A reader shall see at once that it is no whole number.
-  if (text.find_first_of(".e") == std::string::npos) {
-    text += ".0";
-  }
-  return text;
+  NumberBuffer buffer;
+  return std::string(FormatNumber(value, buffer));
 }
 
 void DxfPairs::Text(int code, std::string_view value) {
-  // Codes are right-aligned in three places, as the format's own program writes them.
-  const std::string number = std::to_string(code);
-  constexpr std::size_t width = 3;
-  text_.append(number.size() < width ? width - number.size() : 0, ' ');
-  text_ += number;
-  text_ += '\n';
+  // Codes are right-aligned in three places, as the format's own program writes them. A drawing has
+  // tens of thousands of pairs, so that no text is made of each code.
+  constexpr std::ptrdiff_t width = 3;
+  std::array<char, 16> line{' ', ' ', ' '};
+  char* const digits = line.begin() + width;
+  char* const end = std::to_chars(digits, line.end() - 1, code).ptr;
+  *end = '\n';
+  text_.append(std::min(digits, end - width), end + 1);
   text_ += value;
   text_ += '\n';
 }
@@ -123,7 +129,8 @@ void DxfPairs::Whole(int code, std::int64_t value) {
 }
 
 void DxfPairs::Number(int code, double value) {
-  Text(code, DxfNumber(value));
+  NumberBuffer buffer;
+  Text(code, FormatNumber(value, buffer));
 }
 
 void DxfPairs::Handle(int code, DxfHandle handle) {
