@@ -11,6 +11,7 @@
 #include "platform/files/DiskAccess.h"
 #include "platform/files/FileErrors.h"
 #include "platform/files/InPlace.h"
+#include "platform/files/UnfinishedNames.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/Leftovers.h"
 #include "platform/posix/UnfinishedFile.h"
@@ -34,7 +35,7 @@ constexpr mode_t ownFile = 0600;
 class FileBeside {
  public:
   FileBeside(const fs::path& target, mode_t mode, WhileWritten way)
-      : name_(NameForUnfinished(target)),
+      : name_(NameForUnfinished(target, ::getpid())),
         unfinished_(name_),
         hasName_(way == WhileWritten::Named),
         file_(hasName_ ? ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode)

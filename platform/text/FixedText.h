@@ -18,14 +18,14 @@ template <std::size_t N>
 class FixedText {
  public:
   FixedText() { characters_.fill(u' '); }
-  FixedText(std::string_view text) : FixedText() {  // NOLINT(google-explicit-constructor)
+  FixedText(std::string_view text) : FixedText() {
     const std::u32string source = Characters(text);
     for (std::size_t place = 0; place < std::min(N, source.size()); ++place) {
       characters_[place] =
           source[place] > 0xFFFF ? u'\uFFFD' : static_cast<char16_t>(source[place]);
     }
   }
-  FixedText(const char* text) : FixedText(std::string_view(text)) {}  // NOLINT
+  FixedText(const char* text) : FixedText(std::string_view(text)) {}
 
   static constexpr std::size_t Length() { return N; }
 

@@ -25,8 +25,8 @@ class Real {
  public:
   constexpr Real() = default;
   // Implicit both ways on purpose: records hold plain Doubles, formulas work on Reals.
-  constexpr Real(double value) : value_(value) {}       // NOLINT(google-explicit-constructor)
-  constexpr operator double() const { return value_; }  // NOLINT(google-explicit-constructor)
+  constexpr Real(double value) : value_(value) {}
+  constexpr operator double() const { return value_; }
 
   Real operator-() const { return {-value_}; }
   Real& operator+=(Real other) { return *this = *this + other; }

@@ -243,7 +243,8 @@ TEST_F(AuditJson, FindingsNameGroupAndCheckByTheKeysOfTheCode) {
 
 TEST_F(AuditJson, SubstitutionsGiveTheirValues) {
   for (const std::string& project : Projects()) {
-    for (const Json& explanation : Object(project).at("Explanation")) {
+    const Json told = Object(project);
+    for (const Json& explanation : told.at("Explanation")) {
       const auto substitution = explanation.at("Substitution").get<std::string>();
       const double value = explanation.at("Value");
       EXPECT_NEAR(Calculator::Result(substitution), value, 1e-4) << substitution;
@@ -291,7 +292,8 @@ TEST_F(AuditJson, ExplainsEveryFigureOfBothSides) {
 }
 
 TEST_F(AuditJson, HasNoDeflectionWhereItIsNotAskedFor) {
-  for (const Json& explanation : Object(WithLine(ExampleBytes(1), 16, "0")).at("Explanation")) {
+  const Json told = Object(WithLine(ExampleBytes(1), 16, "0"));
+  for (const Json& explanation : told.at("Explanation")) {
     EXPECT_NE(explanation.at("Check"), "Progib");
   }
 }

@@ -315,7 +315,8 @@ TEST_F(AppendixOption, WritesTheSameTextInEveryForm) {
 TEST_F(AppendixOption, ExplainsEveryCheckOfTheObject) {
   // A check is told with its clause in brackets, once each.
   const Texts lines = Lines(Report("-", true));
-  for (const Json& explanation : Object(DangerousProject()).at("Explanation")) {
+  const Json told = Object(DangerousProject());
+  for (const Json& explanation : told.at("Explanation")) {
     const std::string clause = " (" + explanation.at("Clause").get<std::string>() + ")";
     EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [&clause](const std::string& line) {
       return line.ends_with(clause);
