@@ -154,11 +154,12 @@ void frmMain::ShowTakenSize() {
 }
 
 void frmMain::ShowResults() {
-  ResultLists lists{.lstForces = BuildForceList(Model.Last, services_.Locale),
-                    .MSFlexGKoefUse = BuildUtilisationGrid(Model.Last, services_.Locale),
-                    .Picture = {.Bars = BuildBars(Model.Last),
-                                .Use = BuildUse(Model.Last),
-                                .OverLimit = RowsOverLimit(Model.Last)}};
+  ResultLists lists;
+  lists.lstForces = BuildForceList(Model.Last, services_.Locale);
+  lists.MSFlexGKoefUse = BuildUtilisationGrid(Model.Last, services_.Locale);
+  lists.Picture = {.Bars = BuildBars(Model.Last),
+                   .Use = BuildUse(Model.Last),
+                   .OverLimit = RowsOverLimit(Model.Last)};
   CalculateProgib();
   if (const std::optional<ProgibResult>& progib = Model.Last.Progib) {
     for (std::string& line : ProgibLines(*progib, services_.Locale)) {
