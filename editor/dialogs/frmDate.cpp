@@ -6,7 +6,7 @@
 namespace trelonit {
 
 frmDate::frmDate(clsUndo& undo, ClockService& clock) : undo_(undo), clock_(clock) {
-  Form.SetCaption("Datestamp");
+  Form.SetCaption("Дата и время");
   cmdOK.SetCaption("OK");
   cmdCancel.SetCaption("Cancel");
 }

@@ -34,7 +34,7 @@ frmFind::frmFind(RichTextBox& rtf, clsUndo& undo, MessageService& messages,
       messages_(messages),
       settings_(settings),
       programTitle_(std::move(programTitle)) {
-  Form.SetCaption("Find and Replace");
+  Form.SetCaption("Найти и заменить");
   cmdFindNext.SetCaption("Find Next");
   cmdReplace.SetCaption("Replace");
   cmdReplaceAll.SetCaption("Replace All");

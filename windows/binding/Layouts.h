@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScreen>
 #include <QString>
 
 namespace trelonit {
@@ -22,6 +23,12 @@ inline QLabel* LabelFor(QWidget* widget, const QString& caption) {
   label->setBuddy(widget);
   widget->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
   return label;
+}
+
+/// Gives a window that is not shown yet its usual size, or less where the screen is small: a frame
+/// still comes round it.
+inline void ResizeWithinScreen(QWidget& window, QSize usual) {
+  window.resize(usual.boundedTo(window.screen()->availableSize() * 9 / 10));
 }
 
 /// The hint also tells those who hear the screen.

@@ -33,7 +33,7 @@ class RecordBox : public QLineEdit {
 
 DataManagerWindow::DataManagerWindow(frmDataManager& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent), form_(form) {
-  resize(760, 480);
+  ResizeWithinScreen(*this, {760, 480});
   auto* column = new QVBoxLayout(this);
   AddMenu(column);
   AddRecord(column);

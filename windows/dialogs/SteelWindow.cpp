@@ -54,7 +54,7 @@ QLabel* Paragraph(Label& state) {
 
 SteelWindow::SteelWindow(frmSteel& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent), form_(form) {
-  resize(980, 640);
+  ResizeWithinScreen(*this, {980, 640});
   auto* column = new QVBoxLayout(this);
   auto* upper = new QHBoxLayout;
   column->addLayout(upper);

@@ -17,6 +17,7 @@
 
 #include "platform/errors/RuntimeError.h"
 #include "windows/binding/Binding.h"
+#include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/binding/Units.h"
 #include "windows/drawing/DrawingLayers.h"
@@ -30,7 +31,6 @@ constexpr int layersWidth = 200;
 }  // namespace
 
 DrawingWindow::DrawingWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
-  setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
   setContextMenuPolicy(Qt::NoContextMenu);
   SetHelpPlace(*this, help_place::Drawing);
   AddTabs();
@@ -41,7 +41,7 @@ DrawingWindow::DrawingWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) 
   renewal_.setSingleShot(true);
   renewal_.setInterval(0);
   QObject::connect(&renewal_, &QTimer::timeout, this, [this] { ShowPresent(); });
-  resize(1100, 760);
+  ResizeWithinScreen(*this, {1100, 760});
   ShowPresent();
 }
 

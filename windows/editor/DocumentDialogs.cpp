@@ -15,6 +15,7 @@
 #include "platform/errors/Guard.h"
 #include "platform/files/Files.h"
 #include "windows/binding/Binding.h"
+#include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/editor/FontWindow.h"
 #include "windows/editor/RichDocumentPdf.h"
@@ -106,7 +107,7 @@ void DocumentDialogs::PreviewDocument(const RichTextBox& document, const std::st
   const RichDocument pages = document.Document();
   QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Предварительный просмотр - ") + ToQt(title));
-  dialog.resize(900, 760);
+  ResizeWithinScreen(dialog, {900, 760});
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                    [&pages](QPrinter* target) { PaintDocument(pages, *target); });
   if (auto* bar = dialog.findChild<QToolBar*>()) {

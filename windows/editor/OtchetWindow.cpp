@@ -77,7 +77,6 @@ EntryDress DressOf(const std::string& name) {
 
 OtchetWindow::OtchetWindow(frmOtchetMain& form, QtRichTextBox& box, QWidget* parent)
     : QMainWindow(parent, Qt::Window), form_(form), box_(box) {
-  setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
   SetHelpPlace(*this, help_place::Otchet);
   AddMenus();
   AddToolBar();

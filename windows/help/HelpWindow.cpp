@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,6 +20,7 @@
 #include <QWindow>
 
 #include "platform/system/ProgramNames.h"
+#include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/binding/Units.h"
 #include "windows/help/HelpPageView.h"
@@ -41,14 +41,13 @@ QString OwnTitle() {
 HelpWindow::HelpWindow() {
   setObjectName(QStringLiteral("HelpWindow"));
   setWindowTitle(OwnTitle());
-  setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
   setContextMenuPolicy(Qt::NoContextMenu);
   AddPage();
   AddToolBar();
   AddFindBar();
   AddSides();
   statusBar();
-  resize(QSize(1140, 760).boundedTo(screen()->availableSize() * 9 / 10));
+  ResizeWithinScreen(*this, {1140, 760});
   page_->Go(HelpPages::FirstPage());
 }
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDateTime>
-#include <QIcon>
 #include <QLocale>
 #include <QMenuBar>
 #include <QPushButton>
@@ -52,7 +51,6 @@ QKeySequence ShortcutOf(const std::string& item) {
 
 MainWindow::MainWindow(frmMain& form, SettingsService& settings)
     : form_(form), settings_(settings) {
-  setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
   auto* body = new QWidget;
   auto* column = new QVBoxLayout(body);
   column->setContentsMargins(0, 0, 0, 0);

@@ -12,6 +12,7 @@ class ProgressWatch : public ConversionWatch {
   ProgressWatch()
       : dialog_(QStringLiteral("Преобразование документа Word…"), QStringLiteral("Отмена"), 0, 0,
                 QApplication::activeWindow()) {
+    dialog_.setWindowTitle(QStringLiteral("Документ Word"));
     dialog_.setWindowModality(Qt::ApplicationModal);
     // Without the wait that the toolkit makes first: a conversion is never quicker than a second.
     dialog_.show();

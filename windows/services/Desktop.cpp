@@ -16,6 +16,8 @@ Desktop::Desktop() {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationVersion(QLatin1String(applicationVersion));
   QApplication::setDesktopFileName(QStringLiteral("ru.trelonit.Trelonit"));
+  // Of every window, dialogue and message, whoever opens it.
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
   qApp->installEventFilter(&wheel_);
   if (buttons_.load(QStringLiteral("qtbase_ru"),
                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

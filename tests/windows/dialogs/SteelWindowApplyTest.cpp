@@ -3,14 +3,14 @@
 namespace trelonit::test {
 namespace {
 
-const std::string untouched = "Сталь С245 - лист от 2 до 20 мм|240|1|0.9";
+const std::string untouchedSteel = "Сталь С245 - лист от 2 до 20 мм|240|1|0.9";
 
 TEST(SteelWindowApply, WritesToTheMainFormAndCloses) {
   SteelScreen screen;
   screen.PickSteel("С345", "Св. 10 до 20");
   screen.ClickRow(2);
   Click(screen.Importance(3));
-  EXPECT_EQ(screen.Main.All(), untouched);
+  EXPECT_EQ(screen.Main.All(), untouchedSteel);
   Click(screen.Apply());
   EXPECT_EQ(screen.Main.All(), "Сталь С345 Св. 10 до 20|315|0.95|0.95");
   EXPECT_FALSE(screen.Open());
@@ -67,7 +67,7 @@ TEST_P(SteelWindowLeft, ChangesNothing) {
   Click(screen.Importance(4));
   GetParam()(screen);
   EXPECT_FALSE(screen.Open());
-  EXPECT_EQ(screen.Main.All(), untouched);
+  EXPECT_EQ(screen.Main.All(), untouchedSteel);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, SteelWindowLeft,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QScreen>
 #include <QTreeWidget>
 
 #include "tests/windows/DialogHands.h"

@@ -208,5 +208,15 @@ TEST(DrawingWindow, ShownModallyWaitsForItsEnd) {
   EXPECT_FALSE(window.isVisible());
 }
 
+TEST(DrawingWindowOnASmallScreen, IsNeverLargerThanTheScreen) {
+  DrawingWindow window;
+  window.show();
+  const QSize room = window.screen()->availableSize();
+  // That of the tests is smaller than the usual size.
+  ASSERT_LT(room.width(), 1100);
+  EXPECT_LE(window.frameGeometry().width(), room.width());
+  EXPECT_LE(window.frameGeometry().height(), room.height());
+}
+
 }  // namespace
 }  // namespace trelonit::test

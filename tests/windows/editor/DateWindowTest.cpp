@@ -33,7 +33,7 @@ class DateWindowOnScreen : public ::testing::Test, protected OtchetScreen {
 
 TEST_F(DateWindowOnScreen, OffersTheFormsOfThisMoment) {
   Open([](QDialog& window) {
-    EXPECT_EQ(FromQt(window.windowTitle()), "Datestamp");
+    EXPECT_EQ(FromQt(window.windowTitle()), "Дата и время");
     Texts rows;
     for (int row = 0; row < List(window).count(); ++row) {
       rows.push_back(FromQt(List(window).item(row)->text()));

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include "editor/document/MemoryRichTextBox.h"
@@ -165,6 +166,15 @@ TEST_F(DocumentDialogsOnScreen, ShowThePagesAndStoreThemAsPdf) {
   const std::string bytes = BytesOf("страницы.pdf");
   EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
   EXPECT_NE(bytes.find("%%EOF"), std::string::npos);
+}
+
+TEST_F(DocumentDialogsOnScreen, PreviewThePagesOnNoMoreThanTheScreen) {
+  Preview([](QDialog& preview) {
+    const QSize room = preview.screen()->availableSize();
+    ASSERT_LT(room.width(), 900);
+    EXPECT_LE(preview.frameGeometry().width(), room.width());
+    EXPECT_LE(preview.frameGeometry().height(), room.height());
+  });
 }
 
 TEST_F(DocumentDialogsOnScreen, StoreNothingWhereTheNameIsCancelled) {

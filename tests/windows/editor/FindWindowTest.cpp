@@ -49,7 +49,7 @@ TEST_F(FindWindowOnScreen, OpensBesideTheTextWithTheSelection) {
   Box->SetText("one two");
   Box->Select(4, 3);
   Open();
-  EXPECT_EQ(FromQt(Shown()->windowTitle()), "Find and Replace");
+  EXPECT_EQ(FromQt(Shown()->windowTitle()), "Найти и заменить");
   EXPECT_FALSE(Shown()->isModal());
   EXPECT_TRUE(Window->isVisible());
   EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().contains(Shown()->pos()));

@@ -9,11 +9,11 @@ namespace trelonit::test {
 namespace {
 
 /// The numbers of bars that a truss of a scheme has.
-struct Counts {
+struct BarCounts {
   Long Upper, Lower, Diagonals, Verticals;
 };
 
-Counts CountsOf(Long scheme, Long n) {
+BarCounts CountsOf(Long scheme, Long n) {
   switch (scheme) {
     case 1:
       return {n, n, n, n + 1};
@@ -101,7 +101,7 @@ std::vector<double> Forces(const std::vector<PictureBar>& bars) {
 TEST_P(Bars, AreAsManyAsTheSchemeHas) {
   for (const Long n : PanelCounts()) {
     const std::vector<PictureBar> bars = Calculate(n);
-    const Counts counts = CountsOf(GetParam(), n);
+    const BarCounts counts = CountsOf(GetParam(), n);
     const auto count = [&](GroupOption group) { return static_cast<Long>(Of(bars, group).size()); };
     EXPECT_EQ(count(optionUpPoyas), counts.Upper) << n;
     EXPECT_EQ(count(optionDwnPoyas), counts.Lower) << n;
