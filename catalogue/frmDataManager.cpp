@@ -8,6 +8,7 @@
 #include "catalogue/RecordCoding.h"
 #include "platform/errors/Guard.h"
 #include "platform/files/FileBytes.h"
+#include "platform/files/Paths.h"
 #include "platform/text/CodePage1251.h"
 #include "platform/text/NumberText.h"
 
@@ -98,8 +99,12 @@ void frmDataManager::Form_Load() {
 }
 
 std::string frmDataManager::AskForFile() {
+  // The program's own catalogue lies in its folder; a file that is open has its neighbours in view.
   return services_.Dialogs.AskOpenName(
-      {.Title = "Открытие базы данных", .Extension = "dat", .Filter = "Data Files (*.dat)|*.dat"});
+      {.Title = "Открытие базы данных",
+       .Extension = "dat",
+       .Filter = "Data Files (*.dat)|*.dat",
+       .Folder = DataPath.empty() ? services_.ProgramFolder : FolderOf(DataPath)});
 }
 
 void frmDataManager::Show(const std::string& text) {

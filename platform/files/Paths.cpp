@@ -30,4 +30,8 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
   return path;
 }
 
+std::string FolderOf(std::string_view path) {
+  return Utf8OfPath(PathOfUtf8(path).parent_path());
+}
+
 }  // namespace trelonit

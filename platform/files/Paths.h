@@ -19,4 +19,8 @@ std::optional<std::filesystem::path> AbsolutePath(std::string_view name);
 /// with one (a program started from a drive root has a folder that does).
 std::string JoinPath(std::string_view folder, std::string_view name);
 
+/// What stands in front of the bare name, without a separator at its end unless it is the root's;
+/// empty for a bare name.
+std::string FolderOf(std::string_view path);
+
 }  // namespace trelonit

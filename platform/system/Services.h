@@ -22,6 +22,8 @@ struct FileDialogRequest {
   std::string Extension;
   /// Description + " (*." + extension + ")|*." + extension.
   std::string Filter;
+  /// Where the dialog opens; empty for where the last one was.
+  std::string Folder = {};
 };
 
 class DialogService {

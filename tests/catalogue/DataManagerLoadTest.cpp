@@ -48,6 +48,20 @@ TEST(DataManagerLoad, AsksForADataFile) {
   }
 }
 
+TEST(DataManagerLoad, AsksInTheFolderOfTheCatalogue) {
+  MemoryDesk desk;
+  desk.Desk.Load("");
+  desk.Desk.World.Files.Content["/другая/a.dat"] = NumberedFile(1);
+  desk.Desk.Load("/другая/a.dat");
+  desk.Check();
+  const auto& asked = desk.Desk.World.Dialogs.Requests;
+  ASSERT_EQ(asked.size(), 3U);
+  // That of the program first, then that of the file in use.
+  EXPECT_EQ(asked[0].Folder, "/program");
+  EXPECT_EQ(asked[1].Folder, "/program");
+  EXPECT_EQ(asked[2].Folder, "/другая");
+}
+
 TEST(DataManagerLoad, TellsWhenNoFileWasChosen) {
   for (const std::string path : {"", " "}) {
     MemoryDesk desk;

@@ -62,7 +62,8 @@ QMessageBox::StandardButton SafeButton(MessageStyle style) {
 std::string RunDialog(const FileDialogRequest& request, QFileDialog::AcceptMode mode) {
   // "description (*.ext)|*.ext": Qt takes the description with its pattern in brackets.
   const QString filter = ToQt(request.Filter).section(QLatin1Char('|'), 0, 0);
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.Title), {}, filter);
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.Title), ToQt(request.Folder),
+                     filter);
   dialog.setAcceptMode(mode);
   dialog.setDefaultSuffix(ToQt(request.Extension));
   dialog.setOption(QFileDialog::DontConfirmOverwrite);

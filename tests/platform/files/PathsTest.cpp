@@ -60,6 +60,13 @@ TEST(MayOverwrite, IsTrueForAYesAlone) {
   }
 }
 
+TEST(FolderOf, TellsWhatStandsInFrontOfTheName) {
+  EXPECT_EQ(FolderOf("/база/GOST profile.dat"), "/база");
+  EXPECT_EQ(FolderOf("/a.dat"), "/");
+  EXPECT_EQ(FolderOf("a.dat"), "");
+  EXPECT_EQ(FolderOf(""), "");
+}
+
 }  // namespace
 
 }  // namespace trelonit::test

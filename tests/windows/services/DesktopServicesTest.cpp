@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -121,6 +122,18 @@ void Take(QFileDialog& dialog, const QString& name) {
   auto& edit = Find<QLineEdit>(dialog, "fileNameEdit");
   edit.setText(name);
   QTest::keyClick(&edit, Qt::Key_Return);
+}
+
+TEST(DesktopFileDialog, OpensInTheFolderThatItIsToldOf) {
+  const QTemporaryDir folder;
+  const OnceModal<QFileDialog> once([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory(), QDir(folder.path()));
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  FileDialogRequest there = request;
+  there.Folder = FromQt(folder.path());
+  EXPECT_EQ(DesktopDialogs().AskOpenName(there), "");
+  EXPECT_TRUE(once.Acted());
 }
 
 TEST(DesktopFileDialog, AsksForANameToSave) {
