@@ -367,6 +367,10 @@ void frmOtchetMain::RTF_Change() {
 }
 
 void frmOtchetMain::RTF_SelChange() {
+void frmOtchetMain::RTF_Typed(const std::string& text) {
+  Undo.RichBox_Typed(text);
+}
+
   EditEnable();
   ShowCaret();
 }

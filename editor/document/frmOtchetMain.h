@@ -105,6 +105,8 @@ class frmOtchetMain {
   void RTF_Change();
   void RTF_SelChange();
   /// A text that was composed, or dropped from elsewhere: one step of undo.
+  /// What the key handed on last is about to put in.
+  void RTF_Typed(const std::string& text);
   void RTF_TextCommitted(const std::string& text);
   /// A file dropped on the document.
   void RTF_FileDropped(const std::string& name);

@@ -15,9 +15,9 @@ constexpr Integer keyDelete = 46;
 /// Whether the key puts a character into a text. Arrows, function keys, Escape and the like do not.
 bool KeyTypesText(Integer keyCode);
 
-/// The text that a typed key is recorded with: a guess from the key code alone. It is meant so that
-/// a keyboard layout plays no part in it: a redo of what was typed on a Russian layout gives the
-/// Latin letters of the same keys.
+/// The text that a typed key is recorded with: a guess from the key code alone, in which a keyboard
+/// layout plays no part. Where the box tells what the key put in (clsUndo::RichBox_Typed), that
+/// counts.
 std::string TypedText(Integer keyCode, Integer shift);
 
 }  // namespace trelonit

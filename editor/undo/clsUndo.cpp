@@ -52,12 +52,14 @@ void clsUndo::Reset() {
   redoElements_.clear();
   enabled_ = true;
   changePending_ = false;
+  typedByCode_ = false;
   UpdateStateChange();
 }
 
 void clsUndo::Record() {
   undoElements_.push_back(current_);
   redoElements_.clear();
+  typedByCode_ = false;
   UpdateStateChange();
 }
 
@@ -72,6 +74,7 @@ void clsUndo::Apply(std::vector<clsUndoElement>& from, std::vector<clsUndoElemen
     const UpdateLock lock(Box());
     const SwitchedOff recording(enabled_);
     changePending_ = false;
+    typedByCode_ = false;
     step(from.back());
     to.push_back(std::move(from.back()));
     from.pop_back();
@@ -182,6 +185,7 @@ void clsUndo::RichBox_KeyDown(Integer& KeyCode, Integer Shift) {
   current_.CaretAfter = clsUndoElement::leaveCaret;
   // A tab that the box did not take must not be completed by another key's change.
   changePending_ = false;
+  typedByCode_ = false;
   if (TakeKey(KeyCode, Shift)) {
     KeyCode = 0;
   }
@@ -335,6 +339,18 @@ void clsUndo::Type(Integer keyCode, Integer shift) {
   current_.NewText = TypedText(keyCode, shift);
   current_.OldLength = UnitCount(current_.NewText);
   Record();
+  typedByCode_ = true;
+}
+
+void clsUndo::RichBox_Typed(const std::string& text) {
+  if (!typedByCode_) {
+    return;
+  }
+  typedByCode_ = false;
+  clsUndoElement& element = undoElements_.back();
+  element.NewText = text;
+  element.OldLength = UnitCount(text);
+  element.Plain = true;
 }
 
 void clsUndo::RichBox_Change() {

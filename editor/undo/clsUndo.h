@@ -66,6 +66,9 @@ class clsUndo {
   /// Sets the key code to 0 where the box must not see the key any more.
   void RichBox_KeyDown(Integer& KeyCode, Integer Shift);
   void RichBox_Change();
+  /// What the key handed on last puts in, where the box knows it: Redo gives the same, whatever the
+  /// keyboard's layout. Without it Redo goes by the key's code.
+  void RichBox_Typed(const std::string& text);
 
   /// Counts or recording state have changed.
   std::function<void()> StateChanged;
@@ -96,6 +99,8 @@ class clsUndo {
   std::vector<clsUndoElement> redoElements_;
   RichTextBox* richBox_ = nullptr;
   bool changePending_ = false;
+  /// The last element stands for a typed key of which only the code is known.
+  bool typedByCode_ = false;
   bool richEditing_ = false;
   clsUndoElement current_;
   bool ignoreChange_ = false;

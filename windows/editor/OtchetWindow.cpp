@@ -97,6 +97,7 @@ OtchetWindow::~OtchetWindow() {
   delete find_;
   form_.Unload = nullptr;
   box_.KeyDown = nullptr;
+  box_.KeyTyped = nullptr;
   box_.SelChange = nullptr;
   box_.FileDropped = nullptr;
   box_.ContextMenu = nullptr;
@@ -219,6 +220,7 @@ void OtchetWindow::ConnectBox() {
   box_.ContextMenu = [this](const QPoint& place) { editMenu_->popup(place); };
   box_.TextCommitted = [this](const std::string& text) { form_.RTF_TextCommitted(text); };
 }
+  box_.KeyTyped = [this](const std::string& text) { form_.RTF_Typed(text); };
 
 void OtchetWindow::RestorePlace() {
   const auto pixels = [](double twips) { return static_cast<int>(twips / twipsPerPixel); };

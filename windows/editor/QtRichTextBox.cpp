@@ -52,7 +52,12 @@ void QtRichTextBox::ConnectView() {
       KeyDown(key, shift);
     }
   };
-  view_->Typed = [this](const std::string& text) { SetSelText(text); };
+  view_->Typed = [this](const std::string& text) {
+    if (KeyTyped) {
+      KeyTyped(text);
+    }
+    SetSelText(text);
+  };
   view_->Erased = [this](bool back) { Erase(back); };
   view_->Committed = [this](const std::string& text) {
     if (TextCommitted) {

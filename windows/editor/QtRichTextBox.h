@@ -67,6 +67,8 @@ class QtRichTextBox : public RichTextBox {
   /// Every key before the box acts on it; a code set to 0 means that the box must not get it. Codes
   /// and states as KeyCodes.h tells.
   std::function<void(Integer& key, Integer shift)> KeyDown;
+  /// What the key handed on last puts in, before the box puts it in.
+  std::function<void(const std::string& text)> KeyTyped;
   /// The selection is another one, by the user or from code; under a lock, once at its end.
   std::function<void()> SelChange;
   std::function<void(const std::string& path)> FileDropped;
