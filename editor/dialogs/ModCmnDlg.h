@@ -39,6 +39,12 @@ class CommonDialogs {
   virtual void PrintDocument(const RichTextBox& document, const std::string& title) = 0;
   /// The pages as they would be printed, which can be stored as PDF from there.
   virtual void PreviewDocument(const RichTextBox& document, const std::string& title) = 0;
+  /// The bytes of a PDF file with the pages as they would be printed; nothing where the machine
+  /// makes none.
+  virtual std::optional<std::string> PdfOf(const RichTextBox& /*document*/,
+                                           const std::string& /*title*/) {
+    return std::nullopt;
+  }
   /// Paper and margins of what is printed next.
   virtual void PageSetup() = 0;
 };

@@ -1,5 +1,7 @@
 // The file commands of the document window.
 
+#include <string_view>
+
 #include "editor/document/frmOtchetMain.h"
 #include "editor/rtf/RtfHealth.h"
 #include "platform/errors/Guard.h"
@@ -14,6 +16,9 @@ namespace {
 /// From this length on the caret goes to the end and back once, by which a box takes in all of a
 /// long text at once.
 constexpr std::uint64_t longText = 100000;  // bytes
+
+/// Whatever kind is chosen: a name that ends so asks for pages.
+constexpr std::string_view pdfExtension = "pdf";
 
 /// The kind that the save dialog begins with.
 Long KindOf(DocumentFormat format) {
@@ -225,9 +230,15 @@ bool frmOtchetMain::SaveAs() {
       if (choice.Name.empty()) {
         return;
       }
-      choice.Name = NameToSave(choice.Name, choice.FilterIndex);
+      const std::optional<std::string> pdf = ExtensionOf(choice.Name) == pdfExtension
+                                                 ? dialogs_.PdfOf(RTF, BareName(choice.Name))
+                                                 : std::nullopt;
+      if (!pdf) {
+        choice.Name = NameToSave(choice.Name, choice.FilterIndex);
+      }
       if (MayReplace(choice.Name)) {
-        saved = StoreDocument(choice.Name, FormatOf(choice.FilterIndex, choice.Name));
+        saved = pdf ? StorePages(choice.Name, *pdf)
+                    : StoreDocument(choice.Name, FormatOf(choice.FilterIndex, choice.Name));
         return;
       }
     }
@@ -259,6 +270,15 @@ bool frmOtchetMain::StoreDocument(const std::string& name, DocumentFormat format
     }
   });
   return stored;
+}
+
+bool frmOtchetMain::StorePages(const std::string& name, const std::string& pdf) {
+  return Guard(services_.Messages, "SaveAFile", [&] {
+    services_.Files.ReplaceFile(name, pdf);
+    SBPanels[messagePanel].SetCaption(name);
+    SetChanged(false);
+    ShowSize(pdf.size());
+  });
 }
 
 bool frmOtchetMain::WriteDocument(const std::string& name, DocumentFormat format) {

@@ -194,7 +194,7 @@ class frmOtchetMain {
   bool IsShortEnough(const std::string& name, std::uint64_t length);
   bool ReadDocument(const std::string& name, DocumentFormat format);
   bool ReadRichText(const std::string& name);
-  /// These three return whether the document is stored.
+  /// These return whether the document is stored.
   bool SaveAFile();
   bool SaveAs();
   bool StoreDocument(const std::string& name, DocumentFormat format);
@@ -205,6 +205,8 @@ class frmOtchetMain {
 
   Services services_;
   CommonDialogs& dialogs_;
+  /// Pages beside the document, which keeps its name: they cannot be opened again.
+  bool StorePages(const std::string& name, const std::string& pdf);
   Openers openers_;
   std::string commandLine_;
   bool loadPending_ = false;

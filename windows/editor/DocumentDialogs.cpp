@@ -131,10 +131,14 @@ void DocumentDialogs::StorePdf(const RichTextBox& document, const std::string& t
     // Told here: a failure must not leave through the preview's own event loop.
     DesktopMessages messages;
     Guard(messages, "StorePdf", [&] {
-      DiskFiles().ReplaceFile(FromQt(dialog.selectedFiles().front()),
-                              WritePdf(document.Document(), title, Printer().pageLayout()));
+      DiskFiles().ReplaceFile(FromQt(dialog.selectedFiles().front()), *PdfOf(document, title));
     });
   }
+}
+
+std::optional<std::string> DocumentDialogs::PdfOf(const RichTextBox& document,
+                                                  const std::string& title) {
+  return WritePdf(document.Document(), title, Printer().pageLayout());
 }
 
 void DocumentDialogs::PageSetup() {

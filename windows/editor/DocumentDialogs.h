@@ -23,6 +23,7 @@ class DocumentDialogs : public CommonDialogs {
   std::optional<CharFormat> ShowFont(const CharFormat& present) override;
   void PrintDocument(const RichTextBox& document, const std::string& title) override;
   void PreviewDocument(const RichTextBox& document, const std::string& title) override;
+  std::optional<std::string> PdfOf(const RichTextBox& document, const std::string& title) override;
   void PageSetup() override;
 
  private:

@@ -288,5 +288,45 @@ TEST_F(DocumentSave, TellsWhereTheFilesCannotBeAsked) {
   EXPECT_EQ(State(), before);
 }
 
+TEST_F(DocumentSave, MakesPagesUnderANameThatAsksForThem) {
+  for (Long kind = plainTextKind; kind <= allFilesKind; ++kind) {
+    const std::string name = "/home/Отчет " + std::to_string(kind) + ".PDF";
+    Enter("beam ");
+    SaveAs(name, kind);
+    EXPECT_EQ(files.Content[name], "%PDF " + BareName(name) + ": " + box.Text());
+    EXPECT_EQ(Panel(frmOtchetMain::messagePanel), name);
+    EXPECT_FALSE(form.Changed());
+    // The document itself cannot be read from it again: it keeps its own name.
+    EXPECT_EQ(form.FileName(), "");
+    EXPECT_EQ(form.Form.Caption(), "Vestra");
+  }
+  EXPECT_EQ(Said(), Messages());
+}
+
+TEST_F(DocumentSave, AsksBeforePagesTakeTheirPlace) {
+  files.Content["/home/a.pdf"] = "old";
+  Enter("beam");
+  Answer(no);
+  SaveAs("/home/a.pdf", richTextKind);
+  EXPECT_EQ(Said(), Messages{ReplaceQuestion()});
+  EXPECT_EQ(files.Content["/home/a.pdf"], "old");
+  EXPECT_TRUE(form.Changed());
+}
+
+TEST_F(DocumentSave, TellsThatPagesCannotBeStored) {
+  Enter("beam");
+  files.Refused["/home/a.pdf"] = ErrorNumber::PermissionDenied;
+  SaveAs("/home/a.pdf", allFilesKind);
+  EXPECT_EQ(Said(), Messages{Failure("SaveAFile", ErrorNumber::PermissionDenied)});
+  EXPECT_TRUE(form.Changed());
+}
+
+TEST_F(DocumentSave, KeepsToItsKindsOnAMachineWithoutPages) {
+  dialogs.MakesPdf = false;
+  Enter("beam");
+  SaveAs("/home/a.pdf", plainTextKind);
+  EXPECT_EQ(files.Content["/home/a.txt"], "beam");
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -70,6 +70,9 @@ class ScriptedCommonDialogs : public CommonDialogs {
   void PreviewDocument(const RichTextBox& document, const std::string& title) override {
     Previewed.emplace_back(document.Text(), title);
   }
+  std::optional<std::string> PdfOf(const RichTextBox& document, const std::string& title) override {
+    return MakesPdf ? std::optional("%PDF " + title + ": " + document.Text()) : std::nullopt;
+  }
   void PageSetup() override { ++PageSetups; }
 
   std::deque<FileChoice> ToOpen;
@@ -83,6 +86,7 @@ class ScriptedCommonDialogs : public CommonDialogs {
   std::vector<Print> Printed;
   std::vector<Print> Previewed;
   int PageSetups = 0;
+  bool MakesPdf = true;
 
  private:
   template <class Answer>

@@ -177,6 +177,15 @@ TEST_F(DocumentDialogsOnScreen, PreviewThePagesOnNoMoreThanTheScreen) {
   });
 }
 
+TEST_F(DocumentDialogsOnScreen, MakeTheSamePagesWithoutThePreview) {
+  MemoryRichTextBox box;
+  box.SetText("beam");
+  const std::optional<std::string> pdf = Dialogs.PdfOf(box, "отчет.pdf");
+  ASSERT_TRUE(pdf);
+  EXPECT_TRUE(pdf->starts_with("%PDF-"));
+  EXPECT_NE(pdf->find("/Count 1"), std::string::npos);
+}
+
 TEST_F(DocumentDialogsOnScreen, StoreNothingWhereTheNameIsCancelled) {
   Preview([](QDialog& preview) {
     const OnceModal<QFileDialog> once(
