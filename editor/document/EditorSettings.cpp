@@ -84,6 +84,7 @@ EditorSettings LoadEditorSettings(SettingsService& settings, const NumberLocale&
   reader.Read("MainTop", read.MainTop, -farthest, farthest);
   reader.Read("MainWidth", read.MainWidth, smallest, farthest);
   reader.Read("MainHeight", read.MainHeight, smallest, farthest);
+  reader.Read("MainMaximized", read.MainMaximized);
   reader.Read("Backcolor", read.Backcolor);
   reader.Read("Statusbar", read.Statusbar);
   reader.Read("Toolbar", read.Toolbar);

@@ -13,6 +13,7 @@ struct EditorSettings {
   double MainTop = 1000;
   double MainWidth = 8500;
   double MainHeight = 6500;
+  bool MainMaximized = false;
   Color Backcolor = 0xFFFFFF;
   bool Statusbar = true;
   bool Toolbar = false;

@@ -74,6 +74,8 @@ void frmOtchetMain::Form_Load() {
     Top = settings.MainTop;
     Width = settings.MainWidth;
     Height = settings.MainHeight;
+    Maximized = settings.MainMaximized;
+    storedMaximized_ = Maximized;
     RTF.SetBackColor(settings.Backcolor);
     mnuViewStatusbar.SetChecked(settings.Statusbar);
     mnuViewToolbar.SetChecked(settings.Toolbar);
@@ -121,6 +123,10 @@ bool frmOtchetMain::Form_QueryUnload() {
     settings.Write("MainTop", Top);
     settings.Write("MainWidth", Width);
     settings.Write("MainHeight", Height);
+    if (Maximized != storedMaximized_) {
+      settings.Write("MainMaximized", Maximized);
+      storedMaximized_ = Maximized;
+    }
   });
   return mayClose;
 }

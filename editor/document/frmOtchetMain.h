@@ -147,6 +147,8 @@ class frmOtchetMain {
   ControlState TB;
   ControlState SB;
   BoundedArray<Label> SBPanels{messagePanel, sizePanel};
+  /// The window covers the screen; its usual place is kept for the time after.
+  bool Maximized = false;
   Timer PasteTimer;
 
   MenuEntry mnuFileNew;
@@ -216,4 +218,5 @@ class frmOtchetMain {
   std::optional<ReportTypist> typist_;
 };
 
+  bool storedMaximized_ = false;
 }  // namespace trelonit

@@ -239,6 +239,9 @@ void OtchetWindow::RestorePlace() {
 void OtchetWindow::ShowModal() {
   setWindowModality(Qt::ApplicationModal);
   QEventLoop loop;
+  if (form_.Maximized) {
+    setWindowState(windowState() | Qt::WindowMaximized);
+  }
   closed_ = [&loop] { loop.quit(); };
   show();
   activateWindow();
@@ -297,6 +300,7 @@ void OtchetWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   delete find_;
+  form_.Maximized = isMaximized();
   event->accept();
   if (closed_) {
     closed_();

@@ -121,6 +121,22 @@ TEST_F(OtchetWindowOnScreen, KeepsItsUsualPlaceWhileItIsMaximized) {
   EXPECT_EQ(Settings.Get(settingsSection, "MainHeight", ""), "6000");
 }
 
+TEST_F(OtchetWindowOnScreen, RemembersThatItWasMaximized) {
+  Start();
+  Window->showMaximized();
+  ASSERT_TRUE(Soon([this] { return Window->isMaximized(); }));
+  EXPECT_TRUE(Window->close());
+  Start();
+  EXPECT_TRUE(Window->isMaximized());
+  // Its usual place waits behind.
+  EXPECT_EQ(Window->normalGeometry().size(), QSize(566, 433));
+  Window->showNormal();
+  ASSERT_TRUE(Soon([this] { return !Window->isMaximized(); }));
+  EXPECT_TRUE(Window->close());
+  Start();
+  EXPECT_FALSE(Window->isMaximized());
+}
+
 // What the window tells ------------------------------------------------------------------------
 
 TEST_F(OtchetWindowOnScreen, TellsItsStateInTheStatusBar) {
