@@ -110,13 +110,16 @@ frmOtchetMain& Program::NewOtchet(const std::string& commandLine) {
   // Before the first report there is nothing to draw.
   const auto drawable =
       snapshot_ ? std::function<void()>([this] { DrawReported(); }) : std::function<void()>();
-  otchet_.emplace(services_, *richText_, dialogs,
-                  frmOtchetMain::Openers{.ShowFind = windows_.ShowFind,
-                                         .ShowDate = windows_.ShowDate,
-                                         .ShowAssoc = assoc_ ? Opener(windows_.ShowAssoc, *assoc_)
-                                                             : std::function<void()>(),
-                                         .ExportToDrawing = drawable},
-                  commandLine);
+  otchet_.emplace(
+      services_, *richText_, dialogs,
+      frmOtchetMain::Openers{
+          .ShowFind = windows_.ShowFind,
+          .ShowDate = windows_.ShowDate,
+          .ShowAssoc = assoc_ ? Opener(windows_.ShowAssoc, *assoc_) : std::function<void()>(),
+          .WhyNoAssoc =
+              windows_.Associations != nullptr ? windows_.Associations->WhyNot() : std::string(),
+          .ExportToDrawing = drawable},
+      commandLine);
   if (snapshot_) {
     export_.emplace(
         services_.Automation, services_.Messages, services_.Locale,

@@ -27,6 +27,8 @@ class FileAssociations {
   virtual void Apply(const AssociationChoice& choice) = 0;
   /// The endings of the files that change their owner, as ".txt, .log".
   virtual std::string OwnedFiles() const = 0;
+  /// Why the machine does not know the pad at all, in the user's language; empty where it does.
+  virtual std::string WhyNot() { return {}; }
   /// Why the machine has no such choice, in the user's language; empty where it has.
   virtual std::string WhyNoSendTo() const { return {}; }
   virtual std::string WhyNoSourceViewer() const { return {}; }

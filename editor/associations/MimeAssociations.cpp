@@ -29,6 +29,12 @@ void MimeAssociations::Apply(const AssociationChoice& choice) {
   }
 }
 
+std::string MimeAssociations::WhyNot() {
+  return defaults_.HasProgram(desktopEntry)
+             ? std::string()
+             : "Программа не установлена: рабочий стол не может назначить ее для файлов.";
+}
+
 std::string MimeAssociations::WhyNoSendTo() const {
   return "На этом рабочем столе нет меню «Отправить»: файл открывают командой «Открыть с помощью».";
 }

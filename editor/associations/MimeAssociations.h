@@ -21,6 +21,7 @@ class MimeAssociations : public FileAssociations {
   AssociationChoice Present() override;
   void Apply(const AssociationChoice& choice) override;
   std::string OwnedFiles() const override { return ".txt, .log, .tsav"; }
+  std::string WhyNot() override;
   std::string WhyNoSendTo() const override;
   std::string WhyNoSourceViewer() const override;
 

@@ -56,7 +56,7 @@ frmOtchetMain::frmOtchetMain(Services services, RichTextBox& rtf, CommonDialogs&
   caption(mnuViewStatusbar, "Statusbar");
   caption(mnuFileAbout, "About");
   mnuFileAutoCAD.SetEnabled(static_cast<bool>(openers_.ExportToDrawing));
-  mnuFileAssoc.SetEnabled(static_cast<bool>(openers_.ShowAssoc));
+  mnuFileAssoc.SetEnabled(openers_.ShowAssoc && openers_.WhyNoAssoc.empty());
   mnuEdit[editDatestamp].SetEnabled(static_cast<bool>(openers_.ShowDate));
   mnuEdit[editFind].SetEnabled(static_cast<bool>(openers_.ShowFind));
 }
@@ -367,16 +367,16 @@ void frmOtchetMain::RTF_KeyDown(Integer& KeyCode, Integer Shift) {
   }
 }
 
+void frmOtchetMain::RTF_Typed(const std::string& text) {
+  Undo.RichBox_Typed(text);
+}
+
 void frmOtchetMain::RTF_Change() {
   SetChanged(true);
   Undo.RichBox_Change();
 }
 
 void frmOtchetMain::RTF_SelChange() {
-void frmOtchetMain::RTF_Typed(const std::string& text) {
-  Undo.RichBox_Typed(text);
-}
-
   EditEnable();
   ShowCaret();
 }

@@ -30,6 +30,9 @@ class frmOtchetMain {
     std::function<void(frmDate&)> ShowDate;
     /// Shows which files open in the pad, until the user closes it.
     std::function<void()> ShowAssoc;
+    /// Why the machine does not let the pad open files, in the user's language; empty where it
+    /// does.
+    std::string WhyNoAssoc = {};
     /// Draws the truss that the report was made from.
     std::function<void()> ExportToDrawing;
   };
@@ -102,11 +105,11 @@ class frmOtchetMain {
 
   /// Every key before the box acts on it; 0 when the box must not get it.
   void RTF_KeyDown(Integer& KeyCode, Integer Shift);
+  /// What the key handed on last is about to put in.
+  void RTF_Typed(const std::string& text);
   void RTF_Change();
   void RTF_SelChange();
   /// A text that was composed, or dropped from elsewhere: one step of undo.
-  /// What the key handed on last is about to put in.
-  void RTF_Typed(const std::string& text);
   void RTF_TextCommitted(const std::string& text);
   /// A file dropped on the document.
   void RTF_FileDropped(const std::string& name);
@@ -131,6 +134,8 @@ class frmOtchetMain {
   void mnuFilePrintPreview_Click();
   void mnuFileExit_Click();
 
+  /// Why "Связь с файлами" is disabled; empty where it is not, or where there is no such window.
+  const std::string& WhyNoAssoc() const { return openers_.WhyNoAssoc; }
   /// The open file; empty where there is none.
   const std::string& FileName() const { return fileName_; }
   /// Whether the document differs from its file.
@@ -142,13 +147,13 @@ class frmOtchetMain {
   double Top = 0;
   double Width = 0;
   double Height = 0;
+  /// The window covers the screen; its usual place is kept for the time after.
+  bool Maximized = false;
   RichTextBox& RTF;
   clsUndo Undo;
   ControlState TB;
   ControlState SB;
   BoundedArray<Label> SBPanels{messagePanel, sizePanel};
-  /// The window covers the screen; its usual place is kept for the time after.
-  bool Maximized = false;
   Timer PasteTimer;
 
   MenuEntry mnuFileNew;
@@ -200,6 +205,8 @@ class frmOtchetMain {
   bool SaveAFile();
   bool SaveAs();
   bool StoreDocument(const std::string& name, DocumentFormat format);
+  /// Pages beside the document, which keeps its name: they cannot be opened again.
+  bool StorePages(const std::string& name, const std::string& pdf);
   bool WriteDocument(const std::string& name, DocumentFormat format);
   DocumentFormat PresentFormat() const;
   bool MayReplace(const std::string& name);
@@ -207,16 +214,14 @@ class frmOtchetMain {
 
   Services services_;
   CommonDialogs& dialogs_;
-  /// Pages beside the document, which keeps its name: they cannot be opened again.
-  bool StorePages(const std::string& name, const std::string& pdf);
   Openers openers_;
   std::string commandLine_;
   bool loadPending_ = false;
   bool changed_ = false;
+  bool storedMaximized_ = false;
   std::string fileName_;
   CharFormat font_;
   std::optional<ReportTypist> typist_;
 };
 
-  bool storedMaximized_ = false;
 }  // namespace trelonit

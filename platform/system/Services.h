@@ -92,6 +92,8 @@ class RegistryService {
 class MimeDefaultService {
  public:
   virtual ~MimeDefaultService() = default;
+  /// Whether the desktop has this entry.
+  virtual bool HasProgram(const std::string& entry) = 0;
   /// The entry that opens files of this type for the user; empty where there is none.
   virtual std::string DefaultProgram(const std::string& mimeType) = 0;
   /// Makes the entry the user's choice for this type and keeps what the user had chosen before

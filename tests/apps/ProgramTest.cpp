@@ -154,6 +154,21 @@ TEST_F(WholeProgram, OpensTheAssociationsOnTheStateOfTheMachine) {
   EXPECT_TRUE(ownerShown);
 }
 
+TEST_F(WholeProgram, OffersNoAssociationsWhereTheMachineDoesNotKnowIt) {
+  class Unknown : public OwnedByPad {
+   public:
+    std::string WhyNot() override { return "не установлена"; }
+  };
+  Unknown associations;
+  std::string reason;
+  inWindow = [&](frmOtchetMain& form) {
+    EXPECT_FALSE(form.mnuFileAssoc.Enabled());
+    reason = form.WhyNoAssoc();
+  };
+  With(&associations)->Open("");
+  EXPECT_EQ(reason, "не установлена");
+}
+
 TEST_F(WholeProgram, OffersNoAssociationsWhereTheMachineHasNone) {
   bool offered = true;
   inWindow = [&](frmOtchetMain& form) {

@@ -121,6 +121,11 @@ QAction* OtchetWindow::MakeAction(const frmOtchetMain::MenuItem& item) {
     action->setToolTip(QString::fromUtf8(dress.Hint) +
                        (keys.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(keys)));
   }
+  if (item.Entry == &form_.mnuFileAssoc && !form_.WhyNoAssoc().empty()) {
+    action->setToolTip(ToQt(form_.WhyNoAssoc()));
+    // Who goes through the menu by keys reads it in the status bar.
+    action->setStatusTip(action->toolTip());
+  }
   if (dress.Picture != nullptr) {
     action->setIcon(PictureIcon(QStringLiteral(":/pictures/%1.svg").arg(dress.Picture)));
     action->setIconVisibleInMenu(false);
@@ -215,12 +220,12 @@ void OtchetWindow::AddStatusBar() {
 
 void OtchetWindow::ConnectBox() {
   box_.KeyDown = [this](Integer& key, Integer shift) { form_.RTF_KeyDown(key, shift); };
+  box_.KeyTyped = [this](const std::string& text) { form_.RTF_Typed(text); };
   box_.SelChange = [this] { form_.RTF_SelChange(); };
   box_.FileDropped = [this](const std::string& name) { form_.RTF_FileDropped(name); };
   box_.ContextMenu = [this](const QPoint& place) { editMenu_->popup(place); };
   box_.TextCommitted = [this](const std::string& text) { form_.RTF_TextCommitted(text); };
 }
-  box_.KeyTyped = [this](const std::string& text) { form_.RTF_Typed(text); };
 
 void OtchetWindow::RestorePlace() {
   const auto pixels = [](double twips) { return static_cast<int>(twips / twipsPerPixel); };
@@ -234,14 +239,14 @@ void OtchetWindow::RestorePlace() {
   }
   move(place.topLeft());
   resize(place.size());
+  if (form_.Maximized) {
+    setWindowState(windowState() | Qt::WindowMaximized);
+  }
 }
 
 void OtchetWindow::ShowModal() {
   setWindowModality(Qt::ApplicationModal);
   QEventLoop loop;
-  if (form_.Maximized) {
-    setWindowState(windowState() | Qt::WindowMaximized);
-  }
   closed_ = [&loop] { loop.quit(); };
   show();
   activateWindow();
@@ -295,12 +300,12 @@ void OtchetWindow::closeEvent(QCloseEvent* event) {
   form_.Top = place.y() * twipsPerPixel;
   form_.Width = place.width() * twipsPerPixel;
   form_.Height = place.height() * twipsPerPixel;
+  form_.Maximized = isMaximized();
   if (!form_.Form_QueryUnload()) {
     event->ignore();
     return;
   }
   delete find_;
-  form_.Maximized = isMaximized();
   event->accept();
   if (closed_) {
     closed_();

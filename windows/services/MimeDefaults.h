@@ -15,6 +15,7 @@ class MimeDefaults : public MimeDefaultService {
   /// They outlive the object. The settings remember what the user had chosen before.
   MimeDefaults(FileService& files, SettingsService& settings)
       : files_(files), settings_(settings) {}
+  bool HasProgram(const std::string& entry) override { return EntryExists(entry); }
   /// Where no list names a program that is there, one that offers to open the type; where none
   /// does, the same for the kinds of file of which this type is one, such as plain text.
   std::string DefaultProgram(const std::string& mimeType) override;

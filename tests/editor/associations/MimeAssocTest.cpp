@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@ namespace {
 /// A user's choices, in memory.
 class MemoryDefaults : public MimeDefaultService {
  public:
+  bool HasProgram(const std::string& entry) override { return Installed.contains(entry); }
   std::string DefaultProgram(const std::string& mimeType) override {
     const auto found = Programs.find(mimeType);
     return found == Programs.end() ? "" : found->second;
@@ -32,6 +34,7 @@ class MemoryDefaults : public MimeDefaultService {
     }
     before_.erase(mimeType);
   }
+  std::set<std::string> Installed{desktopEntry};
   std::map<std::string, std::string> Programs;
   std::vector<std::string> Steps;
   std::string Refused;
@@ -116,6 +119,13 @@ TEST_F(MimeAssoc, SaysWhyTheOtherChoicesAreMissing) {
   EXPECT_FALSE(form.lblNoSendto.Caption().empty());
   EXPECT_FALSE(form.lblNoSC.Caption().empty());
   EXPECT_EQ(form.lblOwner.Caption(), "Текстовые файлы (.txt, .log, .tsav) открывает");
+}
+
+TEST_F(MimeAssoc, AsksForAnInstalledProgram) {
+  EXPECT_EQ(associations.WhyNot(), "");
+  defaults.Installed.clear();
+  EXPECT_EQ(associations.WhyNot(),
+            "Программа не установлена: рабочий стол не может назначить ее для файлов.");
 }
 
 }  // namespace

@@ -39,6 +39,7 @@ class OtchetScreen {
             .ShowFind = [this](frmFind& form) { Window->ShowFind(form); },
             .ShowDate = [this](frmDate& form) { DateWindow(form, Window.get()).exec(); },
             .ShowAssoc = [this] { ++AssocsShown; },
+            .WhyNoAssoc = WhyNoAssoc,
             .ExportToDrawing = [this] { ++Exports; }},
         commandLine);
     Form->Form_Load();
@@ -114,6 +115,7 @@ class OtchetScreen {
   ScriptedCommonDialogs Dialogs;
   int Exports = 0;
   int AssocsShown = 0;
+  std::string WhyNoAssoc;
   std::unique_ptr<QtRichTextBox> Box;
   std::unique_ptr<frmOtchetMain> Form;
   std::unique_ptr<OtchetWindow> Window;

@@ -137,6 +137,18 @@ TEST_F(OtchetWindowOnScreen, RemembersThatItWasMaximized) {
   EXPECT_FALSE(Window->isMaximized());
 }
 
+TEST_F(OtchetWindowOnScreen, TellsWhyItCannotBeTiedToFiles) {
+  WhyNoAssoc = "Программа не установлена.";
+  Start();
+  EXPECT_FALSE(Entry("mnuFileAssoc").isEnabled());
+  EXPECT_EQ(FromQt(Entry("mnuFileAssoc").toolTip()), WhyNoAssoc);
+  EXPECT_EQ(FromQt(Entry("mnuFileAssoc").statusTip()), WhyNoAssoc);
+  WhyNoAssoc = "";
+  Start();
+  EXPECT_TRUE(Entry("mnuFileAssoc").isEnabled());
+  EXPECT_EQ(FromQt(Entry("mnuFileAssoc").toolTip()), "Какие файлы открывает эта программа");
+}
+
 // What the window tells ------------------------------------------------------------------------
 
 TEST_F(OtchetWindowOnScreen, TellsItsStateInTheStatusBar) {
