@@ -36,6 +36,8 @@ frmMain::frmMain(Services services, Openers openers)
   Form.SetCaption(applicationTitle);
   optBP.SetValue(true);
   tglUpPoyas.SetValue(true);
+  // It only shows what was calculated: nobody writes into it.
+  txtProgib.SetBackColor(colorDisabledGrey);
   lblSectionSource.SetVisible(false);
   lblOwnWeightTwice.SetVisible(false);
   for (Long layout = 1; layout <= sectionLayoutCount; ++layout) {

@@ -26,6 +26,17 @@ TEST(MainWindowPlace, IsKeptUntilTheNextStart) {
   EXPECT_EQ(next.size(), left);
 }
 
+TEST(MainWindowPlace, IsKeptTooWhereTheMenuEndsTheProgram) {
+  Desk desk;
+  frmMain& form = desk.MakeAndLoad();
+  {
+    MainWindow window(form, desk.Outside.Settings);
+    window.show();
+    window.findChild<QAction*>(QStringLiteral("Exit"))->trigger();
+  }
+  EXPECT_NE(desk.Outside.Settings.Get("Window", "Geometry", ""), "");
+}
+
 TEST(MainWindowPlace, ThatIsDamagedDoesNotMatter) {
   for (const char* stored : {"", "abc", "////", "AdnQywADAAA="}) {
     Desk desk;

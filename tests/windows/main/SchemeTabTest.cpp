@@ -36,6 +36,16 @@ TEST_F(SchemeInputs, ShowTheStartDefaults) {
   EXPECT_FALSE(Button("chkProgib").isChecked());
 }
 
+TEST_F(SchemeInputs, TheDeflectionLooksAsIfItCouldNotBeWrittenInto) {
+  Press("chkProgib");
+  const auto ground = [&](const std::string& name) {
+    return Edit(name).palette().color(QPalette::Base);
+  };
+  EXPECT_TRUE(Edit("txtProgib").isEnabled());
+  EXPECT_EQ(ground("txtProgib"), Window.palette().color(QPalette::Window));
+  EXPECT_NE(ground("txtProgib"), ground("txtHight"));
+}
+
 TEST_F(SchemeInputs, ReachTheModelOnTheWayForward) {
   TypeInto("txtLengthF", "24");
   TypeInto("txtHight", "2.25");
