@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPdfWriter>
+#include <QTextBlock>
 #include <QTextDocument>
 
 #include "platform/errors/RuntimeError.h"
@@ -39,6 +40,57 @@ class Foot {
   QFont font_;
   QFontMetricsF metrics_;
 };
+
+bool IsBlank(const QTextBlock& block) {
+  return block.text().trimmed().isEmpty();
+}
+
+/// Letters, and all of them bold.
+bool IsHeading(const QTextBlock& block) {
+  for (auto part = block.begin(); !part.atEnd(); ++part) {
+    const QTextFragment fragment = part.fragment();
+    if (fragment.charFormat().fontWeight() < QFont::DemiBold &&
+        !fragment.text().trimmed().isEmpty()) {
+      return false;
+    }
+  }
+  return !IsBlank(block);
+}
+
+/// The page of the paragraph's first line.
+int PageOf(const QTextBlock& block, double pageHeight) {
+  // Asked for its box, the document is laid out as far as this paragraph.
+  block.document()->documentLayout()->blockBoundingRect(block);
+  const QTextLayout& lines = *block.layout();
+  const double line = lines.lineCount() > 0 ? lines.lineAt(0).y() : 0;
+  return static_cast<int>((lines.position().y() + line) / pageHeight);
+}
+
+/// A heading that would stand at the end of a page goes to the next one with what it heads.
+void KeepHeadingsWithTheirText(QTextDocument& text) {
+  const double pageHeight = text.pageSize().height();
+  QTextBlock first;
+  QTextBlock last;
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+    if (IsHeading(block)) {
+      last = block;
+      first = first.isValid() ? first : block;
+      continue;
+    }
+    if (IsBlank(block) || !first.isValid()) {
+      continue;
+    }
+    const int page = PageOf(block, pageHeight);
+    // Headings that fill a page of their own stay; the last one goes along.
+    const QTextBlock moved = PageOf(first, pageHeight) + 1 >= page ? first : last;
+    if (PageOf(moved, pageHeight) < page) {
+      QTextBlockFormat format = moved.blockFormat();
+      format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+      QTextCursor(moved).setBlockFormat(format);
+    }
+    first = {};
+  }
+}
 
 void PaintPage(QPainter& painter, QTextDocument& text, const QSizeF& size, int page) {
   const QRectF part(QPointF(0, page * size.height()), size);
@@ -75,6 +127,7 @@ int PaintDocument(const RichDocument& document, QPagedPaintDevice& device) {
   text.setDocumentMargin(0);
   text.documentLayout()->setPaintDevice(&device);
   text.setPageSize(size);
+  KeepHeadingsWithTheirText(text);
   const int count = text.pageCount();
   const QPageRanges ranges = device.pageRanges();
   bool painted = false;

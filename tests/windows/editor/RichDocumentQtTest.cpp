@@ -147,6 +147,49 @@ TEST(RichDocumentPdf, PutsTextBehindATabWhereTheStopIs) {
   EXPECT_NEAR(left[1], margin + 72, 1);
 }
 
+/// Lines, then two headings one under the other with an empty line behind each, then lines again.
+RichDocument Headed(int before) {
+  RichDocument document = ManyLines(before);
+  const CharFormat bold{.FontSize = 11, .Bold = true};
+  for (const char16_t* heading : {u"Заголовок", u"Подзаголовок"}) {
+    document.Paragraphs.push_back({{{heading, bold}}});
+    document.Paragraphs.emplace_back();
+  }
+  const RichDocument after = ManyLines(3);
+  document.Paragraphs.insert(document.Paragraphs.end(), after.Paragraphs.begin(),
+                             after.Paragraphs.end());
+  return document;
+}
+
+TEST(RichDocumentPdf, LeavesNoHeadingAloneAtTheEndOfAPage) {
+  if (!PdfReaderIsThere()) {
+    GTEST_SKIP() << "no pdftotext";
+  }
+  // However many lines stand before, from half a page to more than one.
+  int moved = 0;
+  for (int before = 40; before < 90; ++before) {
+    const QString text = TextOfPdf(WritePdf(Headed(before), ""), {});
+    for (const QString& page : text.split(QLatin1Char('\f'))) {
+      if (page.contains(QStringLiteral("Заголовок"))) {
+        EXPECT_TRUE(page.contains(QStringLiteral("Подзаголовок"))) << before;
+        EXPECT_GT(page.lastIndexOf(QStringLiteral("Строка")),
+                  page.indexOf(QStringLiteral("Подзаголовок")))
+            << before;
+        moved += page.startsWith(QStringLiteral("Заголовок")) ? 1 : 0;
+      }
+    }
+  }
+  EXPECT_GT(moved, 2);
+}
+
+TEST(RichDocumentPdf, LeavesADocumentOfHeadingsAsItIs) {
+  RichDocument document = ManyLines(150);
+  for (RichParagraph& paragraph : document.Paragraphs) {
+    paragraph.Runs.front().Format.Bold = true;
+  }
+  EXPECT_NE(WritePdf(document, "").find("/Count 3"), std::string::npos);
+}
+
 TEST(RichDocumentPdf, PaintsTheChosenPagesAlone) {
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
