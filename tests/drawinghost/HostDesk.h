@@ -84,10 +84,9 @@ inline TreloData DrawnData(Long scheme, Long n) {
 }
 
 /// Draws both schemes by the real export; the drawing outlives its host.
-inline std::shared_ptr<Drawing> ExportedDrawing(Long scheme, Long n) {
+inline std::shared_ptr<Drawing> ExportedDrawing(const TreloData& data) {
   HostDesk desk;
   RecordingMessages messages;
-  const TreloData data = DrawnData(scheme, n);
   const TreloResult result = Solved(data);
   const SectionArray sections = NamedSections();
   Label panel;
@@ -98,6 +97,16 @@ inline std::shared_ptr<Drawing> ExportedDrawing(Long scheme, Long n) {
     throw std::logic_error(messages.Shown.front().Title + ": " + messages.Shown.front().Text);
   }
   return desk.Host.ActiveDocument();
+}
+inline std::shared_ptr<Drawing> ExportedDrawing(Long scheme, Long n) {
+  return ExportedDrawing(DrawnData(scheme, n));
+}
+
+/// As narrow as panels get: 30 of 1 m, at a height whose texts are as high as a fifth of them.
+inline std::shared_ptr<Drawing> CrowdedDrawing(Long scheme) {
+  TreloData data = Design(scheme, 30, 30, 2, 1);
+  FillIrregular(data);
+  return ExportedDrawing(data);
 }
 
 }  // namespace trelonit::test

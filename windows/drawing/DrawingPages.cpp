@@ -128,16 +128,28 @@ DrawingSheet SheetOn(const DrawingPainter& drawing, QSizeF paper) {
   return {paper, StandardScale(needed)};
 }
 
-DrawingSheet SheetFor(const DrawingPainter& drawing) {
-  const double smallest = drawing.SmallestText();
+std::size_t TextsLeftOut(const DrawingPainter& drawing, const DrawingSheet& sheet) {
+  const std::size_t leftOut = drawing.FitOnPaper(smallestLetters * sheet.Scale).LeftOut;
+  return leftOut - std::min(leftOut, drawing.FitOnPaper(0).LeftOut);
+}
+
+std::optional<DrawingSheet> SheetWithAllTexts(const DrawingPainter& drawing) {
   for (const PaperFormat format :
-       {PaperFormat::A4, PaperFormat::A3, PaperFormat::A2, PaperFormat::A1}) {
+       {PaperFormat::A4, PaperFormat::A3, PaperFormat::A2, PaperFormat::A1, PaperFormat::A0}) {
     const DrawingSheet sheet = SheetOn(drawing, PaperSize(format));
-    if (smallest == 0 || smallest / sheet.Scale >= smallestLetters) {
+    const double smallest = drawing.FitOnPaper(smallestLetters * sheet.Scale).Smallest;
+    // What is as high as it may be but for rounding noise can be read.
+    const bool readable = smallest == 0 || smallest / sheet.Scale >= smallestLetters * (1 - 1e-9);
+    if (readable && TextsLeftOut(drawing, sheet) == 0) {
       return sheet;
     }
   }
-  return SheetOn(drawing, PaperSize(PaperFormat::A3));
+  return std::nullopt;
+}
+
+DrawingSheet SheetFor(const DrawingPainter& drawing) {
+  const std::optional<DrawingSheet> sheet = SheetWithAllTexts(drawing);
+  return sheet ? *sheet : SheetOn(drawing, PaperSize(PaperFormat::A3));
 }
 
 void PaintSheet(QPainter& painter, const DrawingPainter& drawing, const DrawingSheet& sheet,
@@ -155,6 +167,7 @@ void PaintSheet(QPainter& painter, const DrawingPainter& drawing, const DrawingS
   const QRectF box = drawing.Bounds(true);
   const QPointF middle = FieldOn(sheet.Paper).center() * unitsPerMillimetre;
   const double scale = unitsPerMillimetre / sheet.Scale;
+  look.SmallestLetters = smallestLetters * unitsPerMillimetre;
   look.FromDrawing = QTransform();
   look.FromDrawing.translate(middle.x(), middle.y());
   look.FromDrawing.scale(scale, -scale);

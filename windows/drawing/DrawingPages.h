@@ -31,8 +31,16 @@ struct DrawingSheet {
 /// fits into the frame. Raises 6 for a drawing whose size is beyond the range of Double.
 DrawingSheet SheetOn(const DrawingPainter& drawing, QSizeF paper);
 
-/// The same on the smallest sheet from A4 to A1 that leaves the texts 2.5 mm high, which GOST 2.304
-/// takes for the smallest; A3 where none does.
+/// How many texts the sheet leaves out that a larger one could show: where they are crowded,
+/// letters are made smaller down to 2.5 mm, which GOST 2.304 takes for the smallest, and no
+/// further.
+std::size_t TextsLeftOut(const DrawingPainter& drawing, const DrawingSheet& sheet);
+
+/// The same as SheetOn on the smallest sheet that shows all texts at least 2.5 mm high; nothing
+/// where none does.
+std::optional<DrawingSheet> SheetWithAllTexts(const DrawingPainter& drawing);
+
+/// That sheet, or A3.
 DrawingSheet SheetFor(const DrawingPainter& drawing);
 
 /// Paints the page; its upper left corner is the painter's origin.

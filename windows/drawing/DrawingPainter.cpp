@@ -65,6 +65,27 @@ PictureText WithRoomOnTop(PictureText text) {
   }
 }
 
+/// Which texts give way first: the lengths under bars, then the numbers of dimensions, then what is
+/// told of the bars themselves.
+int KindOf(TextAlignment alignment) {
+  switch (alignment) {
+    case TextAlignment::TopLeft:
+    case TextAlignment::TopCentre:
+    case TextAlignment::TopRight:
+      return 2;
+    case TextAlignment::MiddleLeft:
+    case TextAlignment::MiddleCentre:
+    case TextAlignment::MiddleRight:
+      return 1;
+    default:
+      return 0;
+  }
+}
+
+QTransform ShrunkTo(QPointF anchor, double factor) {
+  return {factor, 0, 0, factor, anchor.x() * (1 - factor), anchor.y() * (1 - factor)};
+}
+
 /// Whether a box, flat or not, has a part in the visible one.
 bool Meets(const QRectF& box, const QRectF& visible) {
   return visible.isNull() || (box.left() <= visible.right() && box.right() >= visible.left() &&
@@ -129,7 +150,6 @@ DrawingPainter::Text DrawingPainter::Placed(const PictureText& text,
   // Names are padded with blanks: a label stands in the middle of its bar by what is to be seen.
   placed.Letters = ToQt(text.Text).trimmed();
   placed.Outline = letters.Outline(placed.Letters);
-  placed.Height = text.Height;
   const double width = letters.Width(placed.Letters) * factor * scale;
   const QPointF start = AsPoint(BaselineStart(WithRoomOnTop(text), Finite(width)));
   // Y of the outline goes down. The style leans the letters by their height, however narrow.
@@ -142,6 +162,11 @@ DrawingPainter::Text DrawingPainter::Placed(const PictureText& text,
   if (placed.Outline.isEmpty()) {
     placed.Box = QRectF(start, start);
   }
+  const QPolygonF corners = placed.Place.map(QPolygonF(placed.Outline.boundingRect()));
+  std::copy_n(corners.begin(), placed.Room.Corners.size(), placed.Room.Corners.begin());
+  placed.Room.Anchor = AsPoint(text.Point);
+  placed.Room.Height = text.Height;
+  placed.Room.Kind = KindOf(text.Alignment);
   Finite(placed.Box.left() + placed.Box.right() + placed.Box.top() + placed.Box.bottom());
   return placed;
 }
@@ -167,13 +192,59 @@ double DrawingPainter::SmallestText() const {
       continue;
     }
     for (const Text& text : layer.Texts) {
-      smallest = smallest == 0 ? text.Height : std::min(smallest, text.Height);
+      smallest = smallest == 0 ? text.Room.Height : std::min(smallest, text.Room.Height);
     }
   }
   return smallest;
 }
 
+const TextFit& DrawingPainter::Fit(double smallest, bool onPaper) const {
+  std::vector<bool> painted;
+  std::vector<TextRoom> rooms;
+  for (const Layer& layer : layers_) {
+    painted.push_back(IsPainted(layer, onPaper));
+  }
+  if (!fit_ || fit_->Smallest != smallest || fit_->OnPaper != onPaper || fit_->Layers != painted) {
+    for (std::size_t layer = 0; layer < layers_.size(); ++layer) {
+      if (painted[layer]) {
+        for (const Text& text : layers_[layer].Texts) {
+          rooms.push_back(text.Room);
+        }
+      }
+    }
+    fit_ = {smallest, onPaper, painted, FitTexts(rooms, smallest)};
+  }
+  return fit_->Fit;
+}
+
+const double* DrawingPainter::FactorsFor(const DrawingLook& look) const {
+  if (look.SmallestLetters <= 0) {
+    return nullptr;
+  }
+  const double scale = std::sqrt(std::abs(look.FromDrawing.determinant()));
+  return Fit(look.SmallestLetters / scale, look.OnPaper).Factors.data();
+}
+
+std::vector<QPolygonF> DrawingPainter::TextRooms(const DrawingLook& look) const {
+  const double* factors = FactorsFor(look);
+  std::vector<QPolygonF> rooms;
+  for (const Layer& layer : layers_) {
+    if (!IsPainted(layer, look.OnPaper)) {
+      continue;
+    }
+    for (const Text& text : layer.Texts) {
+      const double factor = factors == nullptr ? 1 : *factors++;
+      if (factor > 0) {
+        const QPolygonF corners(text.Room.Corners.begin(), text.Room.Corners.end());
+        rooms.push_back(ShrunkTo(text.Room.Anchor, factor).map(corners));
+      }
+    }
+  }
+  return rooms;
+}
+
 void DrawingPainter::Paint(QPainter& painter, const DrawingLook& look) const {
+  const double* factors = FactorsFor(look);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   for (const Layer& layer : layers_) {
@@ -189,7 +260,8 @@ void DrawingPainter::Paint(QPainter& painter, const DrawingLook& look) const {
                                  : QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     PaintStrokes(painter, layer, look);
     painter.setBrush(color);
-    PaintTexts(painter, layer, look);
+    PaintTexts(painter, layer, look, factors);
+    factors = factors == nullptr ? nullptr : factors + layer.Texts.size();
     painter.setPen(Qt::NoPen);
     PaintArrows(painter, layer, look);
     painter.setBrush(Qt::NoBrush);
@@ -221,15 +293,16 @@ void DrawingPainter::PaintArrows(QPainter& painter, const Layer& layer, const Dr
   }
 }
 
-void DrawingPainter::PaintTexts(QPainter& painter, const Layer& layer,
-                                const DrawingLook& look) const {
+void DrawingPainter::PaintTexts(QPainter& painter, const Layer& layer, const DrawingLook& look,
+                                const double* factors) const {
   const QTransform base = painter.transform();
   painter.setFont(font_);
   for (const Text& text : layer.Texts) {
-    if (!Meets(look.FromDrawing.mapRect(text.Box), look.Visible)) {
+    const double factor = factors == nullptr ? 1 : *factors++;
+    if (factor <= 0 || !Meets(look.FromDrawing.mapRect(text.Box), look.Visible)) {
       continue;
     }
-    painter.setTransform(text.Place * look.FromDrawing * base);
+    painter.setTransform(text.Place * ShrunkTo(text.Room.Anchor, factor) * look.FromDrawing * base);
     if (look.RealLetters) {
       painter.drawText(QPointF(0, 0), text.Letters);
     } else {

@@ -6,11 +6,13 @@
 #include <QPalette>
 #include <QPolygonF>
 #include <QTransform>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "drawing/host/DrawingPicture.h"
 #include "windows/drawing/DrawingLetters.h"
+#include "windows/drawing/TextFitting.h"
 
 namespace trelonit {
 
@@ -33,6 +35,10 @@ struct DrawingLook {
   /// Black, and only the layers that are plotted; otherwise the colours of the palette.
   bool OnPaper = false;
   QPalette Palette;
+  /// The height down to which letters may be made smaller where texts are crowded, in the painter's
+  /// units; texts that cover each other even so are left out. 0 for texts as the drawing tells
+  /// them.
+  double SmallestLetters = 0;
   /// Letters of a font, that can be searched for and copied, instead of their outlines.
   bool RealLetters = false;
 };
@@ -57,6 +63,12 @@ class DrawingPainter {
 
   void Paint(QPainter& painter, const DrawingLook& look) const;
 
+  /// How the texts are made to fit on paper where no letters may be smaller than this, in drawing
+  /// units.
+  const TextFit& FitOnPaper(double smallest) const { return Fit(smallest, true); }
+  /// The rooms of the texts as they are painted, in drawing units.
+  std::vector<QPolygonF> TextRooms(const DrawingLook& look) const;
+
  private:
   struct Text {
     QString Letters;
@@ -64,7 +76,7 @@ class DrawingPainter {
     /// From the outline to drawing units.
     QTransform Place;
     QRectF Box;
-    double Height = 0;
+    TextRoom Room;
   };
   struct Layer {
     std::string Name;
@@ -80,11 +92,24 @@ class DrawingPainter {
   bool IsPainted(const Layer& layer, bool onPaper) const;
   static void PaintStrokes(QPainter& painter, const Layer& layer, const DrawingLook& look);
   static void PaintArrows(QPainter& painter, const Layer& layer, const DrawingLook& look);
-  void PaintTexts(QPainter& painter, const Layer& layer, const DrawingLook& look) const;
+  /// The factors belong to the layer's texts; null where each is as high as it is told.
+  void PaintTexts(QPainter& painter, const Layer& layer, const DrawingLook& look,
+                  const double* factors) const;
+  const TextFit& Fit(double smallest, bool onPaper) const;
+  /// By the texts of the layers that are painted; null where the look leaves texts alone.
+  const double* FactorsFor(const DrawingLook& look) const;
 
   const Drawing& drawing_;
   std::vector<Layer> layers_;
   QFont font_;
+  /// Of the last fit: a view is painted again and again at one scale.
+  struct KnownFit {
+    double Smallest = 0;
+    bool OnPaper = false;
+    std::vector<bool> Layers;
+    TextFit Fit;
+  };
+  mutable std::optional<KnownFit> fit_;
 };
 
 }  // namespace trelonit

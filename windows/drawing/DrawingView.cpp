@@ -18,6 +18,9 @@ namespace {
 constexpr double zoomStep = 1.25;
 /// Pixels between the drawing and the window's edge.
 constexpr double edge = 16;
+/// Pixels of a capital that can just be read, at the usual resolution.
+constexpr double smallestLettersOnScreen = 7;
+constexpr double usualDpi = 96;
 /// The part of the window that an arrow key moves by.
 constexpr double arrowStep = 0.1;
 // Against the scale at which all is seen.
@@ -151,6 +154,7 @@ void DrawingView::PaintPart(QPainter& painter, const QRect& part) const {
   look.UnitsPerMillimetre = logicalDpiX() / millimetresPerInch;
   look.ThinnestLine = 1;
   look.OnPixels = true;
+  look.SmallestLetters = smallestLettersOnScreen * logicalDpiX() / usualDpi;
   look.Visible = QRectF(part).adjusted(-edge, -edge, edge, edge);
   look.Palette = palette();
   try {

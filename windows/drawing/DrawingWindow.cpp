@@ -28,6 +28,11 @@ namespace trelonit {
 namespace {
 
 constexpr int layersWidth = 200;
+
+QString NameOfPaper(const DrawingSheet& sheet) {
+  return QPageSize(sheet.Paper.transposed(), QPageSize::Millimeter).name();
+}
+
 }  // namespace
 
 DrawingWindow::DrawingWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
@@ -193,7 +198,9 @@ void DrawingWindow::AddStatusBar() {
   pointer_ = panel("Pointer");
   scale_ = panel("Scale");
   sheet_ = panel("Sheet");
+  crowded_ = panel("Crowded");
   statusBar()->addWidget(pointer_, 1);
+  statusBar()->addPermanentWidget(crowded_);
   statusBar()->addPermanentWidget(scale_);
   statusBar()->addPermanentWidget(sheet_);
 }
@@ -314,6 +321,7 @@ void DrawingWindow::ShowScale() {
 
 void DrawingWindow::ShowSheet() {
   sheet_->clear();
+  crowded_->clear();
   const DrawingView* view = Present();
   if (view == nullptr) {
     return;
@@ -321,9 +329,13 @@ void DrawingWindow::ShowSheet() {
   try {
     const DrawingSheet sheet =
         paper_ ? SheetOn(view->Painter(), PaperSize(*paper_)) : SheetFor(view->Painter());
-    sheet_->setText(QStringLiteral("Лист %1, %2")
-                        .arg(QPageSize(sheet.Paper.transposed(), QPageSize::Millimeter).name(),
-                             ToQt(sheet.ScaleNote())));
+    sheet_->setText(QStringLiteral("Лист %1, %2").arg(NameOfPaper(sheet), ToQt(sheet.ScaleNote())));
+    if (const std::size_t leftOut = TextsLeftOut(view->Painter(), sheet)) {
+      const std::optional<DrawingSheet> larger = SheetWithAllTexts(view->Painter());
+      crowded_->setText(QStringLiteral("Не поместилось надписей: %1").arg(leftOut) +
+                        (larger ? QStringLiteral(", все помещаются на %1").arg(NameOfPaper(*larger))
+                                : QString()));
+    }
   } catch (const RuntimeError&) {
     // The view tells it.
   }

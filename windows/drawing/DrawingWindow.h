@@ -76,6 +76,8 @@ class DrawingWindow : public QMainWindow {
   QLabel* pointer_ = nullptr;
   QLabel* scale_ = nullptr;
   QLabel* sheet_ = nullptr;
+  /// What the sheet has no room for.
+  QLabel* crowded_ = nullptr;
   std::map<std::string, QAction*> actions_;
   std::optional<PaperFormat> paper_;
   /// Of the last file written: the next one is offered there.

@@ -245,5 +245,24 @@ TEST(DrawingPages, RaiseOverflowForADrawingBeyondAllNumbers) {
   }
 }
 
+TEST(DrawingPages, TakeALargerSheetWhereTextsAreCrowded) {
+  const std::shared_ptr<Drawing> drawing = CrowdedDrawing(1);
+  const DrawingPainter painter(*drawing);
+  const DrawingSheet small = SheetOn(painter, PaperSize(PaperFormat::A4));
+  EXPECT_GT(TextsLeftOut(painter, small), 20U);
+  const std::optional<DrawingSheet> large = SheetWithAllTexts(painter);
+  ASSERT_TRUE(large);
+  EXPECT_GT(large->Paper.width(), PaperSize(PaperFormat::A3).width());
+  EXPECT_EQ(TextsLeftOut(painter, *large), 0U);
+  EXPECT_EQ(Chosen(*drawing).Paper, large->Paper);
+}
+
+TEST(DrawingPages, LeaveNoTextOfAnOrdinaryTrussOut) {
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    const std::shared_ptr<Drawing> drawing = ExportedDrawing(scheme, 6);
+    EXPECT_EQ(TextsLeftOut(DrawingPainter(*drawing), Chosen(*drawing)), 0U) << scheme;
+  }
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -338,5 +338,99 @@ TEST(DrawingPainter, KeepsAllOfAnExportedDrawingWithinItsBounds) {
   }
 }
 
+/// The drawing at so many painter's units a metre, letters no smaller than 7 of them.
+DrawingLook CloseLook(double unitsPerMetre) {
+  DrawingLook look;
+  look.FromDrawing.scale(unitsPerMetre / 1000, -unitsPerMetre / 1000);
+  look.SmallestLetters = 7;
+  return look;
+}
+
+/// How many of these boxes cover each other.
+int CountCovered(const std::vector<QPolygonF>& rooms) {
+  int covered = 0;
+  for (std::size_t one = 0; one < rooms.size(); ++one) {
+    for (std::size_t other = one + 1; other < rooms.size(); ++other) {
+      const QRectF common = rooms[one].boundingRect().intersected(rooms[other].boundingRect());
+      if (!common.isEmpty()) {
+        const QRectF meet = rooms[one].intersected(rooms[other]).boundingRect();
+        covered += meet.width() > 1 && meet.height() > 1 ? 1 : 0;
+      }
+    }
+  }
+  return covered;
+}
+
+TEST(DrawingPainter, KeepsTheTextsOfNarrowPanelsApartAtEveryZoom) {
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    const std::shared_ptr<Drawing> drawing = CrowdedDrawing(scheme);
+    const DrawingPainter painter(*drawing);
+    const std::size_t all = painter.TextRooms({}).size();
+    EXPECT_GT(CountCovered(painter.TextRooms({})), 30) << "as it is told, scheme " << scheme;
+    std::size_t shown = 0;
+    for (const double unitsPerMetre : {10.0, 30.0, 60.0, 120.0, 400.0}) {
+      const std::vector<QPolygonF> rooms = painter.TextRooms(CloseLook(unitsPerMetre));
+      EXPECT_EQ(CountCovered(rooms), 0) << scheme << ", " << unitsPerMetre;
+      EXPECT_GE(rooms.size(), shown) << scheme << ", " << unitsPerMetre;
+      shown = rooms.size();
+    }
+    // Near enough, all of them are there.
+    EXPECT_EQ(shown, all) << scheme;
+  }
+}
+
+TEST(DrawingPainter, KeepsALengthOffTheDimensionUnderIt) {
+  // At the ordinary size nothing is left out, and nothing touches.
+  const std::shared_ptr<Drawing> drawing = ExportedDrawing(1, 8);
+  const DrawingPainter painter(*drawing);
+  const std::vector<QPolygonF> told = painter.TextRooms({});
+  const std::vector<QPolygonF> rooms = painter.TextRooms(CloseLook(100));
+  EXPECT_EQ(rooms.size(), told.size());
+  const auto nearest = [](const std::vector<QPolygonF>& shown) {
+    double gap = std::numeric_limits<double>::infinity();
+    for (std::size_t one = 0; one < shown.size(); ++one) {
+      const QRectF box = shown[one].boundingRect();
+      for (std::size_t other = 0; other < shown.size(); ++other) {
+        const QRectF below = shown[other].boundingRect();
+        const bool level = box.width() > box.height() && below.width() > below.height();
+        const bool under = std::abs(box.center().x() - below.center().x()) < 1 &&
+                           below.center().y() < box.center().y();
+        if (level && under) {
+          gap = std::min(gap, box.top() - below.bottom());
+        }
+      }
+    }
+    return gap;
+  };
+  // The height of the texts is 150 mm.
+  EXPECT_LT(nearest(told), 0.15 * 150);
+  EXPECT_GT(nearest(rooms), 0.15 * 130);
+}
+
+TEST(DrawingPainter, PaintsTheTextsWhereItTellsTheirRoom) {
+  const Drawing drawing = With({TextAt("HHHHHHHH", {0, 0}, 10, TextAlignment::BottomCentre),
+                                TextAt("HHHHHHHH", {40, 0}, 10, TextAlignment::BottomCentre)});
+  DrawingLook look;
+  look.FromDrawing = QTransform(5, 0, 0, -5, 300, 400);
+  look.SmallestLetters = 20;
+  look.OnPaper = true;
+  const DrawingPainter painter(drawing);
+  const std::vector<QPolygonF> rooms = painter.TextRooms(look);
+  ASSERT_EQ(rooms.size(), 2U);
+  QImage image(800, 800, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  {
+    QPainter device(&image);
+    painter.Paint(device, look);
+  }
+  const QRectF ink = InkBox(image);
+  const QRectF told =
+      look.FromDrawing.mapRect(rooms[0].boundingRect().united(rooms[1].boundingRect()));
+  EXPECT_NEAR(ink.left(), told.left(), 2);
+  EXPECT_NEAR(ink.right(), told.right(), 2);
+  EXPECT_NEAR(ink.top(), told.top(), 2);
+  EXPECT_NEAR(ink.bottom(), told.bottom(), 2);
+}
+
 }  // namespace
 }  // namespace trelonit::test

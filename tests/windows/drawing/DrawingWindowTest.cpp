@@ -2,6 +2,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+#include "tests/drawinghost/HostDesk.h"
 #include "tests/windows/drawing/DrawingScreen.h"
 #include "windows/drawing/DrawingWindow.h"
 
@@ -216,6 +217,23 @@ TEST(DrawingWindowOnASmallScreen, IsNeverLargerThanTheScreen) {
   ASSERT_LT(room.width(), 1100);
   EXPECT_LE(window.frameGeometry().width(), room.width());
   EXPECT_LE(window.frameGeometry().height(), room.height());
+}
+
+TEST(DrawingWindowWithCrowdedTexts, OffersALargerSheet) {
+  DrawingWindow window;
+  const std::shared_ptr<Drawing> drawing = CrowdedDrawing(1);
+  window.Add(drawing);
+  window.show();
+  const auto says = [&](const std::string& label) { return Find<QLabel>(window, label).text(); };
+  // The sheet that is chosen by itself has room for all.
+  EXPECT_EQ(says("Crowded"), QString());
+  const QString chosen = says("Sheet").section(QLatin1Char(','), 0, 0).section(QLatin1Char(' '), 1);
+  Find<QAction>(window, "PaperA4").trigger();
+  EXPECT_TRUE(says("Crowded").startsWith(QStringLiteral("Не поместилось надписей: ")));
+  EXPECT_TRUE(says("Crowded").endsWith(QStringLiteral("все помещаются на ") + chosen))
+      << FromQt(says("Crowded"));
+  Find<QAction>(window, ("Paper" + FromQt(chosen))).trigger();
+  EXPECT_EQ(says("Crowded"), QString());
 }
 
 }  // namespace
