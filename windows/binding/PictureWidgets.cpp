@@ -2,8 +2,7 @@
 
 #include <QEvent>
 #include <QPaintEvent>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
+#include <QPainter>
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Pictures.h"
@@ -56,6 +55,11 @@ void PictureButton::SetFile(const QString& file) {
   update();
 }
 
+void PictureButton::SetPale(bool pale) {
+  pale_ = pale;
+  update();
+}
+
 bool PictureButton::event(QEvent* event) {
   if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave) {
     update();
@@ -64,7 +68,7 @@ bool PictureButton::event(QEvent* event) {
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
-  QStylePainter painter(this);
+  QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
   QColor border = palette().color(QPalette::Mid);
@@ -76,15 +80,17 @@ void PictureButton::paintEvent(QPaintEvent*) {
     border = palette().color(QPalette::Text);
   }
   painter.setPen(QPen(border, width));
-  painter.setBrush(palette().color(QPalette::Base));
+  painter.setBrush(palette().color(pale_ ? QPalette::Window : QPalette::Base));
   painter.drawRoundedRect(frame, frameRadius, frameRadius);
   DrawPicture(painter, frame.adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
-              file_, palette(), isEnabled());
+              file_, palette(), isEnabled() && !pale_);
   if (hasFocus()) {
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.rect = rect().adjusted(3, 3, -3, -3);
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    // The style's own mark is too faint beside a picture.
+    QPen dashes(palette().color(QPalette::Text), 2, Qt::CustomDashLine, Qt::FlatCap);
+    dashes.setDashPattern({2, 2});
+    painter.setPen(dashes);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(frame.adjusted(3, 3, -3, -3), frameRadius, frameRadius);
   }
 }
 

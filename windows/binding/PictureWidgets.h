@@ -30,6 +30,8 @@ class PictureButton : public QAbstractButton {
  public:
   explicit PictureButton(QSize preferred, QWidget* parent = nullptr);
   void SetFile(const QString& file);
+  /// Looks as if it were not there to be pressed, though it can be.
+  void SetPale(bool pale);
   QSize sizeHint() const override { return preferred_; }
 
  protected:
@@ -39,6 +41,7 @@ class PictureButton : public QAbstractButton {
  private:
   QSize preferred_;
   QString file_;
+  bool pale_ = false;
 };
 
 void Bind(Image& state, PictureView* view);

@@ -9,6 +9,7 @@
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
+#include "windows/binding/OneTabStop.h"
 
 namespace trelonit {
 
@@ -79,6 +80,7 @@ void AssocWindow::AddOwner(QBoxLayout* column) {
   };
   auto* pad = option(form_.Option1, "Option1", form_.lblOption1);
   auto* system = option(form_.Option2, "Option2", form_.lblOption2);
+  new OneTabStop(this, {pad, system}, OneTabStop::Arrows::Choose);
   (form_.Option2.Value() ? system : pad)->setFocus();
 }
 

@@ -9,6 +9,7 @@
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
+#include "windows/binding/OneTabStop.h"
 #include "windows/binding/PictureWidgets.h"
 #include "windows/binding/Pictures.h"
 #include "windows/main/LoadPreviewView.h"
@@ -94,6 +95,7 @@ void LoadTab::AddEntry(QBoxLayout* column) {
 }
 
 void LoadTab::AddLoadTools(QBoxLayout* row) {
+  std::vector<QAbstractButton*> buttons;
   const auto tool = [&](Image& state, const char* name, const QString& hint,
                         void (frmMain::*click)()) {
     auto* button = new PictureButton(loadButtonSize);
@@ -103,16 +105,19 @@ void LoadTab::AddLoadTools(QBoxLayout* row) {
     button->setToolTip(hint);
     Bind(state, button, [this, click] { (form_.*click)(); });
     row->addWidget(button);
+    buttons.push_back(button);
   };
   tool(form_.imgPForce, "imgPForce", QStringLiteral("Сосредоточенное узловое усилие"),
        &frmMain::imgPForce_Click);
   tool(form_.imgDistForce, "imgDistForce", QStringLiteral("Распределенное усилие на панели пояса"),
        &frmMain::imgDistForce_Click);
+  new OneTabStop(this, buttons, OneTabStop::Arrows::Lead);
 }
 
 void LoadTab::AddChords(QBoxLayout* row) {
   auto* column = new QVBoxLayout;
   row->addLayout(column);
+  std::vector<QAbstractButton*> chords;
   const auto toggle = [&](OptionButton& state, const char* name, const QString& caption,
                           const QString& hint) {
     auto* button = new QToolButton;
@@ -131,11 +136,13 @@ void LoadTab::AddChords(QBoxLayout* row) {
     });
     Bind(state, button);
     column->addWidget(button);
+    chords.push_back(button);
   };
   toggle(form_.tglUpPoyas, "tglUpPoyas", QStringLiteral("Верхний пояс"),
          QStringLiteral("Переключиться к верхнему поясу"));
   toggle(form_.tglDwnPoyas, "tglDwnPoyas", QStringLiteral("Нижний пояс"),
          QStringLiteral("Переключиться к нижнему поясу"));
+  new OneTabStop(this, chords, OneTabStop::Arrows::Choose);
 }
 
 void LoadTab::AddWeight(QBoxLayout* column) {

@@ -8,8 +8,10 @@
 #include <QRadioButton>
 #include <array>
 
+#include "analysis/Scheme.h"
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
+#include "windows/binding/OneTabStop.h"
 #include "windows/binding/PictureWidgets.h"
 #include "windows/binding/Pictures.h"
 
@@ -36,7 +38,7 @@ QLabel* AddFigure(QGridLayout* rows, int row, int column) {
   return label;
 }
 
-/// Schemes 6 to 10 have no hint of their own.
+/// Schemes 6 to 10 have no hint of their own; what is not calculated yet says so.
 QString SchemeHint(Long scheme) {
   static constexpr std::array<const char*, 5> hints{
       "Первый тип фермы опирание по нижнему поясу", "Второй тип фермы опирание по верхнему поясу",
@@ -44,7 +46,14 @@ QString SchemeHint(Long scheme) {
       "Четвертый тип фермы опирание по верхнему поясу",
       "Пятый тип фермы опирание по нижнему поясу"};
   const auto place = static_cast<std::size_t>(scheme - 1);
-  return place < hints.size() ? QString::fromUtf8(hints[place]) : QString();
+  QStringList lines;
+  if (place < hints.size()) {
+    lines += QString::fromUtf8(hints[place]);
+  }
+  if (FindScheme(scheme)->Reserved) {
+    lines += QStringLiteral("Схема %1 пока не рассчитывается").arg(scheme);
+  }
+  return lines.join(QLatin1Char('\n'));
 }
 
 }  // namespace
@@ -83,16 +92,21 @@ SchemeTab::SchemeTab(frmMain& form, QWidget* parent) : QWidget(parent), form_(fo
 
 void SchemeTab::AddSchemes(QBoxLayout* column) {
   auto* grid = AddGroup<QGridLayout>(column, QStringLiteral("Схема фермы"));
+  std::vector<QAbstractButton*> buttons;
   for (Long scheme = 1; scheme <= schemeCount; ++scheme) {
     auto* button = new PictureButton(schemeSize);
     button->SetFile(SchemePictureFile(scheme));
     button->setAccessibleName(QStringLiteral("Схема фермы %1").arg(scheme));
     button->setObjectName(QStringLiteral("imgTreloType%1").arg(scheme));
     SetHint(button, SchemeHint(scheme));
+    button->SetPale(FindScheme(scheme)->Reserved);
+    buttons.push_back(button);
     Bind(form_.imgTreloType[scheme], button, [this, scheme] { form_.imgTreloType_Click(scheme); });
     const int place = static_cast<int>(scheme) - 1;
     grid->addWidget(button, place / schemesInRow, place % schemesInRow);
   }
+  // Another scheme may lose loads: an arrow alone does not take it.
+  new OneTabStop(this, buttons, OneTabStop::Arrows::Lead);
   auto* large = AddGroup<QVBoxLayout>(column, QStringLiteral("Выбранная схема"), 1);
   auto* view = new PictureView({640, 260});
   view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -137,6 +151,7 @@ void SchemeTab::AddBracing(QBoxLayout* column, const Bracing& bracing) {
   QLabel* held = AddFigure(rows, 0, 2);
   held->setText(heldHead);
   SetHint(held, QStringLiteral("Расстояние между закрепленными узлами по смыслу подписи"));
+  std::vector<QAbstractButton*> options;
   for (Long number = 1; number <= static_cast<Long>(captions.size()); ++number) {
     const QString caption = QString::fromUtf8(captions[static_cast<std::size_t>(number - 1)]);
     auto* option = new QRadioButton(caption);
@@ -146,7 +161,9 @@ void SchemeTab::AddBracing(QBoxLayout* column, const Bracing& bracing) {
     Bind(bracing.Options, number, option);
     rows->addWidget(option, static_cast<int>(number), 0);
     AddLengths(rows, bracing, number, option);
+    options.push_back(option);
   }
+  new OneTabStop(this, options, OneTabStop::Arrows::Choose);
 }
 
 void SchemeTab::AddLengths(QGridLayout* rows, const Bracing& bracing, Long number,
@@ -193,12 +210,13 @@ void SchemeTab::AddDeflection(QBoxLayout* column) {
     Bind(state, button);
     return button;
   };
-  rows->addWidget(option(form_.optBP, "optBP", QStringLiteral("Верхний пояс"),
-                         QStringLiteral("Прогиб считать по Верхнему поясу")),
-                  1, 0);
-  rows->addWidget(option(form_.optNP, "optNP", QStringLiteral("Нижний пояс"),
-                         QStringLiteral("Прогиб считать по Нижнему поясу")),
-                  1, 1, 1, 2);
+  auto* upper = option(form_.optBP, "optBP", QStringLiteral("Верхний пояс"),
+                       QStringLiteral("Прогиб считать по Верхнему поясу"));
+  auto* lower = option(form_.optNP, "optNP", QStringLiteral("Нижний пояс"),
+                       QStringLiteral("Прогиб считать по Нижнему поясу"));
+  rows->addWidget(upper, 1, 0);
+  rows->addWidget(lower, 1, 1, 1, 2);
+  new OneTabStop(this, {upper, lower}, OneTabStop::Arrows::Choose);
 
   auto* result = new QLineEdit;
   result->setObjectName(QStringLiteral("txtProgib"));

@@ -1,6 +1,7 @@
 #include "windows/main/SectionTab.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QRadioButton>
@@ -8,6 +9,7 @@
 #include "catalogue/SectionLayouts.h"
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
+#include "windows/binding/OneTabStop.h"
 #include "windows/binding/PictureWidgets.h"
 #include "windows/main/NoticeViews.h"
 #include "windows/main/SmallSchemeView.h"
@@ -36,6 +38,8 @@ SectionTab::SectionTab(frmMain& form, QWidget* parent) : QWidget(parent), form_(
 
 void SectionTab::AddGroups(QBoxLayout* column) {
   auto* rows = AddGroup<QGridLayout>(column, QStringLiteral("Группы элементов"), 1);
+  groups_ = rows;
+  std::vector<QAbstractButton*> options;
   for (Long number = 1; number <= groupCount; ++number) {
     const QString name = ToQt(GroupName(static_cast<GroupOption>(number)));
     auto* option = new QRadioButton(name);
@@ -54,8 +58,11 @@ void SectionTab::AddGroups(QBoxLayout* column) {
     rows->addWidget(option, row, 0);
     rows->addWidget(picture, row, 1);
     rows->addWidget(size, row, 2);
-    rows->setRowStretch(row, 1);
+    rows->setRowStretch(row, option->isHidden() ? 0 : 1);
+    option->installEventFilter(this);
+    options.push_back(option);
   }
+  new OneTabStop(this, options, OneTabStop::Arrows::Choose);
   rows->setColumnStretch(2, 1);
   auto* scheme = AddGroup<QVBoxLayout>(column, QStringLiteral("Текущая группа на схеме"));
   auto* view = new SmallSchemeView(form_);
@@ -63,8 +70,23 @@ void SectionTab::AddGroups(QBoxLayout* column) {
   scheme->addWidget(view);
 }
 
+bool SectionTab::eventFilter(QObject* watched, QEvent* event) {
+  // A group that the scheme does not have leaves no hole among the others.
+  if (event->type() == QEvent::HideToParent || event->type() == QEvent::ShowToParent) {
+    int row = 0;
+    int column = 0;
+    int height = 0;
+    int width = 0;
+    groups_->getItemPosition(groups_->indexOf(static_cast<QWidget*>(watched)), &row, &column,
+                             &height, &width);
+    groups_->setRowStretch(row, event->type() == QEvent::ShowToParent ? 1 : 0);
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
 void SectionTab::AddLayouts(QBoxLayout* column) {
   auto* grid = AddGroup<QGridLayout>(column, QStringLiteral("Компоновка сечения"));
+  std::vector<QAbstractButton*> buttons;
   for (Long layout = 1; layout <= sectionLayoutCount; ++layout) {
     auto* button = new PictureButton(layoutSize);
     button->setObjectName(QStringLiteral("imgProfileSecSelect%1").arg(layout));
@@ -75,7 +97,10 @@ void SectionTab::AddLayouts(QBoxLayout* column) {
          [this, layout] { form_.imgProfileSecSelect_Click(layout); });
     const int place = static_cast<int>(layout) - 1;
     grid->addWidget(button, place / layoutsInRow, place % layoutsInRow);
+    buttons.push_back(button);
   }
+  // Another layout loses the size: an arrow alone does not take it.
+  new OneTabStop(this, buttons, OneTabStop::Arrows::Lead);
 }
 
 void SectionTab::AddLists(QBoxLayout* column) {

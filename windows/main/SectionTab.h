@@ -5,6 +5,7 @@
 #include "workstation/main/frmMain.h"
 
 class QBoxLayout;
+class QGridLayout;
 
 namespace trelonit {
 
@@ -13,12 +14,16 @@ class SectionTab : public QWidget {
  public:
   explicit SectionTab(frmMain& form, QWidget* parent = nullptr);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void AddGroups(QBoxLayout* column);
   void AddLayouts(QBoxLayout* column);
   void AddLists(QBoxLayout* column);
 
   frmMain& form_;
+  QGridLayout* groups_ = nullptr;
 };
 
 }  // namespace trelonit

@@ -2,14 +2,33 @@
 
 #include <QPainter>
 
+#include "analysis/Scheme.h"
 #include "windows/binding/Binding.h"
 #include "windows/binding/Pictures.h"
 
 namespace trelonit {
 
+namespace {
+
+/// A few panels of the scheme, as wide as high; a reserved one looks like the first.
+Truss SmallTruss(Long number) {
+  const Scheme* scheme = FindScheme(number);
+  constexpr Long panels = 6;
+  TreloData data;
+  data.TreloType = scheme == nullptr || scheme->Reserved ? 1 : number;
+  data.PanelNum = panels;
+  data.LengthF = panels;
+  data.LenOporn = 1;
+  data.Hight = 1;
+  return TrussOf(data);
+}
+
+}  // namespace
+
 SmallSchemeView::SmallSchemeView(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
   setMinimumSize(sizeHint() * 2 / 3);
-  const auto follow = [this](Line& line) { Follow(line, this, [this] { update(); }); };
+  const auto follow = [this](ControlState& state) { Follow(state, this, [this] { update(); }); };
+  follow(form_.imgPrevSchem);
   follow(form_.linUpPoyas);
   follow(form_.linDownPoyas);
   follow(form_.linOpornRaskos);
@@ -21,38 +40,42 @@ SmallSchemeView::SmallSchemeView(frmMain& form, QWidget* parent) : QWidget(paren
   }
 }
 
+const Line& SmallSchemeView::LineOf(ElementGroup group) const {
+  switch (group) {
+    case ElementGroup::UpPoyas:
+      return form_.linUpPoyas;
+    case ElementGroup::DwnPoyas:
+      return form_.linDownPoyas;
+    case ElementGroup::Stoyka:
+      return form_.linStoyka[1];
+    case ElementGroup::Raskos:
+      return form_.linRaskos[1];
+    case ElementGroup::OpornRaskos:
+      break;
+  }
+  return form_.linOpornRaskos;
+}
+
 void SmallSchemeView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  // Half a truss: the support diagonal, two diagonals and three verticals stand between the chords.
-  const double margin = 14;
-  const double left = margin;
-  const double right = width() - margin;
-  const double top = margin;
-  const double bottom = height() - margin;
-  const double panel = (right - left) / 3;
-  const auto draw = [&](const Line& line, QPointF a, QPointF b) {
-    const bool red = line.BorderColor() == colorRed;
-    painter.setPen(QPen(red ? WarningColor(palette()) : palette().color(QPalette::Text),
-                        red ? 4 : 2, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(a, b);
+  constexpr double margin = 14;
+  const QRectF place = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+  const Truss truss = SmallTruss(form_.Model.Inputs.TreloType);
+  const double span = truss.Joints[truss.Upper.back()].X;
+  const double height = truss.Joints[truss.Upper.front()].Y;
+  const auto at = [&](std::size_t joint) {
+    return QPointF(place.left() + truss.Joints[joint].X / span * place.width(),
+                   place.bottom() - truss.Joints[joint].Y / height * place.height());
   };
-  const auto at = [&](double column, double y) { return QPointF(left + column * panel, y); };
   // The red lines come last, on top of the ends of the others.
   for (const bool red : {false, true}) {
-    const auto pass = [&](const Line& line, QPointF a, QPointF b) {
-      if ((line.BorderColor() == colorRed) == red) {
-        draw(line, a, b);
+    painter.setPen(QPen(red ? WarningColor(palette()) : palette().color(QPalette::Text),
+                        red ? 4 : 2, Qt::SolidLine, Qt::RoundCap));
+    for (const TrussBar& bar : truss.Bars) {
+      if ((LineOf(bar.Group).BorderColor() == colorRed) == red) {
+        painter.drawLine(at(bar.A), at(bar.B));
       }
-    };
-    pass(form_.linUpPoyas, at(0, top), at(3, top));
-    pass(form_.linDownPoyas, at(1, bottom), at(3, bottom));
-    pass(form_.linOpornRaskos, at(0, top), at(1, bottom));
-    pass(form_.linRaskos[1], at(1, top), at(2, bottom));
-    pass(form_.linRaskos[2], at(2, top), at(3, bottom));
-    for (Long number = 1; number <= 3; ++number) {
-      pass(form_.linStoyka[number], at(static_cast<double>(number), top),
-           at(static_cast<double>(number), bottom));
     }
   }
 }

@@ -6,8 +6,8 @@
 
 namespace trelonit {
 
-/// The small scheme beside the sections: a truss whose lines have the colours that the form gives
-/// them, the current group red.
+/// The small scheme beside the sections: the chosen scheme, whose bars have the colours that the
+/// form gives the lines of their groups, the current group red.
 class SmallSchemeView : public QWidget {
  public:
   explicit SmallSchemeView(frmMain& form, QWidget* parent = nullptr);
@@ -17,6 +17,8 @@ class SmallSchemeView : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  const Line& LineOf(ElementGroup group) const;
+
   frmMain& form_;
 };
 

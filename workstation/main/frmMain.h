@@ -185,6 +185,8 @@ class frmMain {
   Image imgProfView;
   BoundedArray<Image> imgProfileSec{1, groupCount};
   BoundedArray<Label> lblProfilName{1, groupCount};
+  /// The chosen scheme, as imgMain shows it.
+  Image imgPrevSchem;
   Line linUpPoyas;
   Line linDownPoyas;
   BoundedArray<Line> linRaskos{1, 2};

@@ -17,6 +17,7 @@ constexpr Long hoptPanel = 6;
 
 void frmMain::ShowScheme(Long scheme) {
   imgMain.Show(services_.Resources.Bitmap(static_cast<Integer>(schemeBitmapBase + scheme)));
+  imgPrevSchem.Show(imgMain.Shown());
 }
 
 void frmMain::imgTreloType_Click(Long scheme) {

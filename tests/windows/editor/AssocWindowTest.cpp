@@ -153,8 +153,13 @@ TEST_F(AssocWindowOnScreen, LeadsTabFromTopToBottom) {
   for (const QWidget* widget : WalkByTab()) {
     names.push_back(FromQt(widget->objectName()));
   }
-  EXPECT_EQ(names, (Texts{"Option1", "Option2", "ChSendto", "ChSC", "cmdApply", "cmdCancel"}));
+  // The two options are one stop; an arrow goes on to the other one.
+  EXPECT_EQ(names, (Texts{"Option1", "ChSendto", "ChSC", "cmdApply", "cmdCancel"}));
   ExpectEveryInputHasAName(*Window);
+  Button("Option1").setFocus();
+  Press(Qt::Key_Down);
+  EXPECT_TRUE(Button("Option2").hasFocus());
+  EXPECT_TRUE(Button("Option2").isChecked());
 }
 
 }  // namespace

@@ -90,6 +90,75 @@ TEST_P(Keyboard, EveryInputHasANameToBeReadAloud) {
 
 INSTANTIATE_TEST_SUITE_P(AllTabs, Keyboard, ::testing::Values(0, 1, 2));
 
+TEST(KeyboardOfGroups, EachGroupOfTilesOrOptionsIsOneStop) {
+  Screen screen;
+  screen.Main.chkProgib.SetChecked(true);
+  const auto stops = [&](const std::string& name, int from, int to) {
+    int count = 0;
+    for (int number = from; number <= to; ++number) {
+      count += (screen.Button(name + std::to_string(number)).focusPolicy() & Qt::TabFocus) ? 1 : 0;
+    }
+    return count;
+  };
+  EXPECT_EQ(stops("imgTreloType", 1, 10), 1);
+  EXPECT_EQ(stops("imgProfileSecSelect", 1, 11), 1);
+  EXPECT_EQ(stops("optElementSection", 1, 5), 1);
+  const auto isStop = [&](const std::string& name) {
+    return static_cast<bool>(screen.Button(name).focusPolicy() & Qt::TabFocus);
+  };
+  EXPECT_NE(isStop("optBP"), isStop("optNP"));
+  EXPECT_NE(isStop("imgPForce"), isStop("imgDistForce"));
+  EXPECT_NE(isStop("tglUpPoyas"), isStop("tglDwnPoyas"));
+  for (const char* chord : {"Верхний пояс", "Нижний пояс"}) {
+    int count = 0;
+    for (const char* caption :
+         {"Только крайние", "Крайние и посредине пролета", "Через один", "Все узлы"}) {
+      const auto& option = FindAccessible<QAbstractButton>(
+          screen.Window, std::string(chord) + " закреплен: " + caption);
+      count += (option.focusPolicy() & Qt::TabFocus) ? 1 : 0;
+    }
+    EXPECT_EQ(count, 1) << chord;
+  }
+}
+
+TEST(KeyboardOfGroups, ArrowsChooseABracingAndOnlyLeadToAScheme) {
+  Screen screen;
+  screen.Window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&screen.Window));
+  auto& bracing = FindAccessible<QAbstractButton>(
+      screen.Window, "Верхний пояс закреплен: Крайние и посредине пролета");
+  bracing.setFocus();
+  Press(Qt::Key_Down);
+  EXPECT_EQ(screen.Main.Model.Inputs.UpPoyasBrace, 3);
+  screen.Button("imgTreloType1").setFocus();
+  Press(Qt::Key_Right);
+  EXPECT_TRUE(screen.Button("imgTreloType2").hasFocus());
+  EXPECT_EQ(screen.Main.Model.Inputs.TreloType, 1);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(screen.Main.Model.Inputs.TreloType, 2);
+}
+
+TEST(KeyboardOfThePictures, ShowWhereTheFocusIs) {
+  Screen screen;
+  screen.Window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&screen.Window));
+  QAbstractButton& tile = screen.Button("imgTreloType2");
+  const auto inkOnTheRing = [&] {
+    const QImage image = tile.grab().toImage();
+    int ink = 0;
+    for (int x = 10; x < image.width() - 10; ++x) {
+      // The ring is two pixels wide, beside the frame.
+      const int light = qGray(image.pixel(x, 4));
+      ink += std::abs(light - qGray(image.pixel(x, 8))) > 100 ? 1 : 0;
+    }
+    return ink;
+  };
+  screen.Edit("txtHight").setFocus();
+  const int without = inkOnTheRing();
+  tile.setFocus();
+  EXPECT_GT(inkOnTheRing(), without + tile.width() / 4);
+}
+
 TEST(KeyboardOfThePictures, SpaceChoosesThePictureWithTheFocus) {
   Screen screen;
   QTest::keyClick(&screen.Button("imgTreloType4"), Qt::Key_Space);

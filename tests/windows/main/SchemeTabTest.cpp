@@ -265,5 +265,21 @@ TEST_F(SchemeInputs, TheDeflectionIsNotForWriting) {
   EXPECT_EQ(Main.txtProgib.Text(), "");
 }
 
+TEST_F(SchemeInputs, SchemesThatAreNotCalculatedLookSo) {
+  // Those that are stand on the ground of what can be pressed, with lines in the colour of text.
+  const auto ground = [&](int scheme) {
+    const QAbstractButton& tile = Button("imgTreloType" + std::to_string(scheme));
+    return const_cast<QAbstractButton&>(tile).grab().toImage().pixelColor(tile.width() / 2, 6);
+  };
+  for (int scheme = 1; scheme <= 10; ++scheme) {
+    EXPECT_EQ(ground(scheme),
+              Window.palette().color(scheme <= 4 ? QPalette::Base : QPalette::Window))
+        << scheme;
+    EXPECT_TRUE(Button("imgTreloType" + std::to_string(scheme)).isEnabled()) << scheme;
+  }
+  PressScheme(5);
+  EXPECT_EQ(Main.Model.Inputs.TreloType, 5);
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -311,5 +311,41 @@ TEST_F(SectionSource, StandsUnderTheSizeAndWraps) {
   EXPECT_GT(Text().height(), 1.5 * Text().fontMetrics().height());
 }
 
+TEST_F(SectionInputs, TheSmallSchemeIsTheChosenOne) {
+  auto& view = Find<QWidget>(Window, "imgPrevSchem");
+  std::vector<QImage> shown;
+  for (const Long scheme : {1, 2, 3, 4}) {
+    Main.imgTreloType_Click(scheme);
+    shown.push_back(view.grab().toImage());
+    for (std::size_t other = 0; other + 1 < shown.size(); ++other) {
+      EXPECT_NE(shown[other], shown.back()) << scheme << " and " << other + 1;
+    }
+  }
+  // Scheme 3 has no verticals: none stands under the end of the upper chord.
+  const auto inkAt = [&](const QImage& image, int x) {
+    return std::abs(qGray(image.pixel(x, image.height() / 2)) - qGray(image.pixel(2, 2))) > 100;
+  };
+  EXPECT_TRUE(inkAt(shown[0], 14));
+  EXPECT_FALSE(inkAt(shown[2], 14));
+}
+
+TEST_F(SectionInputs, GroupsThatASchemeDoesNotHaveLeaveNoHole) {
+  const auto way = [&](int from, int to) {
+    const auto middle = [&](int option) {
+      return Button("optElementSection" + std::to_string(option)).geometry().center().y();
+    };
+    return middle(to) - middle(from);
+  };
+  QTest::qWait(1);
+  EXPECT_NEAR(way(3, 4), way(1, 2), 2);
+  Main.imgTreloType_Click(3);
+  QTest::qWait(1);
+  EXPECT_FALSE(Button("optElementSection4").isVisible());
+  EXPECT_NEAR(way(3, 5), way(1, 2), 2);
+  Main.imgTreloType_Click(1);
+  QTest::qWait(1);
+  EXPECT_NEAR(way(3, 4), way(1, 2), 2);
+}
+
 }  // namespace
 }  // namespace trelonit::test
