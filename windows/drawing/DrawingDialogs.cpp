@@ -11,6 +11,7 @@
 #include "platform/files/Files.h"
 #include "windows/binding/Binding.h"
 #include "windows/binding/Units.h"
+#include "windows/help/HelpKey.h"
 
 namespace trelonit {
 
@@ -45,6 +46,7 @@ void Tell(QWidget* parent, const QString& text) {
   QMessageBox box(QMessageBox::Critical, QStringLiteral("Чертеж"), text, QMessageBox::Ok, parent);
   // A name of a file may look like markup.
   box.setTextFormat(Qt::PlainText);
+  SetHelpPlace(box, MessagePlace({box.windowTitle(), text}));
   box.exec();
 }
 

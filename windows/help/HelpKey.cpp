@@ -12,6 +12,7 @@ namespace trelonit {
 namespace {
 
 constexpr const char* placeProperty = "helpPlace";
+const QString messagePrefix = QStringLiteral("message:");
 
 /// The place of the widget itself or of what it shows in front.
 QString OwnPlace(const QWidget* widget) {
@@ -33,6 +34,19 @@ QString OwnPlace(const QWidget* widget) {
 
 QString FindingPlace(FindingCode code) {
   return QStringLiteral("finding-") + QLatin1String(KeyOf(code));
+}
+
+QString MessagePlace(const ToldMessage& message) {
+  return messagePrefix + message.Title + QChar::LineSeparator + message.Text;
+}
+
+std::optional<ToldMessage> MessageOf(const QString& place) {
+  if (!place.startsWith(messagePrefix)) {
+    return std::nullopt;
+  }
+  const QString told = place.mid(messagePrefix.size());
+  return ToldMessage{told.section(QChar::LineSeparator, 0, 0),
+                     told.section(QChar::LineSeparator, 1)};
 }
 
 void SetHelpPlace(QWidget& widget, const QString& place) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "opinion/Findings.h"
 
@@ -37,6 +38,16 @@ inline constexpr std::array All{Scheme, Sections,   Loads,   Results, Search,
 
 /// The place of a finding: "finding-check-differs", ...
 QString FindingPlace(FindingCode code);
+
+/// A message as it was shown.
+struct ToldMessage {
+  QString Title;
+  QString Text;
+};
+/// The place of a message; its page is the part of the guide that tells of it.
+QString MessagePlace(const ToldMessage& message);
+/// The message of such a place; nothing for another one.
+std::optional<ToldMessage> MessageOf(const QString& place);
 
 /// Marks a window or the page of a tab as this place.
 void SetHelpPlace(QWidget& widget, const QString& place);

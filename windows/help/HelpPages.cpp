@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <tuple>
 
+#include "windows/help/HelpKey.h"
+
 namespace trelonit {
 
 namespace {
@@ -78,6 +80,32 @@ QString ExcerptAt(const QString& text, const HelpSpan& place) {
   }
   return start > 0 ? QStringLiteral("... ") + excerpt : excerpt;
 }
+
+/// A message as the guide tells it: what changes from one time to the other stands in italics.
+class MessagePattern {
+ public:
+  explicit MessagePattern(QString markup) {
+    static const QRegularExpression changing(QStringLiteral("<i>[^<]*</i>"));
+    markup.replace(QLatin1String("<br>"), QLatin1String("\n"));
+    QStringList words;
+    for (QString fixed : markup.split(changing)) {
+      fixed.replace(QLatin1String("&lt;"), QLatin1String("<"));
+      fixed.replace(QLatin1String("&gt;"), QLatin1String(">"));
+      fixed.replace(QLatin1String("&amp;"), QLatin1String("&"));
+      tellsText_ = tellsText_ || !fixed.trimmed().isEmpty();
+      words += QRegularExpression::escape(fixed);
+    }
+    text_ = QRegularExpression(QRegularExpression::anchoredPattern(words.join(QLatin1String(".*"))),
+                               QRegularExpression::DotMatchesEverythingOption);
+  }
+  bool Fits(const QString& text) const { return text_.match(text).hasMatch(); }
+  /// Whether it has words of its own.
+  bool TellsText() const { return tellsText_; }
+
+ private:
+  QRegularExpression text_;
+  bool tellsText_ = false;
+};
 
 }  // namespace
 
@@ -149,7 +177,32 @@ QString HelpPages::FirstPage() {
 }
 
 QString HelpPages::PageOf(const QString& place) const {
+  if (const std::optional<ToldMessage> message = MessageOf(place)) {
+    return PageOfMessage(message->Title, message->Text);
+  }
   return places_.value(place, FirstPage());
+}
+
+QString HelpPages::PageOfMessage(const QString& title, const QString& text) {
+  const QString page = QStringLiteral("messages.html");
+  const QString guide = QString::fromUtf8(Content(QLatin1String(pagesFolder) + page));
+  static const QRegularExpression part(QStringLiteral(
+      "<h[23] id=\"([^\"]+)\">|<p class=\"msg\">(.*?)</p>(?:\\s*<p><b>[^<]*</b> <span "
+      "class=\"c\">([^<]*)</span>)?"));
+  QString anchor;
+  auto parts = part.globalMatch(guide);
+  while (parts.hasNext()) {
+    const QRegularExpressionMatch match = parts.next();
+    if (!match.captured(1).isEmpty()) {
+      anchor = match.captured(1);
+      continue;
+    }
+    const MessagePattern pattern(match.captured(2));
+    if (pattern.Fits(text) && (pattern.TellsText() || match.captured(3) == title)) {
+      return page + QLatin1Char('#') + anchor;
+    }
+  }
+  return page;
 }
 
 QUrl HelpPages::UrlOf(const QString& page) {

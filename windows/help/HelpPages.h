@@ -55,6 +55,9 @@ class HelpPages {
   const std::vector<HelpTerm>& Terms() const { return terms_; }
   /// The page of a place of the program (see HelpKey.h); the first page where the place has none.
   QString PageOf(const QString& place) const;
+  /// The part of the page of messages that tells of the one with this title and text; the whole
+  /// page where none does.
+  static QString PageOfMessage(const QString& title, const QString& text);
   /// The places that have a page.
   QStringList Places() const { return places_.keys(); }
   static QString FirstPage();

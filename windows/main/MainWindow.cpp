@@ -41,6 +41,12 @@ QKeySequence ShortcutOf(const std::string& item) {
   if (item == "mnuCalc") {
     return QKeySequence(Qt::Key_F9);
   }
+  if (item == "mnuSearch") {
+    return QKeySequence(Qt::CTRL | Qt::Key_F9);
+  }
+  if (item == "mnuOtchet") {
+    return QKeySequence(Qt::SHIFT | Qt::Key_F9);
+  }
   if (item == "UserHelp") {
     return QKeySequence::HelpContents;
   }

@@ -18,6 +18,7 @@
 #include "platform/system/ProgramNames.h"
 #include "windows/binding/Binding.h"
 #include "windows/editor/RichDocumentHtml.h"
+#include "windows/help/HelpKey.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/help/HtmlHelp.h"
 
@@ -100,6 +101,7 @@ MessageAnswer DesktopMessages::Show(const Message& message) {
         label->fontMetrics().boundingRect(QRect(0, 0, widest, widest), 0, box.text());
     label->setMinimumWidth(std::min(lines.width() + 2, widest));
   }
+  SetHelpPlace(box, MessagePlace({box.windowTitle(), box.text()}));
   // Closing a question without an answer is the safe one.
   box.setEscapeButton(SafeButton(message.Style));
   switch (box.exec()) {

@@ -1,10 +1,13 @@
+#include <QFile>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QWindow>
 #include <fstream>
 
 #include "platform/errors/RuntimeError.h"
+#include "platform/system/ProgramNames.h"
 #include "tests/windows/Modal.h"
 #include "tests/windows/drawing/DrawingSheets.h"
 #include "tests/windows/editor/OtchetScreen.h"
@@ -108,6 +111,53 @@ TEST(HelpPlaces, OfTheDrawings) {
   ShowActive(window);
   QTest::keyClick(&window, Qt::Key_F1);
   EXPECT_EQ(pressed.Take(), Texts{"drawing"});
+}
+
+TEST(HelpPlaces, OfAMessageIsTheMessage) {
+  Pressed pressed;
+  const HelpPages pages;
+  const auto pageOf = [&](const Message& message) {
+    const OnceModal<QMessageBox> once([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_F1); });
+    DesktopMessages().Show(message);
+    EXPECT_TRUE(once.Acted());
+    const Texts places = pressed.Take();
+    return places.size() == 1 ? FromQt(pages.PageOf(ToQt(places.front()))) : "not asked once";
+  };
+  EXPECT_EQ(pageOf({warningTitle, wrongGeometry, MessageStyle::Critical}),
+            "messages.html#geometry");
+  EXPECT_EQ(pageOf({warningTitle, doubtfulProportions, MessageStyle::Information}),
+            "messages.html#proportions");
+  EXPECT_EQ(pageOf({"", "Гибкость должна быть < 400", MessageStyle::Critical}),
+            "messages.html#flex-400");
+  EXPECT_EQ(pageOf({"", "Не найден типоразмер L1x1 перехожу в начало списка типоразмеров"}),
+            "messages.html#size");
+  EXPECT_EQ(pageOf(ErrorMessage("CalcTrelo1", 11, "Division by zero")), "messages.html#runtime");
+  EXPECT_EQ(pageOf({"Переписать файл ?", "Такой файл уже существует! Заменить?",
+                    MessageStyle::QuestionYesNo}),
+            "messages.html#overwrite");
+  EXPECT_EQ(pageOf({"Подбор по СНиП", "Схема не имеет решения", MessageStyle::Exclamation}),
+            "messages.html#opinion-selection");
+  // One that the guide does not know.
+  EXPECT_EQ(pageOf({"", "???"}), "messages.html");
+}
+
+TEST(HelpPlaces, OfEveryMessageOfTheGuideIsItsOwn) {
+  // A message as the guide tells it leads back to where it stands.
+  QFile file(QStringLiteral(":/help/pages/messages.html"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QString guide = QString::fromUtf8(file.readAll());
+  const QRegularExpression part(
+      QStringLiteral("<h3 id=\"([^\"]+)\">[^<]*</h3>\\s*<p class=\"msg\">([^<]+)</p>"));
+  int count = 0;
+  for (auto parts = part.globalMatch(guide); parts.hasNext(); ++count) {
+    const QRegularExpressionMatch match = parts.next();
+    QString text = match.captured(2);
+    text.replace(QLatin1String("&lt;"), QLatin1String("<"));
+    text.replace(QLatin1String("&gt;"), QLatin1String(">"));
+    EXPECT_EQ(FromQt(HelpPages::PageOfMessage({}, text)),
+              "messages.html#" + FromQt(match.captured(1)));
+  }
+  EXPECT_GT(count, 20);
 }
 
 TEST(HelpPlaces, OfABoxAreThoseOfTheWindowBelow) {

@@ -12,6 +12,8 @@ TEST_F(WindowMenus, HaveTheUsualKeys) {
   EXPECT_EQ(MenuEntry("Restore").shortcut(), QKeySequence(QKeySequence::Open));
   EXPECT_EQ(MenuEntry("Exit").shortcut(), QKeySequence("Alt+F4"));
   EXPECT_EQ(MenuEntry("mnuCalc").shortcut(), QKeySequence("F9"));
+  EXPECT_EQ(MenuEntry("mnuSearch").shortcut(), QKeySequence("Ctrl+F9"));
+  EXPECT_EQ(MenuEntry("mnuOtchet").shortcut(), QKeySequence("Shift+F9"));
   EXPECT_EQ(MenuEntry("UserHelp").shortcut(), QKeySequence(QKeySequence::HelpContents));
 }
 
