@@ -33,7 +33,7 @@ Paper MakePaper(int argc, char** argv) {
   const auto drawn = [argc, argv](auto write) {
     return [argc, argv, write](const Drawing& drawing) mutable {
       const Pages pages(argc, argv);
-      return write(drawing, std::nullopt);
+      return write(drawing, {});
     };
   };
   return {.Pdf =

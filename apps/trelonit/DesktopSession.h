@@ -62,7 +62,7 @@ class DesktopSession {
   DiskFiles files_;
   OfficeAutomation office_{clipboard_, files_, {.Watch = ShowConversionProgress}};
   std::unique_ptr<Machine> machine_ = MakeMachine(office_);
-  DrawingDesk drawings_{&machine_->Programs()};
+  DrawingDesk drawings_{&machine_->Programs(), &settings_};
   std::unique_ptr<FileAssociations> associations_ = MakeAssociations(Bundle());
   DocumentDialogs documentDialogs_;
   Program program_;

@@ -4,7 +4,8 @@
 
 namespace trelonit {
 
-DrawingDesk::DrawingDesk(AutomationService* next) : automation_(host_, next) {
+DrawingDesk::DrawingDesk(AutomationService* next, SettingsService* settings)
+    : automation_(host_, next), settings_(settings) {
   ConnectHost();
 }
 
@@ -55,7 +56,7 @@ void DrawingDesk::ShowDrawings(QWidget* parent) {
     window_->activateWindow();
     return;
   }
-  window_ = new DrawingWindow(parent);
+  window_ = new DrawingWindow(parent, settings_);
   FillWindow();
   window_->ShowModal();
   delete window_;

@@ -12,7 +12,8 @@ namespace trelonit {
 class DrawingDesk {
  public:
   /// Other programs than the drawing host are asked of the next service, which outlives this.
-  explicit DrawingDesk(AutomationService* next = nullptr);
+  /// The settings keep the title block of the sheets, if there are any.
+  explicit DrawingDesk(AutomationService* next = nullptr, SettingsService* settings = nullptr);
   ~DrawingDesk();
   DrawingDesk(const DrawingDesk&) = delete;
   DrawingDesk& operator=(const DrawingDesk&) = delete;
@@ -31,6 +32,7 @@ class DrawingDesk {
 
   BuiltInHost host_;
   BuiltInHostAutomation automation_;
+  SettingsService* settings_;
   /// There while it is shown; its parent may end it too.
   QPointer<DrawingWindow> window_;
 };

@@ -17,7 +17,7 @@ namespace trelonit {
 
 namespace {
 
-std::string DxfBytes(const Drawing& drawing, std::optional<PaperFormat>) {
+std::string DxfBytes(const Drawing& drawing, const SheetChoice&) {
   return WriteDxf(drawing);
 }
 
@@ -75,14 +75,14 @@ const std::vector<DrawingFileKind>& DrawingFileKinds() {
   return kinds;
 }
 
-bool SaveDrawing(const Drawing& drawing, const DrawingFileKind& kind,
-                 std::optional<PaperFormat> paper, QString& name, QWidget* parent) {
+bool SaveDrawing(const Drawing& drawing, const DrawingFileKind& kind, const SheetChoice& choice,
+                 QString& name, QWidget* parent) {
   const QString chosen = AskName(kind, name, parent);
   if (chosen.isEmpty()) {
     return false;
   }
   try {
-    DiskFiles().ReplaceFile(FromQt(chosen), kind.Write(drawing, paper));
+    DiskFiles().ReplaceFile(FromQt(chosen), kind.Write(drawing, choice));
   } catch (const RuntimeError& error) {
     Tell(parent, QStringLiteral("Файл «%1» не записан: %2.")
                      .arg(QFileInfo(chosen).fileName(), Reason(error)));
@@ -92,11 +92,11 @@ bool SaveDrawing(const Drawing& drawing, const DrawingFileKind& kind,
   return true;
 }
 
-void PrintDrawing(const Drawing& drawing, std::optional<PaperFormat> paper, QPrinter& printer,
+void PrintDrawing(const Drawing& drawing, const SheetChoice& choice, QPrinter& printer,
                   QWidget* parent) {
   try {
     const DrawingPainter painted(drawing);
-    const QSizeF offered = paper ? PaperSize(*paper) : SheetFor(painted).Paper;
+    const QSizeF offered = ChosenSheet(painted, choice).Paper;
     printer.setDocName(ToQt(drawing.Name));
     printer.setFullPage(true);
     printer.setPageSize(QPageSize(offered.transposed(), QPageSize::Millimeter));
@@ -113,8 +113,8 @@ void PrintDrawing(const Drawing& drawing, std::optional<PaperFormat> paper, QPri
     if (!painter.begin(&printer)) {
       throw RuntimeError(ErrorNumber::DeviceIoError);
     }
-    PaintSheet(painter, painted, SheetOn(painted, size), printer.resolution() / millimetresPerInch,
-               true);
+    PaintSheet(painter, painted, SheetOn(painted, size, choice.Title),
+               printer.resolution() / millimetresPerInch, true);
     if (!painter.end()) {
       throw RuntimeError(ErrorNumber::DeviceIoError);
     }

@@ -34,8 +34,14 @@ QRectF FrameOn(QSizeF paper) {
       .adjusted(filedMargin, otherMargin, -otherMargin, -otherMargin);
 }
 
-QRectF FieldOn(QSizeF paper) {
-  const QRectF field = FrameOn(paper).adjusted(padding, padding, -padding, -padding - noteRoom);
+bool HasRoomForTitle(QSizeF paper) {
+  const QRectF frame = FrameOn(paper);
+  return frame.width() >= titleBlockWidth && frame.height() >= 2 * titleBlockHeight;
+}
+
+QRectF FieldOn(QSizeF paper, bool titled) {
+  const double foot = titled ? titleBlockHeight : noteRoom;
+  const QRectF field = FrameOn(paper).adjusted(padding, padding, -padding, -padding - foot);
   // Paper that is all margin: the drawing becomes a dot, but a finite one.
   return {field.topLeft(), field.size().expandedTo(QSizeF(1, 1))};
 }
@@ -77,6 +83,9 @@ Drawing SheetDress(const DrawingSheet& sheet) {
     dress.ModelSpace.emplace_back(
         DrawingLine{.Start = corners[corner], .End = corners[(corner + 1) % corners.size()]});
   }
+  if (sheet.Title) {
+    return dress;
+  }
   dress.ModelSpace.emplace_back(
       DrawingText{.Text = sheet.ScaleNote(),
                   .Height = noteHeight,
@@ -90,10 +99,6 @@ void Begin(QPainter& painter, QPaintDevice& device) {
   if (!painter.begin(&device)) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
   }
-}
-
-DrawingSheet SheetFor(const DrawingPainter& painter, std::optional<PaperFormat> paper) {
-  return paper ? SheetOn(painter, PaperSize(*paper)) : SheetFor(painter);
 }
 
 }  // namespace
@@ -120,12 +125,14 @@ std::string DrawingSheet::ScaleNote() const {
   return "М 1:" + FromQt(number.replace(QLatin1Char('.'), QLatin1Char(',')));
 }
 
-DrawingSheet SheetOn(const DrawingPainter& drawing, QSizeF paper) {
+DrawingSheet SheetOn(const DrawingPainter& drawing, QSizeF paper,
+                     const std::optional<TitleBlock>& title) {
+  const bool titled = title && HasRoomForTitle(paper);
   const QRectF box = drawing.Bounds(true);
-  const QRectF field = FieldOn(paper);
+  const QRectF field = FieldOn(paper, titled);
   const double needed =
       std::max(Finite(box.width() / field.width()), Finite(box.height() / field.height()));
-  return {paper, StandardScale(needed)};
+  return {paper, StandardScale(needed), titled ? title : std::nullopt};
 }
 
 std::size_t TextsLeftOut(const DrawingPainter& drawing, const DrawingSheet& sheet) {
@@ -133,10 +140,11 @@ std::size_t TextsLeftOut(const DrawingPainter& drawing, const DrawingSheet& shee
   return leftOut - std::min(leftOut, drawing.FitOnPaper(0).LeftOut);
 }
 
-std::optional<DrawingSheet> SheetWithAllTexts(const DrawingPainter& drawing) {
+std::optional<DrawingSheet> SheetWithAllTexts(const DrawingPainter& drawing,
+                                              const std::optional<TitleBlock>& title) {
   for (const PaperFormat format :
        {PaperFormat::A4, PaperFormat::A3, PaperFormat::A2, PaperFormat::A1, PaperFormat::A0}) {
-    const DrawingSheet sheet = SheetOn(drawing, PaperSize(format));
+    const DrawingSheet sheet = SheetOn(drawing, PaperSize(format), title);
     const double smallest = drawing.FitOnPaper(smallestLetters * sheet.Scale).Smallest;
     // What is as high as it may be but for rounding noise can be read.
     const bool readable = smallest == 0 || smallest / sheet.Scale >= smallestLetters * (1 - 1e-9);
@@ -147,9 +155,21 @@ std::optional<DrawingSheet> SheetWithAllTexts(const DrawingPainter& drawing) {
   return std::nullopt;
 }
 
-DrawingSheet SheetFor(const DrawingPainter& drawing) {
-  const std::optional<DrawingSheet> sheet = SheetWithAllTexts(drawing);
-  return sheet ? *sheet : SheetOn(drawing, PaperSize(PaperFormat::A3));
+DrawingSheet SheetFor(const DrawingPainter& drawing, const std::optional<TitleBlock>& title) {
+  const std::optional<DrawingSheet> sheet = SheetWithAllTexts(drawing, title);
+  return sheet ? *sheet : SheetOn(drawing, PaperSize(PaperFormat::A3), title);
+}
+
+DrawingSheet ChosenSheet(const DrawingPainter& drawing, const SheetChoice& choice) {
+  return choice.Paper ? SheetOn(drawing, PaperSize(*choice.Paper), choice.Title)
+                      : SheetFor(drawing, choice.Title);
+}
+
+QPageLayout LayoutOf(const DrawingSheet& sheet) {
+  QPageLayout layout(QPageSize(sheet.Paper, QPageSize::Millimeter, {}, QPageSize::ExactMatch),
+                     QPageLayout::Portrait, QMarginsF());
+  layout.setMode(QPageLayout::FullPageMode);
+  return layout;
 }
 
 void PaintSheet(QPainter& painter, const DrawingPainter& drawing, const DrawingSheet& sheet,
@@ -163,9 +183,16 @@ void PaintSheet(QPainter& painter, const DrawingPainter& drawing, const DrawingS
   look.FromDrawing.translate(0, sheet.Paper.height() * unitsPerMillimetre);
   look.FromDrawing.scale(unitsPerMillimetre, -unitsPerMillimetre);
   DrawingPainter(dress).Paint(painter, look);
+  if (sheet.Title) {
+    const QRectF frame = FrameOn(sheet.Paper);
+    const Drawing title = PictureOfTitleBlock(
+        *sheet.Title, sheet.ScaleNote(), {frame.right(), sheet.Paper.height() - frame.bottom()});
+    DrawingPainter(title).Paint(painter, look);
+  }
 
   const QRectF box = drawing.Bounds(true);
-  const QPointF middle = FieldOn(sheet.Paper).center() * unitsPerMillimetre;
+  const QPointF middle =
+      FieldOn(sheet.Paper, sheet.Title.has_value()).center() * unitsPerMillimetre;
   const double scale = unitsPerMillimetre / sheet.Scale;
   look.SmallestLetters = smallestLetters * unitsPerMillimetre;
   look.FromDrawing = QTransform();
@@ -175,19 +202,16 @@ void PaintSheet(QPainter& painter, const DrawingPainter& drawing, const DrawingS
   drawing.Paint(painter, look);
 }
 
-std::string WriteDrawingPdf(const Drawing& drawing, std::optional<PaperFormat> paper) {
+std::string WriteDrawingPdf(const Drawing& drawing, const SheetChoice& choice) {
   constexpr int resolution = 1200;
   const DrawingPainter painted(drawing);
-  const DrawingSheet sheet = SheetFor(painted, paper);
+  const DrawingSheet sheet = ChosenSheet(painted, choice);
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
   {
     QPdfWriter writer(&bytes);
     writer.setResolution(resolution);
-    QPageLayout layout(QPageSize(sheet.Paper, QPageSize::Millimeter, {}, QPageSize::ExactMatch),
-                       QPageLayout::Portrait, QMarginsF());
-    layout.setMode(QPageLayout::FullPageMode);
-    writer.setPageLayout(layout);
+    writer.setPageLayout(LayoutOf(sheet));
     writer.setTitle(ToQt(drawing.Name));
     writer.setCreator(QStringLiteral("Trelonit"));
     QPainter painter;
@@ -197,10 +221,10 @@ std::string WriteDrawingPdf(const Drawing& drawing, std::optional<PaperFormat> p
   return bytes.data().toStdString();
 }
 
-std::string WriteDrawingSvg(const Drawing& drawing, std::optional<PaperFormat> paper) {
+std::string WriteDrawingSvg(const Drawing& drawing, const SheetChoice& choice) {
   constexpr int unitsPerMillimetre = 100;
   const DrawingPainter painted(drawing);
-  const DrawingSheet sheet = SheetFor(painted, paper);
+  const DrawingSheet sheet = ChosenSheet(painted, choice);
   const QSize size = (sheet.Paper * unitsPerMillimetre).toSize();
   QBuffer bytes;
   {
@@ -218,11 +242,11 @@ std::string WriteDrawingSvg(const Drawing& drawing, std::optional<PaperFormat> p
   return bytes.data().toStdString();
 }
 
-std::string WriteDrawingPng(const Drawing& drawing, std::optional<PaperFormat> paper) {
+std::string WriteDrawingPng(const Drawing& drawing, const SheetChoice& choice) {
   constexpr double pointsPerMillimetre = 200 / millimetresPerInch;
   constexpr int pointsPerMetre = static_cast<int>(pointsPerMillimetre * 1000);
   const DrawingPainter painted(drawing);
-  const DrawingSheet sheet = SheetFor(painted, paper);
+  const DrawingSheet sheet = ChosenSheet(painted, choice);
   QImage image((sheet.Paper * pointsPerMillimetre).toSize(), QImage::Format_Grayscale8);
   image.fill(Qt::white);
   image.setDotsPerMeterX(pointsPerMetre);

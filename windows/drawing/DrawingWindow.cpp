@@ -15,12 +15,14 @@
 #include <QToolBar>
 #include <array>
 
+#include "platform/console/ConsoleServices.h"
 #include "platform/errors/RuntimeError.h"
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/binding/Units.h"
 #include "windows/drawing/DrawingLayers.h"
+#include "windows/drawing/TitleBlockWindow.h"
 #include "windows/help/HelpKey.h"
 
 namespace trelonit {
@@ -35,7 +37,10 @@ QString NameOfPaper(const DrawingSheet& sheet) {
 
 }  // namespace
 
-DrawingWindow::DrawingWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
+DrawingWindow::DrawingWindow(QWidget* parent, SettingsService* settings)
+    : QMainWindow(parent, Qt::Window), settings_(settings) {
+  MemorySettings nothing;
+  title_ = LoadTitleBlock(settings_ != nullptr ? *settings_ : nothing);
   setContextMenuPolicy(Qt::NoContextMenu);
   SetHelpPlace(*this, help_place::Drawing);
   AddTabs();
@@ -79,6 +84,9 @@ void DrawingWindow::AddMenus() {
   actions_["SaveDxf"]->setShortcut(QKeySequence::Save);
   file->addSeparator();
   AddPaperMenu(*file->addMenu(QStringLiteral("Формат &листа")));
+  QAction* title = NewAction("TitleBlock", "&Основная надпись...", nullptr);
+  QObject::connect(title, &QAction::triggered, this, [this] { AskForTitleBlock(); });
+  file->addAction(title);
   QAction* print = NewAction("Print", "&Печать...", "tool-print");
   print->setShortcut(QKeySequence::Print);
   QObject::connect(print, &QAction::triggered, this, [this] { Print(); });
@@ -281,7 +289,7 @@ void DrawingWindow::AskToClose(int tab) {
 void DrawingWindow::Save(const DrawingFileKind& kind) {
   if (const DrawingView* view = Present()) {
     QString name = folder_ + ToQt(view->Shown()->Name);
-    if (SaveDrawing(*view->Shown(), kind, paper_, name, this)) {
+    if (SaveDrawing(*view->Shown(), kind, Choice(), name, this)) {
       folder_ = name.left(name.lastIndexOf(QLatin1Char('/')) + 1);
       statusBar()->showMessage(QStringLiteral("Записан файл «%1»").arg(name), 5000);
     }
@@ -294,8 +302,24 @@ void DrawingWindow::Print() {
       // Looking for printers takes a while: it is done when one is needed.
       printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
     }
-    PrintDrawing(*view->Shown(), paper_, *printer_, this);
+    PrintDrawing(*view->Shown(), Choice(), *printer_, this);
   }
+}
+
+void DrawingWindow::AskForTitleBlock() {
+  TitleBlockWindow window(title_, this);
+  if (window.exec() != QDialog::Accepted) {
+    return;
+  }
+  title_ = window.Chosen();
+  if (settings_ != nullptr) {
+    StoreTitleBlock(*settings_, title_);
+  }
+  ShowSheet();
+}
+
+SheetChoice DrawingWindow::Choice() const {
+  return {paper_, title_.Shown ? std::optional(title_.Block) : std::nullopt};
 }
 
 void DrawingWindow::ShowPresent() {
@@ -327,11 +351,10 @@ void DrawingWindow::ShowSheet() {
     return;
   }
   try {
-    const DrawingSheet sheet =
-        paper_ ? SheetOn(view->Painter(), PaperSize(*paper_)) : SheetFor(view->Painter());
+    const DrawingSheet sheet = ChosenSheet(view->Painter(), Choice());
     sheet_->setText(QStringLiteral("Лист %1, %2").arg(NameOfPaper(sheet), ToQt(sheet.ScaleNote())));
     if (const std::size_t leftOut = TextsLeftOut(view->Painter(), sheet)) {
-      const std::optional<DrawingSheet> larger = SheetWithAllTexts(view->Painter());
+      const std::optional<DrawingSheet> larger = SheetWithAllTexts(view->Painter(), Choice().Title);
       crowded_->setText(QStringLiteral("Не поместилось надписей: %1").arg(leftOut) +
                         (larger ? QStringLiteral(", все помещаются на %1").arg(NameOfPaper(*larger))
                                 : QString()));

@@ -26,7 +26,8 @@ class DrawingLayers;
 /// to a drawing itself (closing it, bringing it to the front) is told to the owner.
 class DrawingWindow : public QMainWindow {
  public:
-  explicit DrawingWindow(QWidget* parent = nullptr);
+  /// The settings keep the title block of the sheets; without them it lasts as long as the window.
+  explicit DrawingWindow(QWidget* parent = nullptr, SettingsService* settings = nullptr);
   ~DrawingWindow() override;
   DrawingWindow(const DrawingWindow&) = delete;
   DrawingWindow& operator=(const DrawingWindow&) = delete;
@@ -66,6 +67,8 @@ class DrawingWindow : public QMainWindow {
   void AskToClose(int tab);
   void Save(const DrawingFileKind& kind);
   void Print();
+  void AskForTitleBlock();
+  SheetChoice Choice() const;
   void ShowPresent();
   void ShowScale();
   void ShowSheet();
@@ -79,7 +82,9 @@ class DrawingWindow : public QMainWindow {
   /// What the sheet has no room for.
   QLabel* crowded_ = nullptr;
   std::map<std::string, QAction*> actions_;
+  SettingsService* settings_;
   std::optional<PaperFormat> paper_;
+  TitleBlockChoice title_;
   /// Of the last file written: the next one is offered there.
   QString folder_;
   std::unique_ptr<QPrinter> printer_;

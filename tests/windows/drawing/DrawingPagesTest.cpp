@@ -110,7 +110,7 @@ TEST(DrawingPages, TakeTheSmallestSheetOnWhichTextsCanBeRead) {
 }
 
 QImage Png(const Drawing& drawing, std::optional<PaperFormat> paper = {}) {
-  const std::string bytes = WriteDrawingPng(drawing, paper);
+  const std::string bytes = WriteDrawingPng(drawing, {paper});
   return QImage::fromData(QByteArray::fromStdString(bytes), "PNG");
 }
 
@@ -160,7 +160,7 @@ TEST(DrawingPages, ShowTheDrawingToItsScaleInTheMiddleOfTheSheet) {
 }
 
 TEST(DrawingPages, WriteADocumentOfOnePageWithItsFont) {
-  const std::string pdf = WriteDrawingPdf(*SmallDrawing(), PaperFormat::A3);
+  const std::string pdf = WriteDrawingPdf(*SmallDrawing(), {PaperFormat::A3});
   EXPECT_TRUE(pdf.starts_with("%PDF-"));
   EXPECT_NE(pdf.find("%%EOF"), std::string::npos);
   EXPECT_NE(pdf.find("/FontFile"), std::string::npos);
@@ -173,7 +173,7 @@ TEST(DrawingPages, WriteADocumentOfOnePageWithItsFont) {
 
 TEST(DrawingPages, WriteTheSamePageAsVectors) {
   const std::shared_ptr<Drawing> drawing = ExportedDrawing(1, 4);
-  const QByteArray svg = QByteArray::fromStdString(WriteDrawingSvg(*drawing, PaperFormat::A4));
+  const QByteArray svg = QByteArray::fromStdString(WriteDrawingSvg(*drawing, {PaperFormat::A4}));
   EXPECT_TRUE(svg.contains("width=\"297mm\" height=\"210mm\""));
   EXPECT_TRUE(svg.contains("<title>Drawing1.dwg</title>"));
   // Outlines only, so that no font can be missed.
@@ -241,7 +241,7 @@ TEST(DrawingPages, RaiseOverflowForADrawingBeyondAllNumbers) {
   Drawing wide = drawing;
   wide.ModelSpace.push_back(LineOn("Main", {-1.7e308, 0}, {1.7e308, 0}));
   for (auto* write : {WriteDrawingPdf, WriteDrawingSvg, WriteDrawingPng}) {
-    EXPECT_EQ(RaisedBy([&] { write(wide, std::nullopt); }), 6);
+    EXPECT_EQ(RaisedBy([&] { write(wide, {}); }), 6);
   }
 }
 
@@ -262,6 +262,39 @@ TEST(DrawingPages, LeaveNoTextOfAnOrdinaryTrussOut) {
     const std::shared_ptr<Drawing> drawing = ExportedDrawing(scheme, 6);
     EXPECT_EQ(TextsLeftOut(DrawingPainter(*drawing), Chosen(*drawing)), 0U) << scheme;
   }
+}
+
+TEST(DrawingPages, HaveATitleBlockInTheirCornerWhereOneIsWanted) {
+  const std::shared_ptr<Drawing> drawing = ExportedDrawing(1, 6);
+  const TitleBlock block{.Author = "Иванов"};
+  const QImage plain = Png(*drawing, PaperFormat::A2);
+  const QImage page = QImage::fromData(
+      QByteArray::fromStdString(WriteDrawingPng(*drawing, {PaperFormat::A2, block})), "PNG");
+  ASSERT_EQ(page.size(), plain.size());
+  // 185 by 55 in the corner of the frame, whose right and lower margins are 5.
+  const QRectF corner(594 - 5 - 185, 420 - 5 - 55, 185, 55);
+  const auto ink = [](const QImage& image) {
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        dark += qGray(image.pixel(x, y)) < 128 ? 1 : 0;
+      }
+    }
+    return dark;
+  };
+  EXPECT_GT(ink(PartOf(page, corner)), 3 * ink(PartOf(plain, corner)));
+  // Over it the sheet is free: the drawing keeps off.
+  const DrawingPainter painter(*drawing);
+  const DrawingSheet sheet = SheetOn(painter, PaperSize(PaperFormat::A2), block);
+  ASSERT_TRUE(sheet.Title);
+  EXPECT_LE(painter.Bounds(true).height() / sheet.Scale, 420 - 2 * 5 - 2 * 5 - 55);
+}
+
+TEST(DrawingPages, HaveNoTitleBlockWhereThePaperHasNoRoom) {
+  const std::shared_ptr<Drawing> drawing = ExportedDrawing(1, 6);
+  const DrawingPainter painter(*drawing);
+  EXPECT_FALSE(SheetOn(painter, QSizeF(148, 105), TitleBlock()).Title);
+  EXPECT_TRUE(SheetOn(painter, PaperSize(PaperFormat::A4), TitleBlock()).Title);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QToolBar>
 
 #include "tests/drawinghost/HostDesk.h"
+#include "tests/windows/Modal.h"
 #include "tests/windows/drawing/DrawingScreen.h"
 #include "windows/drawing/DrawingWindow.h"
 
@@ -44,10 +45,10 @@ TEST_F(DrawingWindowOnScreen, HasTheMenusWithTheirKeys) {
                                                      : "|" + FromQt(entry->shortcut().toString())));
     }
   }
-  EXPECT_EQ(entries,
-            (Texts{"Файл", "Сохранить как DXF...|Ctrl+S", "Экспорт в SVG...", "Экспорт в PDF...",
-                   "Экспорт в PNG...", "", "Формат листа", "Печать...|Ctrl+P", "", "Закрыть|Ctrl+W",
-                   "Вид", "Показать всё\tHome", "Увеличить\t+", "Уменьшить\t-"}));
+  EXPECT_EQ(entries, (Texts{"Файл", "Сохранить как DXF...|Ctrl+S", "Экспорт в SVG...",
+                            "Экспорт в PDF...", "Экспорт в PNG...", "", "Формат листа",
+                            "Основная надпись...", "Печать...|Ctrl+P", "", "Закрыть|Ctrl+W", "Вид",
+                            "Показать всё\tHome", "Увеличить\t+", "Уменьшить\t-"}));
 }
 
 TEST_F(DrawingWindowOnScreen, HasAPictureAndAHintOnEveryToolButton) {
@@ -234,6 +235,42 @@ TEST(DrawingWindowWithCrowdedTexts, OffersALargerSheet) {
       << FromQt(says("Crowded"));
   Find<QAction>(window, ("Paper" + FromQt(chosen))).trigger();
   EXPECT_EQ(says("Crowded"), QString());
+}
+
+TEST(DrawingWindowWithATitleBlock, AsksForItAndRemembers) {
+  MemorySettings settings;
+  {
+    DrawingWindow window(nullptr, &settings);
+    window.Add(SmallDrawing());
+    ShowActive(window);
+    const QString sheet = Find<QLabel>(window, "Sheet").text();
+    const OnceModal<QDialog> once([](QDialog& dialog) {
+      EXPECT_EQ(FromQt(dialog.windowTitle()), "Основная надпись");
+      ExpectEveryInputHasAName(dialog);
+      EXPECT_FALSE(Find<QAbstractButton>(dialog, "Shown").isChecked());
+      EXPECT_EQ(FromQt(Find<QLineEdit>(dialog, "Stage").text()), "Р");
+      Type(Find<QLineEdit>(dialog, "Author"), "Иванов");
+      // Who fills it wants it.
+      EXPECT_TRUE(Find<QAbstractButton>(dialog, "Shown").isChecked());
+      Click(Find<QAbstractButton>(dialog, "Today"));
+      EXPECT_EQ(Find<QLineEdit>(dialog, "Date").text().size(), 8);
+      Click(StandardButton(dialog, QDialogButtonBox::Ok));
+    });
+    Find<QAction>(window, "TitleBlock").trigger();
+    EXPECT_TRUE(once.Acted());
+  }
+  EXPECT_TRUE(LoadTitleBlock(settings).Shown);
+  EXPECT_EQ(LoadTitleBlock(settings).Block.Author, "Иванов");
+  DrawingWindow window(nullptr, &settings);
+  window.Add(SmallDrawing());
+  const OnceModal<QDialog> once([](QDialog& dialog) {
+    EXPECT_EQ(FromQt(Find<QLineEdit>(dialog, "Author").text()), "Иванов");
+    Type(Find<QLineEdit>(dialog, "Author"), "Петров");
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  Find<QAction>(window, "TitleBlock").trigger();
+  EXPECT_TRUE(once.Acted());
+  EXPECT_EQ(LoadTitleBlock(settings).Block.Author, "Иванов");
 }
 
 }  // namespace
