@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <algorithm>
+#include <cmath>
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/PictureIcon.h"
@@ -100,6 +101,7 @@ OtchetWindow::~OtchetWindow() {
   box_.KeyTyped = nullptr;
   box_.SelChange = nullptr;
   box_.FileDropped = nullptr;
+  box_.ZoomAsked = nullptr;
   box_.ContextMenu = nullptr;
   box_.TextCommitted = nullptr;
 }
@@ -160,9 +162,41 @@ void OtchetWindow::AddMenus() {
     }
   }
 }
+    if (shown->actions().contains(actions_["mnuViewToolbar"])) {
+      AddZoom(*shown);
+    }
 
 void OtchetWindow::AddToolBar() {
   auto* bar = new QToolBar(QStringLiteral("Панель инструментов"));
+void OtchetWindow::AddZoom(QMenu& menu) {
+  menu.addSeparator();
+  const auto add = [&](const char* name, const QString& text, const QString& hint,
+                       const QList<QKeySequence>& keys, int steps) {
+    QAction* action = menu.addAction(text);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcuts(keys);
+    action->setToolTip(hint);
+    QObject::connect(action, &QAction::triggered, this,
+                     [this, steps] { ZoomBy(steps != 0 ? steps : -zoomSteps_); });
+  };
+  add("ZoomIn", QStringLiteral("Увеличить"), QStringLiteral("Крупнее на экране (Ctrl++)"),
+      {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)}, 1);
+  add("ZoomOut", QStringLiteral("Уменьшить"), QStringLiteral("Мельче на экране (Ctrl+-)"),
+      {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, -1);
+  add("ZoomUsual", QStringLiteral("Обычный размер"), QStringLiteral("Как на бумаге (Ctrl+0)"),
+      {QKeySequence(Qt::CTRL | Qt::Key_0)}, 0);
+}
+
+void OtchetWindow::ZoomBy(int steps) {
+  constexpr int smallest = -6;
+  constexpr int largest = 14;
+  constexpr double step = 1.1;
+  zoomSteps_ = std::clamp(zoomSteps_ + steps, smallest, largest);
+  box_.SetZoom(std::pow(step, zoomSteps_));
+  zoom_->setText(QStringLiteral("%1 %").arg(std::lround(100 * box_.Zoom())));
+  zoom_->setVisible(zoomSteps_ != 0);
+}
+
   bar->setObjectName(QStringLiteral("TB"));
   bar->setMovable(false);
   bar->setIconSize({toolSize, toolSize});
@@ -217,12 +251,18 @@ void OtchetWindow::AddStatusBar() {
   }
   Follow(form_.SB, statusBar(), [this] { statusBar()->setVisible(form_.SB.Visible()); });
 }
+  zoom_ = new QLabel;
+  zoom_->setObjectName(QStringLiteral("Zoom"));
+  zoom_->setAccessibleName(QStringLiteral("Размер на экране"));
+  zoom_->hide();
+  statusBar()->addPermanentWidget(zoom_);
 
 void OtchetWindow::ConnectBox() {
   box_.KeyDown = [this](Integer& key, Integer shift) { form_.RTF_KeyDown(key, shift); };
   box_.KeyTyped = [this](const std::string& text) { form_.RTF_Typed(text); };
   box_.SelChange = [this] { form_.RTF_SelChange(); };
   box_.FileDropped = [this](const std::string& name) { form_.RTF_FileDropped(name); };
+  box_.ZoomAsked = [this](int steps) { ZoomBy(steps); };
   box_.ContextMenu = [this](const QPoint& place) { editMenu_->popup(place); };
   box_.TextCommitted = [this](const std::string& text) { form_.RTF_TextCommitted(text); };
 }

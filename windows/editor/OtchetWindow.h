@@ -11,6 +11,7 @@
 #include "windows/editor/FindWindow.h"
 #include "windows/editor/QtRichTextBox.h"
 
+class QLabel;
 class QMenu;
 
 namespace trelonit {
@@ -38,6 +39,9 @@ class OtchetWindow : public QMainWindow {
   void AddToolBar();
   void AddDocument();
   void AddStatusBar();
+  /// Larger and smaller letters on the screen, which the document knows nothing of.
+  void AddZoom(QMenu& menu);
+  void ZoomBy(int steps);
   void ConnectBox();
   QAction* MakeAction(const frmOtchetMain::MenuItem& item);
   void RestorePlace();
@@ -48,6 +52,8 @@ class OtchetWindow : public QMainWindow {
   QTimer paste_;
   std::map<std::string, QAction*> actions_;
   QMenu* editMenu_ = nullptr;
+  int zoomSteps_ = 0;
+  QLabel* zoom_ = nullptr;
   QPointer<FindWindow> find_;
   /// Ends ShowModal.
   std::function<void()> closed_;

@@ -66,6 +66,11 @@ void QtRichTextBox::ConnectView() {
       SetSelText(text);
     }
   };
+  view_->ZoomAsked = [this](int steps) {
+    if (ZoomAsked) {
+      ZoomAsked(steps);
+    }
+  };
   view_->TakesFiles = [this] { return static_cast<bool>(FileDropped); };
   view_->FileDropped = [this](const std::string& path) {
     // Later: a question to the user must not keep the program waiting that the file comes from.
@@ -212,11 +217,29 @@ void QtRichTextBox::ShowDocument() {
   // is laid out as far as it is seen, and the rest when there is time.
   auto document = std::make_unique<QTextDocument>();
   document->setUndoRedoEnabled(false);
-  document->setDefaultFont(FontFor(text_.SelFormat()));
+  document->setDefaultFont(writer_.FormatOf(text_.SelFormat()).font());
   FillDocument(*document, text_.Document(), writer_);
   // With the parent of the one before it, it is the widget's own, which deletes it with the next.
   document->setParent(view_->document()->parent());
   view_->setDocument(document.release());
+}
+
+void QtRichTextBox::SetZoom(double zoom) {
+  if (zoom == writer_.Zoom()) {
+    return;
+  }
+  writer_.SetZoom(zoom);
+  if (!view_) {
+    return;
+  }
+  const Long line = FirstVisibleLine();
+  {
+    const Own own(*this);
+    CloseGroup();
+    ShowDocument();
+    ShowSelection(false);
+  }
+  SetFirstVisibleLine(line);
 }
 
 void QtRichTextBox::SetSelText(const std::string& text) {
@@ -264,7 +287,8 @@ void QtRichTextBox::MirrorReplacement(const RichPlace& first, const RichPlace& l
   // Qt has its own rules for the paragraphs that a removal joins.
   for (const std::size_t paragraph : {first.Paragraph, end.Paragraph}) {
     const QTextBlock block = shown.findBlockByNumber(static_cast<int>(paragraph));
-    const QTextBlockFormat format = BlockFormatOf(text_.Document().Paragraphs[paragraph]);
+    const QTextBlockFormat format =
+        BlockFormatOf(text_.Document().Paragraphs[paragraph], writer_.Zoom());
     if (block.blockFormat() != format) {
       QTextCursor(block).setBlockFormat(format);
     }
@@ -296,7 +320,7 @@ void QtRichTextBox::SetSelFormat(const CharFormat& format) {
   if (view_) {
     const Own own(*this);
     if (text_.TextLength() == 0) {
-      view_->document()->setDefaultFont(FontFor(format));
+      view_->document()->setDefaultFont(writer_.FormatOf(format).font());
     }
     if (changed_) {
       OpenGroup();

@@ -61,6 +61,12 @@ class QtRichTextBox : public RichTextBox {
   void LockUpdates() override;
   void UnlockUpdates() override;
 
+  /// Shows the text this many times as large; the document stays as it is.
+  void SetZoom(double zoom);
+  double Zoom() const { return writer_.Zoom(); }
+  /// The wheel asks for so many steps of zoom.
+  std::function<void(int steps)> ZoomAsked;
+
   const RichDocument& Document() const override { return text_.Document(); }
   void SetDocument(RichDocument document);
 

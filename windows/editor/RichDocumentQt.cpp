@@ -190,7 +190,7 @@ CharFormat FromQt(const QTextCharFormat& format) {
   return result;
 }
 
-QTextBlockFormat BlockFormatOf(const RichParagraph& paragraph) {
+QTextBlockFormat BlockFormatOf(const RichParagraph& paragraph, double zoom) {
   QTextBlockFormat format;
   switch (paragraph.Alignment) {
     case ParagraphAlignment::Centre:
@@ -208,7 +208,7 @@ QTextBlockFormat BlockFormatOf(const RichParagraph& paragraph) {
   if (!paragraph.TabStops.empty()) {
     QList<QTextOption::Tab> tabs;
     for (const std::int32_t stop : paragraph.TabStops) {
-      tabs.append(QTextOption::Tab(stop / twipsPerPixel, QTextOption::LeftTab));
+      tabs.append(QTextOption::Tab(zoom * stop / twipsPerPixel, QTextOption::LeftTab));
     }
     format.setTabPositions(tabs);
   }
@@ -221,8 +221,17 @@ bool RichDocumentWriter::Less::operator()(const CharFormat& left, const CharForm
 
 const QTextCharFormat& RichDocumentWriter::FormatOf(const CharFormat& format) {
   const auto known = formats_.find(format);
-  return known != formats_.end() ? known->second
-                                 : formats_.emplace(format, ToQt(format)).first->second;
+  if (known != formats_.end()) {
+    return known->second;
+  }
+  CharFormat shown = format;
+  shown.FontSize *= zoom_;
+  return formats_.emplace(format, ToQt(shown)).first->second;
+}
+
+void RichDocumentWriter::SetZoom(double zoom) {
+  zoom_ = zoom;
+  formats_.clear();
 }
 
 void RichDocumentWriter::InsertRuns(QTextCursor& cursor, const RichParagraph& paragraph,
@@ -246,7 +255,7 @@ void RichDocumentWriter::Insert(QTextCursor& cursor, const RichDocument& documen
     const RichParagraph& paragraph = document.Paragraphs[index];
     if (index > first.Paragraph) {
       // An empty paragraph is as high as the letters in front of it.
-      cursor.insertBlock(BlockFormatOf(paragraph), cursor.charFormat());
+      cursor.insertBlock(BlockFormatOf(paragraph, zoom_), cursor.charFormat());
     }
     InsertRuns(cursor, paragraph, index == first.Paragraph ? first.Offset : 0,
                index == last.Paragraph ? last.Offset : std::u16string::npos);
@@ -256,11 +265,11 @@ void RichDocumentWriter::Insert(QTextCursor& cursor, const RichDocument& documen
 void FillDocument(QTextDocument& target, const RichDocument& document, RichDocumentWriter& writer) {
   target.clear();
   QTextOption option = target.defaultTextOption();
-  option.setTabStopDistance(tabDistance);
+  option.setTabStopDistance(tabDistance * writer.Zoom());
   target.setDefaultTextOption(option);
   QTextCursor cursor(&target);
   cursor.beginEditBlock();
-  cursor.setBlockFormat(BlockFormatOf(document.Paragraphs.front()));
+  cursor.setBlockFormat(BlockFormatOf(document.Paragraphs.front(), writer.Zoom()));
   writer.Insert(cursor, document, {}, {document.Paragraphs.size() - 1, std::u16string::npos});
   cursor.endEditBlock();
 }

@@ -29,7 +29,7 @@ Color ColorOf(const QColor& color);
 QTextCharFormat ToQt(const CharFormat& format);
 /// What the format leaves open is as in a CharFormat of its own.
 CharFormat FromQt(const QTextCharFormat& format);
-QTextBlockFormat BlockFormatOf(const RichParagraph& paragraph);
+QTextBlockFormat BlockFormatOf(const RichParagraph& paragraph, double zoom = 1);
 
 /// A place between two characters.
 struct RichPlace {
@@ -45,6 +45,9 @@ class RichDocumentWriter {
   void Insert(QTextCursor& cursor, const RichDocument& document, const RichPlace& first,
               const RichPlace& last);
   const QTextCharFormat& FormatOf(const CharFormat& format);
+  /// All letters and tabs this many times as large as told, from now on.
+  void SetZoom(double zoom);
+  double Zoom() const { return zoom_; }
 
  private:
   struct Less {
@@ -53,6 +56,7 @@ class RichDocumentWriter {
   void InsertRuns(QTextCursor& cursor, const RichParagraph& paragraph, std::size_t from,
                   std::size_t to);
 
+  double zoom_ = 1;
   std::map<CharFormat, QTextCharFormat, Less> formats_;
 };
 

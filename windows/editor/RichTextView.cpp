@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QUrl>
+#include <QWheelEvent>
 #include <algorithm>
 #include <string_view>
 #include <type_traits>
@@ -174,6 +175,22 @@ void RichTextView::inputMethodEvent(QInputMethodEvent* event) {
   }
   QInputMethodEvent unfinished(event->preeditString(), event->attributes());
   QTextEdit::inputMethodEvent(&unfinished);
+  event->accept();
+}
+
+void RichTextView::wheelEvent(QWheelEvent* event) {
+  constexpr int unitsOfStep = 120;
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+    turned_ = 0;
+    QTextEdit::wheelEvent(event);
+    return;
+  }
+  // A fine wheel turns a step in several parts.
+  turned_ += event->angleDelta().y();
+  if (const int steps = turned_ / unitsOfStep) {
+    turned_ -= steps * unitsOfStep;
+    Tell(ZoomAsked, steps);
+  }
   event->accept();
 }
 

@@ -27,6 +27,8 @@ class RichTextView : public QTextEdit {
   /// Whether a dropped file is welcome.
   std::function<bool()> TakesFiles;
   std::function<void(const std::string& path)> FileDropped;
+  /// The wheel was turned so many steps with Ctrl held.
+  std::function<void(int steps)> ZoomAsked;
   /// The place is one of the screen.
   std::function<void(const QPoint& place)> ContextMenu;
 
@@ -34,6 +36,7 @@ class RichTextView : public QTextEdit {
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -46,6 +49,8 @@ class RichTextView : public QTextEdit {
   bool TakesShortcut(const QKeyEvent& event) const;
   void LeaveByTab(Integer shift);
   bool Welcome(const QMimeData& carried) const;
+
+  int turned_ = 0;
 };
 
 }  // namespace trelonit

@@ -41,7 +41,7 @@ TEST_F(OtchetWindowMenus, HaveTheirEntriesInOrder) {
        {"&Undo", "&Redo", "-", "Cut", "Copy", "Paste", "Delete", "-", "Select All", "Select Above",
         "Select Below", "Datestamp", "Find and Replace"}},
       {"F&ormat", {"Wordwrap", "Font", "Backcolor", "Document Statistics"}},
-      {"&View", {"Toolbar", "Statusbar"}},
+      {"&View", {"Toolbar", "Statusbar", "-", "Увеличить", "Уменьшить", "Обычный размер"}},
       {"&Help", {"About"}}};
   std::vector<std::pair<std::string, Texts>> shown;
   for (const QAction* action : Window->menuBar()->actions()) {

@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QUrl>
+#include <QWheelEvent>
 
 #include "tests/windows/editor/OtchetScreen.h"
 
@@ -306,6 +307,64 @@ TEST_F(OtchetWindowOnScreen, AllowsPastingWhileTheClipboardHoldsText) {
   EXPECT_TRUE(soon(true));
   Outside.Clipboard.SetText("");
   EXPECT_TRUE(soon(false));
+}
+
+// Zoom -----------------------------------------------------------------------------------------
+
+TEST_F(OtchetWindowOnScreen, ShowsItsTextLargerAndSmaller) {
+  Start();
+  Enter("ab\r\ncd");
+  Box->Select(1, 3);
+  const double usual = FirstLook().fontPointSize();
+  Trigger("ZoomIn");
+  Trigger("ZoomIn");
+  EXPECT_NEAR(FirstLook().fontPointSize(), 1.21 * usual, 1e-6);
+  EXPECT_EQ(FromQt(Find<QLabel>(*Window, "Zoom").text()), "121 %");
+  EXPECT_TRUE(Find<QLabel>(*Window, "Zoom").isVisible());
+  EXPECT_EQ(Selection(), (TextSpan{1, 3}));
+  EXPECT_EQ(ShownSelection(), "b\n");
+  // What is put in now is as large, and the document knows nothing of it.
+  Key(Qt::Key_X);
+  EXPECT_EQ(FromQt(Edit().toPlainText()), "axcd");
+  EXPECT_NEAR(FirstLook().fontPointSize(), 1.21 * usual, 1e-6);
+  EXPECT_EQ(Box->SelFormat(), CharFormat());
+  EXPECT_EQ(Box->TextRTF().find("fs22"), std::string::npos);
+  Trigger("ZoomUsual");
+  EXPECT_NEAR(FirstLook().fontPointSize(), usual, 1e-6);
+  EXPECT_FALSE(Find<QLabel>(*Window, "Zoom").isVisible());
+  Trigger("ZoomOut");
+  EXPECT_NEAR(FirstLook().fontPointSize(), usual / 1.1, 1e-6);
+  for (int turn = 0; turn < 40; ++turn) {
+    Trigger("ZoomOut");
+  }
+  EXPECT_GT(FirstLook().fontPointSize(), usual / 2);
+}
+
+TEST_F(OtchetWindowOnScreen, ZoomsByTheWheelWithCtrl) {
+  Start();
+  Enter("ab");
+  const double usual = FirstLook().fontPointSize();
+  const auto turn = [&](int units, Qt::KeyboardModifiers modifiers) {
+    QWidget* target = Edit().viewport();
+    QWheelEvent event(QPointF(5, 5), target->mapToGlobal(QPointF(5, 5)), {}, {0, units},
+                      Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(target, &event);
+  };
+  turn(120, Qt::NoModifier);
+  EXPECT_EQ(FirstLook().fontPointSize(), usual);
+  turn(60, Qt::ControlModifier);
+  EXPECT_EQ(FirstLook().fontPointSize(), usual);
+  turn(60, Qt::ControlModifier);
+  EXPECT_NEAR(FirstLook().fontPointSize(), 1.1 * usual, 1e-6);
+  turn(-120, Qt::ControlModifier);
+  EXPECT_NEAR(FirstLook().fontPointSize(), usual, 1e-6);
+}
+
+TEST_F(OtchetWindowOnScreen, HasTheUsualKeysForZoom) {
+  Start();
+  EXPECT_EQ(Entry("ZoomIn").shortcut(), QKeySequence("Ctrl++"));
+  EXPECT_EQ(Entry("ZoomOut").shortcut(), QKeySequence("Ctrl+-"));
+  EXPECT_EQ(Entry("ZoomUsual").shortcut(), QKeySequence("Ctrl+0"));
 }
 
 }  // namespace
