@@ -110,6 +110,12 @@ frmOtchetMain& Program::NewOtchet(const std::string& commandLine) {
   // Before the first report there is nothing to draw.
   const auto drawable =
       snapshot_ ? std::function<void()>([this] { DrawReported(); }) : std::function<void()>();
+  std::function<std::string(const RichTextBox&, const std::string&)> printable;
+  if (snapshot_ && windows_.PdfWithDrawings) {
+    printable = [this](const RichTextBox& document, const std::string& title) {
+      return windows_.PdfWithDrawings(document, title, Reported());
+    };
+  }
   otchet_.emplace(
       services_, *richText_, dialogs,
       frmOtchetMain::Openers{
@@ -118,16 +124,19 @@ frmOtchetMain& Program::NewOtchet(const std::string& commandLine) {
           .ShowAssoc = assoc_ ? Opener(windows_.ShowAssoc, *assoc_) : std::function<void()>(),
           .WhyNoAssoc =
               windows_.Associations != nullptr ? windows_.Associations->WhyNot() : std::string(),
-          .ExportToDrawing = drawable},
+          .ExportToDrawing = drawable,
+          .PdfWithDrawings = printable},
       commandLine);
   if (snapshot_) {
-    export_.emplace(
-        services_.Automation, services_.Messages, services_.Locale,
-        DrawnDesign{snapshot_->TreloData, snapshot_->TreloResult, snapshot_->ElementSection},
-        otchet_->SBPanels[frmOtchetMain::messagePanel]);
+    export_.emplace(services_.Automation, services_.Messages, services_.Locale, Reported(),
+                    otchet_->SBPanels[frmOtchetMain::messagePanel]);
   }
   otchet_->Form_Load();
   return *otchet_;
+}
+
+DrawnDesign Program::Reported() const {
+  return {snapshot_->TreloData, snapshot_->TreloResult, snapshot_->ElementSection};
 }
 
 void Program::DrawReported() {

@@ -41,6 +41,10 @@ class Program {
     std::function<void(frmAssoc&)> ShowAssoc;
     /// After a drawing has been made: shows what the built-in drawing host holds.
     std::function<void()> ShowDrawings;
+    /// The bytes of a PDF file with the document and the drawings of the design.
+    std::function<std::string(const RichTextBox& document, const std::string& title,
+                              const DrawnDesign& design)>
+        PdfWithDrawings;
     /// An empty box for a document; without it documents are kept in memory.
     std::function<std::unique_ptr<RichTextBox>()> MakeRichText;
     /// Null where the machine has none. They outlive the program.
@@ -69,6 +73,7 @@ class Program {
   /// A document window as it opens, with an empty document.
   frmOtchetMain& NewOtchet(const std::string& commandLine);
   void DrawReported();
+  DrawnDesign Reported() const;
   void ShowOtchet();
   void OpenDocument(const std::string& commandLine);
 

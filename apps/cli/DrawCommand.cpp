@@ -5,9 +5,8 @@
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
 #include "apps/cli/OutputFile.h"
-#include "drawing/host/BuiltInHost.h"
+#include "drawing/host/DesignDrawing.h"
 #include "drawing/host/dxf/DxfWriter.h"
-#include "drawing/scheme/modACADExport.h"
 #include "platform/errors/RuntimeError.h"
 
 namespace trelonit::cli {
@@ -37,14 +36,11 @@ std::optional<DrawingForm> FormOf(const std::string& output, const Paper& paper)
 
 /// Both schemes of the design; null where a message told why not all of it could be drawn.
 std::shared_ptr<Drawing> Drawn(const Calculation& design) {
-  BuiltInHost host;
-  BuiltInHostAutomation automation(host);
   ConsoleMessages messages(std::cerr);
-  Label panel;
-  ACADExport(automation, messages, SystemNumberLocale(),
-             {design.TreloData, design.TreloResult, design.ElementSection}, panel)
-      .mnuFileAutoCAD_Click();
-  return messages.Shown().empty() ? host.ActiveDocument() : nullptr;
+  std::shared_ptr<Drawing> drawing =
+      DrawingOf({design.TreloData, design.TreloResult, design.ElementSection}, messages,
+                SystemNumberLocale());
+  return messages.Shown().empty() ? drawing : nullptr;
 }
 
 /// A design of which there is no report is not drawn either: its texts are that of the report.

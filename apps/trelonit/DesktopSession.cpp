@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "drawing/host/DesignDrawing.h"
 #include "platform/system/ProgramFolder.h"
 #include "windows/dialogs/AboutWindow.h"
 #include "windows/dialogs/DataManagerWindow.h"
@@ -25,32 +26,48 @@ Services DesktopSession::Bundle() {
 }
 
 Program::Windows DesktopSession::MakeWindows() {
-  return {.ShowKoeffOfUse = Modal<KoeffOfUseWindow, frmKoeffOfUse>(help_place::Results),
-          .ShowAbout = Modal<AboutWindow, frmAbout>(help_place::About),
-          .ShowSearch = Modal<SearchWindow, frmSearch>(help_place::Search),
-          .ShowSteel = Modal<SteelWindow, frmSteel>(help_place::Steel),
-          .ShowParamerty = Modal<ParamertyWindow, frmParamerty>(help_place::Parameters),
-          .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(help_place::Manager),
-          .ShowOtchet = [this](frmOtchetMain& form) { ShowOtchet(form); },
-          .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
-          .ShowDate = ModalOverDocument<DateWindow, frmDate>(help_place::Date),
-          .ShowAssoc = ModalOverDocument<AssocWindow, frmAssoc>(help_place::Assoc),
-          .ShowDrawings = [this] { drawings_.ShowDrawings(otchet_.get()); },
-          .MakeRichText =
-              [this] {
-                auto box = std::make_unique<QtRichTextBox>();
-                richText_ = box.get();
-                return box;
-              },
-          .Dialogs = &documentDialogs_,
-          .Associations = associations_.get(),
-          .EndProgram = [] { QApplication::exit(0); }};
+  return {
+      .ShowKoeffOfUse = Modal<KoeffOfUseWindow, frmKoeffOfUse>(help_place::Results),
+      .ShowAbout = Modal<AboutWindow, frmAbout>(help_place::About),
+      .ShowSearch = Modal<SearchWindow, frmSearch>(help_place::Search),
+      .ShowSteel = Modal<SteelWindow, frmSteel>(help_place::Steel),
+      .ShowParamerty = Modal<ParamertyWindow, frmParamerty>(help_place::Parameters),
+      .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(help_place::Manager),
+      .ShowOtchet = [this](frmOtchetMain& form) { ShowOtchet(form); },
+      .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
+      .ShowDate = ModalOverDocument<DateWindow, frmDate>(help_place::Date),
+      .ShowAssoc = ModalOverDocument<AssocWindow, frmAssoc>(help_place::Assoc),
+      .ShowDrawings = [this] { drawings_.ShowDrawings(otchet_.get()); },
+      .PdfWithDrawings =
+          [this](const RichTextBox& document, const std::string& title, const DrawnDesign& design) {
+            return PdfWithDrawings(document, title, design);
+          },
+      .MakeRichText =
+          [this] {
+            auto box = std::make_unique<QtRichTextBox>();
+            richText_ = box.get();
+            return box;
+          },
+      .Dialogs = &documentDialogs_,
+      .Associations = associations_.get(),
+      .EndProgram = [] { QApplication::exit(0); }};
 }
 
 void DesktopSession::ShowOtchet(frmOtchetMain& form) {
   otchet_ = std::make_unique<OtchetWindow>(form, *richText_, Parent());
   otchet_->ShowModal();
   otchet_.reset();
+}
+
+std::string DesktopSession::PdfWithDrawings(const RichTextBox& document, const std::string& title,
+                                            const DrawnDesign& design) {
+  std::vector<std::shared_ptr<Drawing>> drawings;
+  if (std::shared_ptr<Drawing> drawing = DrawingOf(design, messages_, DesktopNumberLocale())) {
+    drawings.push_back(std::move(drawing));
+  }
+  const TitleBlockChoice block = LoadTitleBlock(settings_);
+  return documentDialogs_.PdfWithDrawings(document, title, drawings,
+                                          block.Shown ? std::optional(block.Block) : std::nullopt);
 }
 
 QWidget* DesktopSession::Parent() const {

@@ -31,6 +31,8 @@ class DesktopSession {
   Services Bundle();
   Program::Windows MakeWindows();
   void ShowOtchet(frmOtchetMain& form);
+  std::string PdfWithDrawings(const RichTextBox& document, const std::string& title,
+                              const DrawnDesign& design);
   QWidget* Parent() const;
   /// Shows a filled form in a window of its own until the user closes it; F1 opens the page of
   /// the place.

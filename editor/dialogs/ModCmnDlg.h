@@ -39,6 +39,9 @@ class CommonDialogs {
   virtual void PrintDocument(const RichTextBox& document, const std::string& title) = 0;
   /// The pages as they would be printed, which can be stored as PDF from there.
   virtual void PreviewDocument(const RichTextBox& document, const std::string& title) = 0;
+  /// The name under which pages are to be stored; empty for a cancel. Does not ask before an
+  /// existing file is replaced either.
+  virtual std::string ShowSavePdf(const std::string& /*offered*/) { return {}; }
   /// The bytes of a PDF file with the pages as they would be printed; nothing where the machine
   /// makes none.
   virtual std::optional<std::string> PdfOf(const RichTextBox& /*document*/,

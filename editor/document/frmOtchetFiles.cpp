@@ -281,6 +281,41 @@ bool frmOtchetMain::StorePages(const std::string& name, const std::string& pdf) 
   });
 }
 
+void frmOtchetMain::ExportPages(
+    const std::string& handler,
+    const std::function<std::optional<std::string>(const std::string& title)>& make) {
+  Guard(services_.Messages, handler, [&] {
+    std::string name = fileName_.empty() ? "Отчет.pdf" : fileName_;
+    if (ExtensionOf(name) != pdfExtension) {
+      name = NameToSave(name, plainTextKind);
+      name = name.substr(0, name.size() - ExtensionOf(name).size()) + std::string(pdfExtension);
+    }
+    do {
+      name = dialogs_.ShowSavePdf(name);
+      if (name.empty()) {
+        return;
+      }
+    } while (services_.Files.FileExists(name) && !MayOverwrite(services_.Messages));
+    if (const std::optional<std::string> pdf = make(BareName(name))) {
+      services_.Files.ReplaceFile(name, *pdf);
+      SBPanels[messagePanel].SetCaption(name);
+    }
+  });
+}
+
+void frmOtchetMain::mnuFilePdf_Click() {
+  ExportPages("mnuFilePdf_Click",
+              [this](const std::string& title) { return dialogs_.PdfOf(RTF, title); });
+}
+
+void frmOtchetMain::mnuFilePdfDrawings_Click() {
+  if (openers_.PdfWithDrawings) {
+    ExportPages("mnuFilePdfDrawings_Click", [this](const std::string& title) {
+      return std::optional(openers_.PdfWithDrawings(RTF, title));
+    });
+  }
+}
+
 bool frmOtchetMain::WriteDocument(const std::string& name, DocumentFormat format) {
   switch (format) {
     case DocumentFormat::PlainText:

@@ -31,6 +31,8 @@ frmOtchetMain::frmOtchetMain(Services services, RichTextBox& rtf, CommonDialogs&
   caption(mnuFileSave, "&Save");
   caption(mnuFileSaveAs, "Save &As");
   caption(mnuFileAutoCAD, "Вывести в AutoCAD");
+  caption(mnuFilePdf, "Экспорт в PDF");
+  caption(mnuFilePdfDrawings, "Экспорт в PDF с чертежами");
   caption(mnuFileProperties, "Properties");
   caption(mnuFileAssoc, "Связь с файлами");
   caption(mnuFilePageSetup, "Page Setup");
@@ -56,6 +58,7 @@ frmOtchetMain::frmOtchetMain(Services services, RichTextBox& rtf, CommonDialogs&
   caption(mnuViewStatusbar, "Statusbar");
   caption(mnuFileAbout, "About");
   mnuFileAutoCAD.SetEnabled(static_cast<bool>(openers_.ExportToDrawing));
+  mnuFilePdfDrawings.SetEnabled(static_cast<bool>(openers_.PdfWithDrawings));
   mnuFileAssoc.SetEnabled(openers_.ShowAssoc && openers_.WhyNoAssoc.empty());
   mnuEdit[editDatestamp].SetEnabled(static_cast<bool>(openers_.ShowDate));
   mnuEdit[editFind].SetEnabled(static_cast<bool>(openers_.ShowFind));
@@ -156,7 +159,9 @@ std::vector<frmOtchetMain::Menu> frmOtchetMain::Menus() {
         Item("mnuFileOpen", mnuFileOpen, &Self::mnuFileOpen_Click),
         Item("mnuFileSave", mnuFileSave, &Self::mnuFileSave_Click),
         Item("mnuFileSaveAs", mnuFileSaveAs, &Self::mnuFileSaveAs_Click), separator,
-        Item("mnuFileAutoCAD", mnuFileAutoCAD, &Self::mnuFileAutoCAD_Click), separator,
+        Item("mnuFileAutoCAD", mnuFileAutoCAD, &Self::mnuFileAutoCAD_Click),
+        Item("mnuFilePdf", mnuFilePdf, &Self::mnuFilePdf_Click),
+        Item("mnuFilePdfDrawings", mnuFilePdfDrawings, &Self::mnuFilePdfDrawings_Click), separator,
         Item("mnuFileProperties", mnuFileProperties, &Self::mnuFileProperties_Click),
         Item("mnuFileAssoc", mnuFileAssoc, &Self::mnuFileAssoc_Click), separator,
         Item("mnuFilePageSetup", mnuFilePageSetup, &Self::mnuFilePageSetup_Click),

@@ -35,6 +35,9 @@ class frmOtchetMain {
     std::string WhyNoAssoc = {};
     /// Draws the truss that the report was made from.
     std::function<void()> ExportToDrawing;
+    /// The bytes of a PDF file with this title: the document, then the drawings of that truss.
+    std::function<std::string(const RichTextBox& document, const std::string& title)>
+        PdfWithDrawings = {};
   };
 
   /// An entry of a menu; without a state it is a separator.
@@ -127,6 +130,8 @@ class frmOtchetMain {
   void mnuFileSave_Click();
   void mnuFileSaveAs_Click();
   void mnuFileAutoCAD_Click();
+  void mnuFilePdf_Click();
+  void mnuFilePdfDrawings_Click();
   void mnuFileProperties_Click();
   void mnuFileAssoc_Click();
   void mnuFilePageSetup_Click();
@@ -161,6 +166,8 @@ class frmOtchetMain {
   MenuEntry mnuFileSave;
   MenuEntry mnuFileSaveAs;
   MenuEntry mnuFileAutoCAD;
+  MenuEntry mnuFilePdf;
+  MenuEntry mnuFilePdfDrawings;
   MenuEntry mnuFileProperties;
   MenuEntry mnuFileAssoc;
   MenuEntry mnuFilePageSetup;
@@ -207,6 +214,9 @@ class frmOtchetMain {
   bool StoreDocument(const std::string& name, DocumentFormat format);
   /// Pages beside the document, which keeps its name: they cannot be opened again.
   bool StorePages(const std::string& name, const std::string& pdf);
+  /// Asks for a name and stores the pages that are made under that title.
+  void ExportPages(const std::string& handler,
+                   const std::function<std::optional<std::string>(const std::string& title)>& make);
   bool WriteDocument(const std::string& name, DocumentFormat format);
   DocumentFormat PresentFormat() const;
   bool MayReplace(const std::string& name);

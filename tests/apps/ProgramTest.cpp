@@ -154,6 +154,40 @@ TEST_F(WholeProgram, OpensTheAssociationsOnTheStateOfTheMachine) {
   EXPECT_TRUE(ownerShown);
 }
 
+TEST_F(WholeProgram, HandsTheReportedDesignToThePagesWithDrawings) {
+  class NamesPages : public NoCommonDialogs {
+   public:
+    std::string ShowSavePdf(const std::string&) override { return "/pages.pdf"; }
+  };
+  NamesPages dialogs;
+  double drawn = 0;
+  Program::Windows windows{
+      .ShowOtchet = [this](frmOtchetMain& form) { Show(form); },
+      .PdfWithDrawings =
+          [&](const RichTextBox& document, const std::string& title, const DrawnDesign& design) {
+            drawn = design.Data.LengthF;
+            return title + std::to_string(document.TextLength() > 100);
+          },
+      .Dialogs = &dialogs};
+  Program whole(world.Bundle(), windows);
+  whole.Main().Form_Load();
+  inWindow = [&](frmOtchetMain& form) {
+    // Without a report there is nothing to draw.
+    EXPECT_FALSE(form.mnuFilePdfDrawings.Enabled());
+  };
+  whole.Open("");
+  whole.Main().txtLengthF.SetText("24");
+  whole.Main().tabMain.SetTab(calculateTab);
+  inWindow = [&](frmOtchetMain& form) {
+    EXPECT_TRUE(form.mnuFilePdfDrawings.Enabled());
+    whole.Main().txtLengthF.SetText("33");
+    form.mnuFilePdfDrawings_Click();
+  };
+  whole.Main().cmdShowResults_Click();
+  EXPECT_EQ(world.Files.Content["/pages.pdf"], "pages.pdf1");
+  EXPECT_EQ(drawn, 24);
+}
+
 TEST_F(WholeProgram, OffersNoAssociationsWhereTheMachineDoesNotKnowIt) {
   class Unknown : public OwnedByPad {
    public:

@@ -18,6 +18,7 @@
 #include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/editor/FontWindow.h"
+#include "windows/editor/ReportPdf.h"
 #include "windows/editor/RichDocumentPdf.h"
 #include "windows/editor/RichDocumentQt.h"
 #include "windows/services/DesktopServices.h"
@@ -118,6 +119,27 @@ void DocumentDialogs::PreviewDocument(const RichTextBox& document, const std::st
                      [&] { StorePdf(document, title, &dialog); });
   }
   dialog.exec();
+}
+
+std::string DocumentDialogs::ShowSavePdf(const std::string& offered) {
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Экспорт в PDF"), {},
+                     QStringLiteral("Документ PDF (*.pdf)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("pdf"));
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  const QFileInfo present(ToQt(offered));
+  dialog.setDirectory(present.absolutePath());
+  dialog.selectFile(present.fileName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return {};
+  }
+  return FromQt(dialog.selectedFiles().front());
+}
+
+std::string DocumentDialogs::PdfWithDrawings(const RichTextBox& document, const std::string& title,
+                                             const std::vector<std::shared_ptr<Drawing>>& drawings,
+                                             const std::optional<TitleBlock>& block) {
+  return WriteReportPdf(document.Document(), title, Printer().pageLayout(), drawings, block);
 }
 
 void DocumentDialogs::StorePdf(const RichTextBox& document, const std::string& title,

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
+#include "drawing/host/TitleBlock.h"
 #include "editor/dialogs/ModCmnDlg.h"
 
 class QPrinter;
@@ -24,6 +28,11 @@ class DocumentDialogs : public CommonDialogs {
   void PrintDocument(const RichTextBox& document, const std::string& title) override;
   void PreviewDocument(const RichTextBox& document, const std::string& title) override;
   std::optional<std::string> PdfOf(const RichTextBox& document, const std::string& title) override;
+  std::string ShowSavePdf(const std::string& offered) override;
+  /// The same with a sheet for each drawing behind the pages.
+  std::string PdfWithDrawings(const RichTextBox& document, const std::string& title,
+                              const std::vector<std::shared_ptr<Drawing>>& drawings,
+                              const std::optional<TitleBlock>& block);
   void PageSetup() override;
 
  private:

@@ -44,6 +44,8 @@ EntryDress DressOf(const std::string& name) {
        {nullptr, "Сохранить под другим именем", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
         nullptr}},
       {"mnuFileAutoCAD", {"tool-drawing", "Вывести чертежи фермы", {}, nullptr}},
+      {"mnuFilePdf", {nullptr, "Сохранить страницы отчета в PDF", {}, nullptr}},
+      {"mnuFilePdfDrawings", {nullptr, "То же, за отчетом листы с чертежами фермы", {}, nullptr}},
       {"mnuFileProperties", {nullptr, "Сведения о документе", {}, nullptr}},
       {"mnuFileAssoc", {nullptr, "Какие файлы открывает эта программа", {}, nullptr}},
       {"mnuFilePageSetup", {nullptr, "Размер и поля страницы", {}, nullptr}},
@@ -99,9 +101,9 @@ OtchetWindow::~OtchetWindow() {
   form_.Unload = nullptr;
   box_.KeyDown = nullptr;
   box_.KeyTyped = nullptr;
+  box_.ZoomAsked = nullptr;
   box_.SelChange = nullptr;
   box_.FileDropped = nullptr;
-  box_.ZoomAsked = nullptr;
   box_.ContextMenu = nullptr;
   box_.TextCommitted = nullptr;
 }
@@ -160,14 +162,12 @@ void OtchetWindow::AddMenus() {
     if (shown->actions().contains(actions_["mnuEdit0"])) {
       editMenu_ = shown;
     }
-  }
-}
     if (shown->actions().contains(actions_["mnuViewToolbar"])) {
       AddZoom(*shown);
     }
+  }
+}
 
-void OtchetWindow::AddToolBar() {
-  auto* bar = new QToolBar(QStringLiteral("Панель инструментов"));
 void OtchetWindow::AddZoom(QMenu& menu) {
   menu.addSeparator();
   const auto add = [&](const char* name, const QString& text, const QString& hint,
@@ -197,6 +197,8 @@ void OtchetWindow::ZoomBy(int steps) {
   zoom_->setVisible(zoomSteps_ != 0);
 }
 
+void OtchetWindow::AddToolBar() {
+  auto* bar = new QToolBar(QStringLiteral("Панель инструментов"));
   bar->setObjectName(QStringLiteral("TB"));
   bar->setMovable(false);
   bar->setIconSize({toolSize, toolSize});
@@ -249,20 +251,20 @@ void OtchetWindow::AddStatusBar() {
       statusBar()->addPermanentWidget(label);
     }
   }
-  Follow(form_.SB, statusBar(), [this] { statusBar()->setVisible(form_.SB.Visible()); });
-}
   zoom_ = new QLabel;
   zoom_->setObjectName(QStringLiteral("Zoom"));
   zoom_->setAccessibleName(QStringLiteral("Размер на экране"));
   zoom_->hide();
   statusBar()->addPermanentWidget(zoom_);
+  Follow(form_.SB, statusBar(), [this] { statusBar()->setVisible(form_.SB.Visible()); });
+}
 
 void OtchetWindow::ConnectBox() {
   box_.KeyDown = [this](Integer& key, Integer shift) { form_.RTF_KeyDown(key, shift); };
   box_.KeyTyped = [this](const std::string& text) { form_.RTF_Typed(text); };
+  box_.ZoomAsked = [this](int steps) { ZoomBy(steps); };
   box_.SelChange = [this] { form_.RTF_SelChange(); };
   box_.FileDropped = [this](const std::string& name) { form_.RTF_FileDropped(name); };
-  box_.ZoomAsked = [this](int steps) { ZoomBy(steps); };
   box_.ContextMenu = [this](const QPoint& place) { editMenu_->popup(place); };
   box_.TextCommitted = [this](const std::string& text) { form_.RTF_TextCommitted(text); };
 }

@@ -118,6 +118,14 @@ int PaintDocument(const RichDocument& document, QPagedPaintDevice& device) {
   if (!painter.begin(&device)) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
   }
+  const int count = PaintDocument(document, device, painter);
+  if (!painter.end()) {
+    throw RuntimeError(ErrorNumber::DeviceIoError);
+  }
+  return count;
+}
+
+int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPainter& painter) {
   const Foot foot(device);
   const QRectF page(0, 0, device.width(), device.height());
   const QSizeF size(page.width(), page.height() - foot.Height());
@@ -141,9 +149,6 @@ int PaintDocument(const RichDocument& document, QPagedPaintDevice& device) {
     painted = true;
     PaintPage(painter, text, size, number - 1);
     foot.Paint(painter, page, number, count);
-  }
-  if (!painter.end()) {
-    throw RuntimeError(ErrorNumber::DeviceIoError);
   }
   return count;
 }

@@ -2,6 +2,7 @@
 
 #include <QPageLayout>
 #include <QPagedPaintDevice>
+#include <QPainter>
 #include <string>
 
 #include "editor/document/RichDocument.h"
@@ -17,6 +18,9 @@ QPageLayout PaperLayout();
 /// foot of every page. The device's page ranges choose the pages. Returns how many the document
 /// has. Raises 57 (Device I/O error) where the device cannot be painted on.
 int PaintDocument(const RichDocument& document, QPagedPaintDevice& device);
+
+/// The same with a painter that has begun on the device and goes on with it.
+int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPainter& painter);
 
 /// The bytes of a PDF file. Raises 57 like the painting.
 std::string WritePdf(const RichDocument& document, const std::string& title,

@@ -44,8 +44,9 @@ TEST_F(DocumentMenus, OffersTheFileCommands) {
   EXPECT_EQ(
       ItemsOf(0),
       (Texts{"mnuFileNew: &New", "mnuFileOpen: &Open", "mnuFileSave: &Save",
-             "mnuFileSaveAs: Save &As", separator, "mnuFileAutoCAD: Вывести в AutoCAD", separator,
-             "mnuFileProperties: Properties", "mnuFileAssoc: Связь с файлами", separator,
+             "mnuFileSaveAs: Save &As", separator, "mnuFileAutoCAD: Вывести в AutoCAD",
+             "mnuFilePdf: Экспорт в PDF", "mnuFilePdfDrawings: Экспорт в PDF с чертежами",
+             separator, "mnuFileProperties: Properties", "mnuFileAssoc: Связь с файлами", separator,
              "mnuFilePageSetup: Page Setup", "mnuFilePrintPreview: Предварительный просмотр",
              "mnuFilePrint: Print", separator, "mnuFileExit: &Exit"}));
 }

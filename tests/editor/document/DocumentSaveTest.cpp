@@ -328,5 +328,43 @@ TEST_F(DocumentSave, KeepsToItsKindsOnAMachineWithoutPages) {
   EXPECT_EQ(files.Content["/home/a.txt"], "beam");
 }
 
+TEST_F(DocumentSave, ExportsPagesBesideTheDocument) {
+  Enter("beam");
+  dialogs.ToSavePdf = {"/home/a.pdf", "/home/b.pdf"};
+  form.mnuFilePdf_Click();
+  EXPECT_EQ(files.Content["/home/a.pdf"], "%PDF a.pdf: beam");
+  form.mnuFilePdfDrawings_Click();
+  EXPECT_EQ(files.Content["/home/b.pdf"], "%PDF b.pdf: beam + drawings");
+  EXPECT_EQ(dialogs.PdfsOffered, (Texts{"Отчет.pdf", "Отчет.pdf"}));
+  EXPECT_EQ(Panel(frmOtchetMain::messagePanel), "/home/b.pdf");
+  // The document itself is no more saved than before.
+  EXPECT_TRUE(form.Changed());
+  EXPECT_EQ(form.FileName(), "");
+  EXPECT_EQ(Said(), Messages());
+}
+
+TEST_F(DocumentSave, OffersTheNameOfTheDocumentForItsPages) {
+  files.Content["/home/Отчет 1.rtf"] = "{\\rtf1 x}";
+  Open("/home/Отчет 1.rtf");
+  form.mnuFilePdf_Click();
+  files.Content["/home/Ферма 1.5"] = "x";
+  Open("/home/Ферма 1.5");
+  form.mnuFilePdf_Click();
+  EXPECT_EQ(dialogs.PdfsOffered, (Texts{"/home/Отчет 1.pdf", "/home/Ферма 1.5.pdf"}));
+  EXPECT_EQ(files.Content.size(), 2U);
+}
+
+TEST_F(DocumentSave, AsksForAnotherNameWherePagesAreNotToBeReplaced) {
+  files.Content["/home/a.pdf"] = "old";
+  Enter("beam");
+  Answer(no);
+  dialogs.ToSavePdf = {"/home/a.pdf", "/home/b.pdf"};
+  form.mnuFilePdf_Click();
+  EXPECT_EQ(Said(), Messages{ReplaceQuestion()});
+  EXPECT_EQ(files.Content["/home/a.pdf"], "old");
+  EXPECT_EQ(files.Content["/home/b.pdf"], "%PDF b.pdf: beam");
+  EXPECT_EQ(dialogs.PdfsOffered.back(), "/home/a.pdf");
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -73,6 +73,10 @@ class ScriptedCommonDialogs : public CommonDialogs {
   std::optional<std::string> PdfOf(const RichTextBox& document, const std::string& title) override {
     return MakesPdf ? std::optional("%PDF " + title + ": " + document.Text()) : std::nullopt;
   }
+  std::string ShowSavePdf(const std::string& offered) override {
+    PdfsOffered.push_back(offered);
+    return Next(ToSavePdf, std::string());
+  }
   void PageSetup() override { ++PageSetups; }
 
   std::deque<FileChoice> ToOpen;
@@ -85,6 +89,8 @@ class ScriptedCommonDialogs : public CommonDialogs {
   std::vector<CharFormat> Fonts;
   std::vector<Print> Printed;
   std::vector<Print> Previewed;
+  std::deque<std::string> ToSavePdf;
+  std::vector<std::string> PdfsOffered;
   int PageSetups = 0;
   bool MakesPdf = true;
 
@@ -166,7 +172,11 @@ struct OtchetDesk {
     return {.ShowFind = [this](frmFind&) { ++findsShown; },
             .ShowDate = [this](frmDate&) { ++datesShown; },
             .ShowAssoc = [this] { ++assocsShown; },
-            .ExportToDrawing = [this] { ++exports; }};
+            .ExportToDrawing = [this] { ++exports; },
+            .PdfWithDrawings =
+                [](const RichTextBox& document, const std::string& title) {
+                  return "%PDF " + title + ": " + document.Text() + " + drawings";
+                }};
   }
 
   /// What the user was told since the last question.

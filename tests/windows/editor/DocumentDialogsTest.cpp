@@ -177,6 +177,17 @@ TEST_F(DocumentDialogsOnScreen, PreviewThePagesOnNoMoreThanTheScreen) {
   });
 }
 
+TEST_F(DocumentDialogsOnScreen, AskForTheNameOfPages) {
+  const std::string name = Path("страницы");
+  const OnceModal<QFileDialog> once([&](QFileDialog& dialog) {
+    EXPECT_EQ(FromQt(dialog.windowTitle()), "Экспорт в PDF");
+    EXPECT_EQ(FromQt(Find<QLineEdit>(dialog, "fileNameEdit").text()), "отчет.pdf");
+    EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+    Take(dialog, name);
+  });
+  EXPECT_EQ(Dialogs.ShowSavePdf(Path("отчет.pdf")), name + ".pdf");
+}
+
 TEST_F(DocumentDialogsOnScreen, MakeTheSamePagesWithoutThePreview) {
   MemoryRichTextBox box;
   box.SetText("beam");

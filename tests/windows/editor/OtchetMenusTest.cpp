@@ -35,8 +35,9 @@ class OtchetWindowMenus : public ::testing::Test, protected OtchetScreen {
 TEST_F(OtchetWindowMenus, HaveTheirEntriesInOrder) {
   const std::vector<std::pair<std::string, Texts>> expected{
       {"&File",
-       {"&New", "&Open", "&Save", "Save &As", "-", "Вывести в AutoCAD", "-", "Properties",
-        "Связь с файлами", "-", "Page Setup", "Предварительный просмотр", "Print", "-", "&Exit"}},
+       {"&New", "&Open", "&Save", "Save &As", "-", "Вывести в AutoCAD", "Экспорт в PDF",
+        "Экспорт в PDF с чертежами", "-", "Properties", "Связь с файлами", "-", "Page Setup",
+        "Предварительный просмотр", "Print", "-", "&Exit"}},
       {"&Edit",
        {"&Undo", "&Redo", "-", "Cut", "Copy", "Paste", "Delete", "-", "Select All", "Select Above",
         "Select Below", "Datestamp", "Find and Replace"}},

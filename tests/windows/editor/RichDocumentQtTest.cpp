@@ -12,7 +12,9 @@
 
 #include "editor/document/HtmlWriter.h"
 #include "platform/errors/RuntimeError.h"
+#include "tests/windows/drawing/DrawingSheets.h"
 #include "windows/binding/Binding.h"
+#include "windows/editor/ReportPdf.h"
 #include "windows/editor/RichDocumentHtml.h"
 #include "windows/editor/RichDocumentPdf.h"
 #include "windows/editor/RichDocumentQt.h"
@@ -245,6 +247,38 @@ TEST(RichDocumentHtml, TakesAnyTextForAPage) {
   EXPECT_EQ(FromHtml(""), RichDocument{});
   EXPECT_EQ(FromHtml("plain").Paragraphs[0].Runs[0].Text, u"plain");
   EXPECT_EQ(FromHtml("<b><i>open").Paragraphs[0].Runs[0].Text, u"open");
+}
+
+TEST(ReportPdf, PutsASheetForEachDrawingBehindThePages) {
+  const std::shared_ptr<Drawing> small = SmallDrawing();
+  const std::string pdf =
+      WriteReportPdf(ManyLines(150), "Отчет", PaperLayout(), {small, small}, {});
+  EXPECT_NE(pdf.find("/Count 5"), std::string::npos);
+  // The pages of the text are A4 upright, the sheets lie.
+  const QRegularExpression box(QStringLiteral("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]"));
+  int upright = 0;
+  int lying = 0;
+  for (auto match = box.globalMatch(QString::fromLatin1(pdf.data(), qsizetype(pdf.size())));
+       match.hasNext();) {
+    const QRegularExpressionMatch page = match.next();
+    (page.captured(1).toDouble() < page.captured(2).toDouble() ? upright : lying) += 1;
+  }
+  EXPECT_EQ(upright, 3);
+  EXPECT_EQ(lying, 2);
+}
+
+TEST(ReportPdf, HasTheTitleBlockOnItsSheets) {
+  if (!PdfReaderIsThere()) {
+    GTEST_SKIP() << "no pdftotext";
+  }
+  const TitleBlock block{.Code = "15-2026", .Author = "Иванов"};
+  const QString text =
+      TextOfPdf(WriteReportPdf(ManyLines(3), "", PaperLayout(), {SmallDrawing()}, block), {});
+  const QString sheet = text.section(QLatin1Char('\f'), 1, 1);
+  EXPECT_TRUE(sheet.contains(QStringLiteral("15-2026")));
+  EXPECT_TRUE(sheet.contains(QStringLiteral("Иванов")));
+  EXPECT_TRUE(sheet.contains(QStringLiteral("М 1:")));
+  EXPECT_TRUE(sheet.contains(QStringLiteral("L = 10.00")));
 }
 
 }  // namespace

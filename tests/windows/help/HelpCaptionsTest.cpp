@@ -100,7 +100,7 @@ TEST(HelpTellsTheCaptions, OfTheDocumentMenus) {
       }
     }
   }
-  EXPECT_EQ(entries, 29U);
+  EXPECT_EQ(entries, 31U);
 }
 
 TEST(HelpTellsTheCaptions, OfTheMainWindow) {
