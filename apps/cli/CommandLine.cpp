@@ -150,6 +150,44 @@ Status RunCommandLine(int argc, const char* const* argv, const Paper& paper) {
       ->type_name("FILE");
   draw->callback([&] { run = [&] { return RunDraw(drawOptions, paper); }; });
 
+  VariantsOptions variantsOptions;
+  CLI::App* variants =
+      AddCommand(app, "variants", "варианты проекта: какая ферма лучше, с подбором профилей");
+  variants->add_option("FILE", variantsOptions.Project, "файл проекта (.tsav)")
+      ->required()
+      ->type_name("");
+  variants
+      ->add_option("-o,--output", variantsOptions.Output,
+                   "таблица .csv или .json, рисунок .svg; «-» — стандартный вывод")
+      ->required()
+      ->type_name("FILE");
+  const auto axis = [variants](const char* name, std::string& text, const char* description) {
+    variants->add_option(name, text, description)->type_name("")->group("Оси: a,b,c или от:до:шаг");
+  };
+  axis("--scheme", variantsOptions.Scheme, "номера схем");
+  axis("--span", variantsOptions.Span, "пролет, м");
+  axis("--height", variantsOptions.Height, "высота, м");
+  axis("--end", variantsOptions.EndPanel, "крайняя панель, м");
+  axis("--panels", variantsOptions.Panels, "число панелей");
+  axis("--upper", variantsOptions.Upper, "верхний пояс: расположение/сортамент");
+  axis("--lower", variantsOptions.Lower, "нижний пояс");
+  axis("--diagonals", variantsOptions.Diagonals, "раскосы");
+  axis("--support-diagonals", variantsOptions.SupportDiagonals, "опорные раскосы");
+  axis("--posts", variantsOptions.Posts, "стойки");
+  axis("--gap", variantsOptions.Gap, "зазор парных профилей, мм");
+  axis("--steel", variantsOptions.Steel, "сталь: марка:Ry, МПа");
+  variants->add_option("--best", variantsOptions.Best, "только столько самых легких")
+      ->type_name("N");
+  variants
+      ->add_option("--front", variantsOptions.Front,
+                   "только лучшие по массе и высоте (height) или прогибу (progib)")
+      ->type_name("");
+  variants->add_option("--jobs", variantsOptions.Jobs, "потоков; без него — по числу ядер")
+      ->type_name("N");
+  variants->add_option("--shard", variantsOptions.Shard, "только часть K из N")->type_name("K/N");
+  variants->add_flag("--opinion", variantsOptions.Opinion, "подбирать и по СНиП без отступлений");
+  variants->callback([&] { run = [&] { return RunVariants(variantsOptions); }; });
+
   CLI::App* catalogue = AddCommand(app, "catalogue", "каталог проката");
   catalogue->require_subcommand(1);
   AddCommand(*catalogue, "list", "стандарты каталога")->callback([&] { run = RunCatalogueList; });

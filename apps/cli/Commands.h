@@ -56,6 +56,22 @@ struct DrawOptions {
 /// Force and geometry scheme of a project as a drawing.
 Status RunDraw(const DrawOptions& options, const Paper& paper);
 
+struct VariantsOptions {
+  std::string Project;
+  std::string Output;  ///< a file by its extension, "-" for a table on standard output
+  // The axes as they were written; empty where the project's own value stays.
+  std::string Scheme, Span, Height, EndPanel, Panels;
+  std::string Upper, Lower, Diagonals, SupportDiagonals, Posts;
+  std::string Gap, Steel;
+  unsigned Best = 0;  ///< how many of the lightest; 0 for all
+  std::string Front;  ///< "height" or "progib": only the best in mass against it
+  unsigned Jobs = 0;  ///< 0 for all cores
+  std::string Shard;  ///< "K/N"
+  bool Opinion = false;
+};
+/// Every combination of the axes' values, each with the sizes that automatic selection gives it.
+Status RunVariants(const VariantsOptions& options);
+
 /// The standards of the catalogue in memory.
 Status RunCatalogueList();
 

@@ -20,6 +20,9 @@ std::unique_ptr<std::istream> OpenDiskFile(const std::filesystem::path& path);
 /// be, in the file itself. A failure leaves what was there before, and nothing else.
 void ReplaceOnDisk(const std::filesystem::path& target, std::string_view bytes);
 
+/// The same for bytes that come one after another; it never writes the target itself.
+std::unique_ptr<GrowingFile> BeginOnDisk(const std::filesystem::path& target);
+
 std::unique_ptr<FileUpdate> OpenDiskUpdate(const std::filesystem::path& path);
 
 /// A file that is there but may not be written must not be replaced by way of its folder.

@@ -44,6 +44,22 @@ fs::path ResolveLinks(const fs::path& path) {
   return target.empty() ? path : target;
 }
 
+/// The file that the name stands for, which may be written or is not there yet.
+fs::path RequireTarget(const std::string& path) {
+  const fs::path target = ResolveLinks(NativePath(path));
+  std::error_code code;
+  const fs::file_status before = fs::status(target, code);
+  if (IsUnanswered(code)) {
+    throw FileError(code);
+  }
+  // A folder cannot be replaced, and a device or a pipe must not be.
+  if (fs::exists(before) && !fs::is_regular_file(before)) {
+    throw RuntimeError(ErrorNumber::PathFileAccess);
+  }
+  RequireWritable(target);
+  return target;
+}
+
 }  // namespace
 
 bool DiskFiles::FileExists(const std::string& path) {
@@ -80,18 +96,11 @@ std::uint64_t DiskFiles::FileLength(const std::string& path) {
 }
 
 void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) {
-  const fs::path target = ResolveLinks(NativePath(path));
-  std::error_code code;
-  const fs::file_status before = fs::status(target, code);
-  if (IsUnanswered(code)) {
-    throw FileError(code);
-  }
-  // A folder cannot be replaced, and a device or a pipe must not be.
-  if (fs::exists(before) && !fs::is_regular_file(before)) {
-    throw RuntimeError(ErrorNumber::PathFileAccess);
-  }
-  RequireWritable(target);
-  ReplaceOnDisk(target, bytes);
+  ReplaceOnDisk(RequireTarget(path), bytes);
+}
+
+std::unique_ptr<GrowingFile> DiskFiles::BeginFile(const std::string& path) {
+  return BeginOnDisk(RequireTarget(path));
 }
 
 std::unique_ptr<FileUpdate> DiskFiles::OpenForUpdate(const std::string& path) {

@@ -19,6 +19,16 @@ class FileUpdate {
   virtual void WriteAt(std::uint64_t place, std::string_view bytes) = 0;
 };
 
+/// A file that grows beside its target until it is whole and takes its place. One that is not
+/// finished goes with this object, and the target stays as it was. Members raise as the service
+/// does.
+class GrowingFile {
+ public:
+  virtual ~GrowingFile() = default;
+  virtual void Append(std::string_view bytes) = 0;
+  virtual void Finish() = 0;
+};
+
 /// The file system as the logic sees it. Paths are UTF-8. All members raise RuntimeError: 52 for an
 /// empty name, 53 or 76 where there is no such file or folder, 70 or 75 where access is refused, 61
 /// on a full disk, 57 for what else the device says.
@@ -54,6 +64,9 @@ class DiskFiles : public FileService {
   std::uint64_t FileLength(const std::string& path) override;
   void ReplaceFile(const std::string& path, std::string_view bytes) override;
   std::unique_ptr<FileUpdate> OpenForUpdate(const std::string& path) override;
+
+  /// For what is too long to be held: where no file can be made beside the target, it raises 70.
+  std::unique_ptr<GrowingFile> BeginFile(const std::string& path);
 };
 
 }  // namespace trelonit

@@ -220,20 +220,64 @@ void WriteWhereItStands(const fs::path& target, std::string_view bytes) {
   WriteInPlace(write, old, bytes, [&copy] { return copy.Keep(); });
 }
 
-}  // namespace
-
-void ReplaceOnDisk(const fs::path& target, std::string_view bytes, WhileWritten first) {
-  // The handler of a signal may run when the working folder is another one.
-  std::error_code code;
-  const fs::path whole = fs::absolute(target, code);
-  RemoveLeftovers(whole.parent_path());
-  std::optional<FileStatus> before;
-  if (FileStatus status{}; ::stat(whole.c_str(), &status) == 0) {
-    before = status;
-  } else if (errno != ENOENT) {
+/// Nothing for a file that is not there yet.
+std::optional<FileStatus> StatusOf(const fs::path& path) {
+  FileStatus status{};
+  if (::stat(path.c_str(), &status) == 0) {
+    return status;
+  }
+  if (errno != ENOENT) {
     // Otherwise its rights and its other names would be lost.
     throw FromErrno();
   }
+  return std::nullopt;
+}
+
+/// In full, for the handler of a signal may run when the working folder is another one, and with
+/// its folder cleared of what others have left.
+fs::path PlaceToWrite(const fs::path& target) {
+  std::error_code code;
+  const fs::path whole = fs::absolute(target, code);
+  RemoveLeftovers(whole.parent_path());
+  return whole;
+}
+
+class GrowingReplacement : public GrowingFile {
+ public:
+  explicit GrowingReplacement(const fs::path& target)
+      : target_(PlaceToWrite(target)),
+        before_(StatusOf(target_)),
+        beside_(target_, before_ ? ownFile : newFile, WhileWritten::Named) {
+    if (!beside_.File().IsOpen()) {
+      throw errno == ENOENT ? RuntimeError(ErrorNumber::PathNotFound) : FromErrno();
+    }
+    if (before_ && !GiveRightsOf(*before_, beside_.File())) {
+      throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
+  }
+  void Append(std::string_view bytes) override {
+    WriteAt(beside_.File(), length_, bytes);
+    length_ += bytes.size();
+  }
+  void Finish() override {
+    Flush(beside_.File());
+    if (!beside_.TakePlaceOf(target_)) {
+      throw FromErrno();
+    }
+  }
+
+ private:
+  fs::path target_;
+  std::optional<FileStatus> before_;
+  FileBeside beside_;
+  std::size_t length_ = 0;
+};
+
+}  // namespace
+
+void ReplaceOnDisk(const fs::path& target, std::string_view bytes, WhileWritten first) {
+  const fs::path whole = PlaceToWrite(target);
+  const std::optional<FileStatus> before = StatusOf(whole);
   if (before && before->st_nlink > 1) {
     WriteWhereItStands(whole, bytes);
     return;
@@ -253,6 +297,10 @@ void ReplaceOnDisk(const fs::path& target, std::string_view bytes, WhileWritten 
 
 void ReplaceOnDisk(const fs::path& target, std::string_view bytes) {
   ReplaceOnDisk(target, bytes, WhileWritten::Nameless);
+}
+
+std::unique_ptr<GrowingFile> BeginOnDisk(const fs::path& target) {
+  return std::make_unique<GrowingReplacement>(target);
 }
 
 }  // namespace trelonit

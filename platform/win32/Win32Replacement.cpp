@@ -1,3 +1,4 @@
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <random>
@@ -91,29 +92,57 @@ bool IsLetGo(const fs::path& path) {
   return FileHandle(path, GENERIC_READ, 0, OPEN_EXISTING).IsOpen();
 }
 
-/// Makes the new file of these bytes beside the target and sees it on the disk. Whatever ends the
-/// program meanwhile takes it along. False where the folder lets no file be made.
-bool WriteBeside(const fs::path& beside, Rights* rights, std::string_view bytes) {
-  FileHandle file(beside, GENERIC_WRITE | DELETE | WRITE_DAC, 0, CREATE_NEW,
+/// The new file beside the target. Whatever ends the program before it is whole takes it along.
+class FileBeside {
+ public:
+  FileBeside(const fs::path& target, Rights* rights)
+      : name_(NameForUnfinished(target, static_cast<int>(GetCurrentProcessId()))) {
+    file_.emplace(name_, GENERIC_WRITE | DELETE | WRITE_DAC, 0, CREATE_NEW,
                   rights != nullptr ? rights->ForNewFile() : nullptr);
-  if (!file.IsOpen()) {
-    if (LastFileIsMissing()) {
-      throw RuntimeError(ErrorNumber::PathNotFound);
+    if (!file_->IsOpen()) {
+      error_ = GetLastError();
+      return;
     }
-    if (GetLastError() == ERROR_ACCESS_DENIED) {
-      return false;
+    file_->SetGoesWithItsHandle(true);
+    if (rights != nullptr) {
+      rights->GiveTo(*file_);
     }
-    throw FromLastFileError();
   }
-  file.SetGoesWithItsHandle(true);
-  if (rights != nullptr) {
-    rights->GiveTo(file);
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+  ~FileBeside() {
+    if (stays_) {
+      DeleteFileW(name_.c_str());
+    }
   }
-  file.WriteAt(0, bytes);
-  file.Flush();
-  file.SetGoesWithItsHandle(false);
-  return true;
-}
+
+  /// False where the folder lets no file be made; raises what else kept it from that.
+  bool IsOpen() const {
+    if (!file_->IsOpen() && error_ != ERROR_ACCESS_DENIED) {
+      SetLastError(error_);
+      throw LastFileIsMissing() ? RuntimeError(ErrorNumber::PathNotFound) : FromLastFileError();
+    }
+    return file_->IsOpen();
+  }
+  FileHandle& File() { return *file_; }
+
+  /// False where the target stands in the way; then the system's last error is set.
+  bool TakePlaceOf(const fs::path& target) {
+    file_->Flush();
+    file_->SetGoesWithItsHandle(false);
+    stays_ = true;
+    file_.reset();
+    stays_ = !MoveFileExW(name_.c_str(), target.c_str(),
+                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    return !stays_;
+  }
+
+ private:
+  fs::path name_;
+  std::optional<FileHandle> file_;
+  DWORD error_ = ERROR_SUCCESS;
+  bool stays_ = false;
+};
 
 /// Where a copy outlives the machine's next start, otherwise where there is always room.
 fs::path FolderForCopies() {
@@ -169,14 +198,50 @@ bool HasOtherNames(const fs::path& path) {
          information.nNumberOfLinks > 1;
 }
 
-}  // namespace
-
-void ReplaceOnDisk(const fs::path& target, std::string_view bytes) {
+/// In full, with its folder cleared of what others have left.
+fs::path PlaceToWrite(const fs::path& target) {
   std::error_code code;
   const fs::path whole = fs::absolute(target, code);
   RemoveUnfinished(whole.parent_path(), [](int process, const fs::path& file) {
     return IsGone(process) && IsLetGo(file);
   });
+  return whole;
+}
+
+class GrowingReplacement : public GrowingFile {
+ public:
+  explicit GrowingReplacement(const fs::path& target) : target_(PlaceToWrite(target)) {
+    std::error_code code;
+    if (fs::exists(target_, code)) {
+      rights_.emplace(target_);
+    }
+    beside_.emplace(target_, rights_ ? &*rights_ : nullptr);
+    if (!beside_->IsOpen()) {
+      throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
+  }
+  void Append(std::string_view bytes) override {
+    beside_->File().WriteAt(length_, bytes);
+    length_ += bytes.size();
+  }
+  void Finish() override {
+    if (!beside_->TakePlaceOf(target_)) {
+      throw FromLastFileError();
+    }
+  }
+
+ private:
+  fs::path target_;
+  std::optional<Rights> rights_;
+  std::optional<FileBeside> beside_;
+  std::uint64_t length_ = 0;
+};
+
+}  // namespace
+
+void ReplaceOnDisk(const fs::path& target, std::string_view bytes) {
+  const fs::path whole = PlaceToWrite(target);
+  std::error_code code;
   std::optional<Rights> rights;
   if (fs::exists(whole, code)) {
     rights.emplace(whole);
@@ -185,26 +250,26 @@ void ReplaceOnDisk(const fs::path& target, std::string_view bytes) {
       return;
     }
   }
-  const fs::path beside = NameForUnfinished(whole, static_cast<int>(GetCurrentProcessId()));
-  if (!WriteBeside(beside, rights ? &*rights : nullptr, bytes)) {
-    if (!rights) {
-      throw RuntimeError(ErrorNumber::PermissionDenied);
+  FileBeside beside(whole, rights ? &*rights : nullptr);
+  DWORD error = ERROR_ACCESS_DENIED;
+  if (beside.IsOpen()) {
+    beside.File().WriteAt(0, bytes);
+    if (beside.TakePlaceOf(whole)) {
+      return;
     }
+    error = GetLastError();
+  }
+  // The folder lets nothing be made or removed, or another program holds the file.
+  if (rights && error == ERROR_ACCESS_DENIED) {
     WriteWhereItStands(whole, bytes);
     return;
   }
-  if (!MoveFileExW(beside.c_str(), whole.c_str(),
-                   MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-    const DWORD error = GetLastError();
-    DeleteFileW(beside.c_str());
-    // The folder lets nothing be removed, or another program holds the file.
-    if (rights && error == ERROR_ACCESS_DENIED) {
-      WriteWhereItStands(whole, bytes);
-      return;
-    }
-    SetLastError(error);
-    throw FromLastFileError();
-  }
+  SetLastError(error);
+  throw FromLastFileError();
+}
+
+std::unique_ptr<GrowingFile> BeginOnDisk(const fs::path& target) {
+  return std::make_unique<GrowingReplacement>(target);
 }
 
 }  // namespace trelonit

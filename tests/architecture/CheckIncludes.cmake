@@ -14,7 +14,7 @@ macro(rule folder)
   cmake_parse_arguments(${folder} QT "" "USES;BUT" ${ARGN})
 endmacro()
 
-set(logic platform resources analysis catalogue checks opinion workstation editor drawing)
+set(logic platform resources analysis catalogue checks opinion workstation variants editor drawing)
 
 rule(platform USES platform)
 rule(resources USES resources platform)
@@ -23,6 +23,7 @@ rule(catalogue USES catalogue platform)
 rule(checks USES checks analysis catalogue platform)
 rule(opinion USES opinion analysis catalogue checks platform)
 rule(workstation USES workstation analysis catalogue checks opinion platform)
+rule(variants USES variants workstation analysis catalogue checks opinion platform)
 rule(editor USES editor platform)
 # The schemes are drawn by any host, and the built-in one draws for anybody.
 rule(drawing/host USES drawing/host platform)

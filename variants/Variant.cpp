@@ -1,0 +1,219 @@
+#include "variants/Variant.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "analysis/Scheme.h"
+#include "analysis/modMaxProgib.h"
+#include "checks/ElementGroups.h"
+#include "opinion/Opinion.h"
+#include "platform/errors/Guard.h"
+#include "platform/values/Arithmetic.h"
+#include "variants/LoadsElsewhere.h"
+#include "variants/Refusal.h"
+#include "workstation/design/OpinionSelection.h"
+#include "workstation/design/OwnWeight.h"
+#include "workstation/design/ProgibResult.h"
+#include "workstation/design/SecondOpinion.h"
+#include "workstation/design/Selection.h"
+#include "workstation/design/modHelper.h"
+#include "workstation/results/ResultPicture.h"
+
+namespace trelonit {
+
+namespace {
+
+/// The analysis input of these inputs, with the end panels that the scheme asks for.
+TreloData DataOf(const DesignInputs& inputs) {
+  TreloData data;
+  static_cast<LoadArrays&>(data) = inputs.Loads;
+  data.TreloType = inputs.TreloType;
+  data.UpPoyasBrace = inputs.UpPoyasBrace;
+  data.DownPoyasBrace = inputs.DownPoyasBrace;
+  data.LengthF = inputs.LengthF;
+  data.Hight = inputs.Hight;
+  data.PanelNum = inputs.PanelNum;
+  const Scheme* scheme = FindScheme(inputs.TreloType);
+  const bool own = scheme != nullptr && scheme->OwnEndPanels && inputs.LenOporn > 0;
+  data.LenOporn = own ? Real(inputs.LenOporn) : Real(inputs.LengthF) / inputs.PanelNum;
+  return data;
+}
+
+/// What makes a truss of four sizes.
+void RequireGeometry(const DesignInputs& inputs) {
+  const Scheme* scheme = FindScheme(inputs.TreloType);
+  if (scheme == nullptr || scheme->Reserved) {
+    Refuse("схема " + std::to_string(inputs.TreloType) + " не рассчитывается");
+  }
+  if (!scheme->HasPanelNum(inputs.PanelNum) || inputs.PanelNum > mostPanels) {
+    Refuse("в схеме " + std::to_string(inputs.TreloType) +
+           " не бывает панелей: " + std::to_string(inputs.PanelNum));
+  }
+  if (!(inputs.LengthF > 0) || !(inputs.Hight > 0)) {
+    Refuse("пролет и высота должны быть больше нуля");
+  }
+  if (!(inputs.LengthF > inputs.Hight)) {
+    Refuse("высота не меньше пролета");
+  }
+  if (scheme->OwnEndPanels && !(2 * inputs.LenOporn < inputs.LengthF)) {
+    Refuse("крайние панели длиннее фермы");
+  }
+}
+
+bool SameTruss(const TreloData& a, const TreloData& b) {
+  return a.TreloType == b.TreloType && a.LengthF == b.LengthF && a.LenOporn == b.LenOporn &&
+         a.PanelNum == b.PanelNum;
+}
+
+/// The maker of one variant.
+class Making {
+ public:
+  Making(Variant& variant, const VariantRules& rules, const ProfileTypeArray& catalogue)
+      : variant_(variant), inputs_(variant.Inputs), rules_(rules), catalogue_(catalogue) {}
+
+  void Run(const DesignInputs& base) {
+    RequireGeometry(inputs_);
+    BringLoads(base);
+    const SelectionProposal last = rules_.ByOpinion ? SelectByBoth() : SelectUntilNothingChanges();
+    variant_.Mass = calculation_.CheckData.Mass;
+    PutUse();
+    PutProgib();
+    Judge(last);
+  }
+
+ private:
+  void BringLoads(const DesignInputs& base) {
+    const TreloData from = DataOf(base);
+    const TreloData to = DataOf(inputs_);
+    if (!SameTruss(from, to)) {
+      inputs_.Loads = LoadsElsewhere(from, to);
+    }
+  }
+
+  Design DesignNow() const {
+    return {.TreloData = DataOf(inputs_), .ElementSection = inputs_.ElementSection};
+  }
+
+  void CalculateNow() {
+    const CheckNumbers numbers = CheckNumbersOf(inputs_);
+    Outcome<Calculation> outcome = Calculate(DesignNow(), numbers);
+    if (!outcome.Told.empty()) {
+      Refuse(outcome.Told.front().Text);
+    }
+    calculation_ = std::move(outcome.Value);
+    if (inputs_.OwnWeightOn != 0) {
+      calculation_ = CalculateWithOwnWeight(DesignNow(), numbers);
+    }
+  }
+
+  SelectionProposal SelectUntilNothingChanges() {
+    for (;;) {
+      ++variant_.Rounds;
+      CalculateNow();
+      Messages told;
+      SelectionProposal proposal = SelectSections(calculation_, catalogue_, told);
+      if (!told.empty()) {
+        Refuse(told.front().Text);
+      }
+      if (variant_.Rounds >= lastFreeRound) {
+        KeepFromShrinking(proposal.Sections);
+      }
+      if (proposal.Sections == inputs_.ElementSection) {
+        return proposal;
+      }
+      inputs_.ElementSection = proposal.Sections;
+    }
+  }
+
+  void KeepFromShrinking(SectionArray& sections) const {
+    for (Long place = 1; place <= sectionCount; ++place) {
+      const SectionRec& before = inputs_.ElementSection[place];
+      if (sections[place].SizeIdx <= before.SizeIdx) {
+        sections[place] = before;
+      }
+    }
+  }
+
+  SelectionProposal SelectByBoth() {
+    SelectionProposal proposal =
+        SelectByOpinion(DesignNow(), catalogue_, CheckNumbersOf(inputs_), inputs_.OwnWeightOn != 0);
+    variant_.Rounds = proposal.Rounds;
+    inputs_.ElementSection = proposal.Sections;
+    calculation_ = *proposal.Settled;
+    return proposal;
+  }
+
+  void PutUse() {
+    std::optional<Opinion> opinion;
+    if (rules_.ByOpinion) {
+      opinion = FormOpinion(Judged(calculation_));
+      if (opinion->HasRefused()) {
+        Refuse(opinion->Refusal);
+      }
+    }
+    for (const ElementGroupRow& row : elementGroups) {
+      if (row.Group == ElementGroup::Stoyka && !HasVerticals(inputs_.TreloType)) {
+        continue;
+      }
+      double& use = variant_.Use[static_cast<std::size_t>(row.Place) - 1];
+      use = LargestUse(calculation_.CheckData.*row.Block);
+      if (const GroupJudgement* group = opinion ? opinion->FindGroup(row.Group) : nullptr) {
+        use = std::max(use, LargestFigure(*group));
+      }
+    }
+  }
+
+  void PutProgib() {
+    const Outcome<double> progib =
+        CalcProgib(calculation_.TreloData, calculation_.TreloResult, calculation_.CheckData,
+                   inputs_.ProgibUpper != 0, calculation_.Numbers.E);
+    variant_.Progib = progib.Value;
+  }
+
+  void Judge(const SelectionProposal& proposal) {
+    if (!proposal.Impossible.empty()) {
+      std::string groups;
+      for (const GroupOption group : proposal.Impossible) {
+        groups += (groups.empty() ? "" : ", ") + GroupName(group);
+      }
+      Refuse("Подбор невозможен: " + groups);
+    }
+    variant_.Verdict = VariantVerdict::Fails;
+    if (!calculation_.TreloResult.Balanced) {
+      variant_.Reason = "усилия не уравновешены";
+    } else if (*std::max_element(variant_.Use.begin(), variant_.Use.end()) > 1) {
+      variant_.Reason = "коэффициент использования больше 1";
+    } else if (inputs_.ProgibOn != 0 &&
+               !JudgeProgib(variant_.Progib, inputs_.LengthF, inputs_.LenLim, NumberLocale{})
+                    .Satisfied) {
+      variant_.Reason = "прогиб больше предельного";
+    } else {
+      variant_.Verdict = VariantVerdict::Passes;
+    }
+  }
+
+  Variant& variant_;
+  DesignInputs& inputs_;
+  const VariantRules& rules_;
+  const ProfileTypeArray& catalogue_;
+  Calculation calculation_;
+};
+
+}  // namespace
+
+Variant MakeVariant(const VariantSpace& space, std::uint64_t number, const VariantRules& rules,
+                    const ProfileTypeArray& catalogue) {
+  Variant variant{.Number = number, .Inputs = space.At(number)};
+  try {
+    Making(variant, rules, catalogue).Run(space.Base());
+  } catch (...) {
+    variant = {.Number = number,
+               .Inputs = std::move(variant.Inputs),
+               .Reason = ErrorInHand().Description(),
+               .Rounds = variant.Rounds};
+  }
+  return variant;
+}
+
+}  // namespace trelonit

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "variants/Variant.h"
+
+namespace trelonit {
+
+// Variants as rows of a table, after RFC 4180: a comma between the fields, CRLF behind a row,
+// quotes where a field holds either; numbers with a decimal point, as short as they can be to be
+// read back unchanged; UTF-8. Rows do not depend on one another.
+
+/// The names of the columns, with their units.
+std::vector<std::string> VariantColumns();
+
+/// A variant's fields, as many as there are columns. Figures of one that is impossible are empty.
+std::vector<std::string> VariantFields(const Variant& variant);
+
+/// One row.
+std::string CsvRow(const std::vector<std::string>& fields);
+
+/// What the table calls it.
+std::string_view VerdictName(VariantVerdict verdict);
+
+}  // namespace trelonit
