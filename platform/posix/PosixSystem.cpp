@@ -69,6 +69,14 @@ fs::path UserDataFolder() {
   return HomeFolder() / ".local/share/trelonit";
 }
 
+fs::path UserStateFolder() {
+  const char* state = std::getenv("XDG_STATE_HOME");
+  if (state != nullptr && state[0] == '/') {
+    return fs::path(state) / "trelonit";
+  }
+  return HomeFolder() / ".local/state/trelonit";
+}
+
 std::tm LocalTime(std::time_t time) {
   std::tm local{};
   localtime_r(&time, &local);

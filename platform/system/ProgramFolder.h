@@ -11,6 +11,10 @@ std::filesystem::path ExecutablePath();
 /// The program's folder in the user's data folder, whether or not it is there.
 std::filesystem::path UserDataFolder();
 
+/// The program's folder among what programs of the user keep between their runs - recovery copies,
+/// claims -, whether or not it is there.
+std::filesystem::path UserStateFolder();
+
 /// The folder that this program was started from; empty where the system does not tell.
 std::filesystem::path ExecutableFolder();
 

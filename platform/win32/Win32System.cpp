@@ -37,6 +37,10 @@ std::filesystem::path UserDataFolder() {
   return std::filesystem::path(base != nullptr ? base : L".") / "trelonit";
 }
 
+std::filesystem::path UserStateFolder() {
+  return UserDataFolder() / "state";
+}
+
 std::tm LocalTime(std::time_t time) {
   std::tm local{};
   localtime_s(&local, &time);
