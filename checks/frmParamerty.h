@@ -14,6 +14,8 @@ struct SteelTexts {
   std::string ModulYung = "210000";
   std::string DensitSteel = "7.850";
   std::string LimitFlex = "150";
+
+  friend bool operator==(const SteelTexts&, const SteelTexts&) = default;
 };
 
 /// The window of the elastic modulus, the density and the user's limit slenderness, caption

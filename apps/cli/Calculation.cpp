@@ -5,7 +5,6 @@
 namespace trelonit::cli {
 
 bool Restore(ConsoleSession& session, const std::string& project) {
-  constexpr Integer calculateTab = 2;
   if (!session.Start()) {
     return false;
   }

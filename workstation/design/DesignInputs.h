@@ -39,6 +39,8 @@ struct DesignInputs {
   Integer PForceTool = 0;
   LoadArrays Loads;
   bool ReservedFlag = false;
+
+  friend bool operator==(const DesignInputs&, const DesignInputs&) = default;
 };
 
 /// What the checks read of it.

@@ -1,5 +1,7 @@
 #include "workstation/design/Loads.h"
 
+#include <cmath>
+
 #include "analysis/Scheme.h"
 #include "platform/values/Arithmetic.h"
 
@@ -17,6 +19,21 @@ BoundedArray<double> Resized(const BoundedArray<double>& values, Long upper) {
   BoundedArray<double> resized = values;
   resized.ResizeUpper(upper);
   return resized;
+}
+
+Long LostValues(const BoundedArray<double>& before, const BoundedArray<double>& after,
+                double ownWeight) {
+  constexpr double rounding = 1e-9;
+  const Long last = after.IsAllocated() ? after.UpperBound() : -1;
+  Long lost = 0;
+  Long place = 0;
+  for (const double load : before) {
+    const bool carried = std::abs(load - ownWeight) > rounding;
+    const bool gone = place > last || after[place] == 0;
+    lost += carried && gone ? 1 : 0;
+    ++place;
+  }
+  return lost;
 }
 
 }  // namespace
@@ -52,6 +69,13 @@ void AddToDistributedLoads(LoadArrays& loads, double perMetre) {
   for (double& panel : loads.DwnDistForce) {
     panel = Real(panel) + perMetre;
   }
+}
+
+Long LoadsLost(const LoadArrays& before, const LoadArrays& after, double ownWeight) {
+  return LostValues(before.UpPForce, after.UpPForce, 0) +
+         LostValues(before.UpDistForce, after.UpDistForce, ownWeight) +
+         LostValues(before.DwnPForce, after.DwnPForce, 0) +
+         LostValues(before.DwnDistForce, after.DwnDistForce, ownWeight);
 }
 
 Long LastKnotNum(bool upper, Long treloType, Long panelNum) {

@@ -16,6 +16,11 @@ void ClearLoads(LoadArrays& loads, Long treloType, Long panelNum);
 /// Adds this much, tonnes per metre, to every panel of both chords; negative to subtract.
 void AddToDistributedLoads(LoadArrays& loads, double perMetre);
 
+/// How many loads of the user's are gone after the arrays were cut or cleared: those of joints and
+/// panels that are not there any more or carry nothing now. Own weight inside the distributed
+/// loads, tonnes per metre, is none of the user's.
+Long LoadsLost(const LoadArrays& before, const LoadArrays& after, double ownWeight);
+
 /// Highest joint and panel number of a chord, from 0; -1 for a scheme that has no table.
 Long LastKnotNum(bool upper, Long treloType, Long panelNum);
 Long LastPanelNum(bool upper, Long treloType, Long panelNum);

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <istream>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -99,6 +100,8 @@ class ProjectReader {
  public:
   ProjectReader(const Lines& lines, const NumberLocale& locale) : locale_(locale), lines_(lines) {}
 
+  DesignInputs Record(const ProfileTypeArray& catalogue);
+
   const std::string& NextItem() {
     if (next_ < lines_.size()) {
       item_ = DecodeCodePage1251(Unquote(lines_[next_++]));
@@ -171,7 +174,32 @@ void ForEachField(Archive& archive, Record& record, SectionStep&& section) {
   archive(record.Loads.DwnDistForce);
 }
 
+/// The fields behind the first line.
+DesignInputs ProjectReader::Record(const ProfileTypeArray& catalogue) {
+  DesignInputs record;
+  auto get = [this](auto& field) { Get(field); };
+  ForEachField(get, record, [&catalogue](SectionRec& section) {
+    PassOver([&] { section.Profile = catalogue[section.TypeIdx].Rec[section.SizeIdx]; });
+  });
+  return record;
+}
+
 }  // namespace
+
+bool IsProjectText(const std::string& bytes) {
+  std::istringstream stream(bytes);
+  const Lines lines = ReadLines(stream);
+  return lines.size() == projectLineCount && Unquote(lines.front()) == header;
+}
+
+DesignInputs ProjectOfText(const std::string& bytes, const ProfileTypeArray& catalogue,
+                           const NumberLocale& locale) {
+  std::istringstream stream(bytes);
+  const Lines lines = ReadLines(stream);
+  ProjectReader reader(lines, locale);
+  reader.NextItem();
+  return reader.Record(catalogue);
+}
 
 std::string ProjectText(const DesignInputs& record, const NumberLocale& locale) {
   ProjectWriter writer(locale);
@@ -217,12 +245,7 @@ DesignInputs ReadApplParameters(const std::string& fileName, const ProfileTypeAr
                             .Text = "Ошибка считывания первой строки файла сохранения !",
                             .Style = MessageStyle::Critical});
   }
-  DesignInputs record;
-  auto get = [&reader](auto& field) { reader.Get(field); };
-  ForEachField(get, record, [&catalogue](SectionRec& section) {
-    PassOver([&] { section.Profile = catalogue[section.TypeIdx].Rec[section.SizeIdx]; });
-  });
-  return record;
+  return reader.Record(catalogue);
 }
 
 }  // namespace trelonit

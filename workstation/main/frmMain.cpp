@@ -17,9 +17,6 @@ constexpr Integer nodalToolIcon = 102;
 constexpr Integer distributedToolIcon = 103;
 constexpr int captionInterval = 200;
 constexpr std::size_t longestUserName = 25;
-constexpr Integer schemeTab = 0;
-constexpr Integer sectionTab = 1;
-constexpr Integer calculateTab = 2;
 
 /// A window that this program does not have opens as nothing.
 void Open(const std::function<void()>& opener) {
@@ -130,44 +127,52 @@ void frmMain::LoadCatalogue() {
 }
 
 void frmMain::ConnectEvents() {
-  tabMain.Click = [this](Integer previous) { tabMain_Click(previous); };
-  cmbPanelNum.Click = [this] { cmbPanelNum_Click(); };
+  // Showing a state is no work of the user's: no handler runs by it.
+  const auto live = [this](auto handler) {
+    return [this, handler](auto... arguments) {
+      if (!showing_) {
+        handler(arguments...);
+      }
+    };
+  };
+  tabMain.Click = live([this](Integer previous) { tabMain_Click(previous); });
+  cmbPanelNum.Click = live([this] { cmbPanelNum_Click(); });
   for (Integer option = 1; option <= 4; ++option) {
-    optUpPoyas[option].Click = [this, option] { Model.Inputs.UpPoyasBrace = option; };
-    optDownPoyas[option].Click = [this, option] { Model.Inputs.DownPoyasBrace = option; };
+    optUpPoyas[option].Click = live([this, option] { Model.Inputs.UpPoyasBrace = option; });
+    optDownPoyas[option].Click = live([this, option] { Model.Inputs.DownPoyasBrace = option; });
   }
-  chkProgib.Click = [this] { chkProgib_Click(); };
+  chkProgib.Click = live([this] { chkProgib_Click(); });
   // The shown deflection is dropped as soon as anything that it depends on moves.
   const auto dropProgib = [this] { txtProgib.SetText(""); };
   const auto changeGeometry = [this] {
     txtProgib.SetText("");
     RefreshBracingLengths();
   };
-  txtLengthF.Change = changeGeometry;
-  txtHight.Change = dropProgib;
-  txtLenOporn.Change = changeGeometry;
+  txtLengthF.Change = live(changeGeometry);
+  txtHight.Change = live(dropProgib);
+  txtLenOporn.Change = live(changeGeometry);
   // The two chords share a frame: choosing one clears the other.
-  optBP.Click = [this, dropProgib] {
+  optBP.Click = live([this, dropProgib] {
     optNP.SetValue(false);
     dropProgib();
-  };
-  optNP.Click = [this, dropProgib] {
+  });
+  optNP.Click = live([this, dropProgib] {
     optBP.SetValue(false);
     dropProgib();
-  };
+  });
 
   for (Long option = 1; option <= groupCount; ++option) {
-    optElementSection[option].Click = [this, option] { optElementSection_Click(option); };
+    optElementSection[option].Click = live([this, option] { optElementSection_Click(option); });
   }
-  cmbTypeProfile.Click = [this] { cmbTypeProfile_Click(); };
-  cmbSectType.Click = [this] { cmbSectType_Click(); };
-  cmbGdist.Click = [this] { cmbGdist_Click(); };
+  cmbTypeProfile.Click = live([this] { cmbTypeProfile_Click(); });
+  cmbSectType.Click = live([this] { cmbSectType_Click(); });
+  cmbGdist.Click = live([this] { cmbGdist_Click(); });
 
-  cmbKnotNum.Click = [this] { cmbKnotNum_Click(); };
-  tglUpPoyas.Click = [this] { tglUpPoyas_Click(); };
-  tglDwnPoyas.Click = [this] { tglDwnPoyas_Click(); };
-  chkAllPanels.Click = [this] { chkAllPanels_Click(); };
-  chkOwnWeight.Click = [this] { chkOwnWeight_Click(); };
+  cmbKnotNum.Click = live([this] { cmbKnotNum_Click(); });
+  tglUpPoyas.Click = live([this] { tglUpPoyas_Click(); });
+  tglDwnPoyas.Click = live([this] { tglDwnPoyas_Click(); });
+  chkAllPanels.Click = live([this] { chkAllPanels_Click(); });
+  chkOwnWeight.Click = live([this] { chkOwnWeight_Click(); });
 }
 
 void frmMain::tabMain_Click(Integer previousTab) {

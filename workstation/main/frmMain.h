@@ -10,6 +10,7 @@
 #include "platform/forms/Controls.h"
 #include "platform/system/Services.h"
 #include "workstation/design/DesignModel.h"
+#include "workstation/design/DesignState.h"
 #include "workstation/design/ElementGroups.h"
 #include "workstation/design/ProjectFile.h"
 #include "workstation/design/Selection.h"
@@ -42,6 +43,17 @@ class frmMain {
     std::function<void()> EndProgram;
   };
 
+  /// Who keeps the project's file round the commands that save and restore it. Nobody where the
+  /// form stands alone.
+  struct ProjectKeeper {
+    /// Whether the design may give way to another one: nothing of it is lost, or the user says so.
+    std::function<bool()> MayLeave;
+    /// Whether the file of this name may be written; what forbids it has been told.
+    std::function<bool(const std::string& name)> MayWrite;
+    std::function<void(const std::string& name)> Saved;
+    std::function<void(const std::string& name)> Opened;
+  };
+
   /// An entry of a menu, or a menu with entries.
   struct MenuItem {
     std::string Name;
@@ -57,6 +69,7 @@ class frmMain {
   ~frmMain() = default;
 
   DesignModel Model;
+  ProjectKeeper Keeper;
 
   // --- start, tabs, menus (frmMain.cpp)
   void Form_Load();
@@ -64,6 +77,7 @@ class frmMain {
   std::vector<MenuItem> Menus();
   /// The entry with this name; one without a command, disabled, where there is none.
   MenuItem FindMenuItem(const std::string& name);
+  const NumberLocale& Locale() const { return services_.Locale; }
   bool HasSteelWindow() const { return static_cast<bool>(openers_.ShowSteel); }
   void mnuCalc_Click();
   void mnuSearch_Click();
@@ -112,6 +126,8 @@ class frmMain {
   void chkAllPanels_Click();
   void cmdAddForce_Click();
   void cmdClearLoads_Click();
+  /// Puts other loads in the place of all, as a table of them does.
+  void ReplaceLoads(const LoadArrays& loads);
   void chkOwnWeight_Click();
 
   // --- commands (frmMainCalculate.cpp)
@@ -126,6 +142,8 @@ class frmMain {
   const DesignInputs& ReadInputs();
 
   // --- beside the inputs and the results (frmMainOpinion.cpp)
+  /// The truss as the boxes have it, whatever the geometry check said of it.
+  TreloData ShownGeometry();
   /// Subtracts the own weight that a restored project had in its loads already.
   void cmdTakeOwnWeightOut_Click();
   /// Leaves it there: it is the user's own load.
@@ -134,6 +152,17 @@ class frmMain {
   /// it is calculated as this one was. Does nothing where none is inside.
   void WithdrawOwnWeightFromLoads();
 
+  // --- the whole design, to be kept and shown again (frmMainState.cpp)
+  /// What the form holds and shows at present.
+  DesignState State();
+  /// Shows a design that was kept, with all that follows from it, on the tab that the place names.
+  /// It is no work of the user's: no handler runs and nothing is told. Sizes that the geometry
+  /// check would let through are taken; with others the first tab is up.
+  void ShowState(const DesignState& state, const DesignPlace& place);
+  /// How many of the user's loads the handlers have dropped since this was last asked, because
+  /// their joints and panels are gone or the loads were cleared.
+  Long TakeLoadsLost();
+
   // --- project files (frmMainProject.cpp)
   // Each returns whether the command was carried out.
   bool SaveParam_Click();
@@ -141,6 +170,8 @@ class frmMain {
   // The same with a name that is known, without a dialog; the messages are the commands'.
   bool SaveProject(const std::string& name);
   bool OpenProject(const std::string& name);
+  /// Saves over the file of this name without a question.
+  bool ReplaceProject(const std::string& name);
 
   // --- controls
   Label Form;
@@ -208,6 +239,8 @@ class frmMain {
   LoadPreview Preview;
   /// Called after the schematic of the loads has changed.
   std::function<void()> PreviewChanged;
+  /// Called beside it: the loads, their places or the chosen one may be others.
+  std::function<void()> LoadsChanged;
 
   Label lblStillName;
   TextBox txtRy;
@@ -231,13 +264,15 @@ class frmMain {
   void ShowScheme(Long scheme);
   void RefreshHopt();
   void ShowVerticals(bool shown);
+  /// Whether the end panels have a length of their own.
+  void ShowEndPanels(bool own);
+  /// What the geometry check does with sizes that are fine, and nothing for others: false.
+  bool TakeGeometry();
   void WarnProportions();
 
   void ColourGroup(Long option);
   Long SelectedGroup() const { return optElementSection.Selected(); }
   SectionRec& SelectedSection();
-  /// The truss as the boxes have it, whatever the geometry check said of it.
-  TreloData ShownGeometry();
   void RefreshBracingLengths();
   void RefreshSectionSource(const SectionRec& section);
   /// Looks for it in the loads as they stand.
@@ -252,6 +287,7 @@ class frmMain {
   void FillSizes(Long typeIdx);
   void WithdrawOwnWeightOfOldSection();
 
+  void CountLostLoads(const LoadArrays& before);
   void FillKnotList(bool upper);
   void FillList(Long last);
   /// Takes own weight out of the loads; false, with a message, where no amount is inside.
@@ -292,10 +328,18 @@ class frmMain {
   void ShowWhatBrokeOff();
   void ShowInputs(const DesignInputs& record);
 
+  void ShowGeometryOf(const DesignState& state);
+  void ShowTextsOf(const DesignState& state);
+  void ShowSectionsOf(Long option);
+  void ShowLoadsAgain();
+
   Services services_;
   Openers openers_;
   RunningCaption runningCaption_;
   Long waitCounter_ = 1;
+  // While a state is shown the events of the controls are nobody's work.
+  bool showing_ = false;
+  Long loadsLost_ = 0;
   // Own weight that the loads of the restored project seem to hold, until the user has decided.
   std::optional<double> ownWeightInside_;
   // The sections of the last proposal that was taken over.

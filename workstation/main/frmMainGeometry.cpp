@@ -36,8 +36,7 @@ void frmMain::imgTreloType_Click(Long scheme) {
       cmbPanelNum.Clear();
       FillPanelNum(now.FewestPanels, now.PanelStep);
       cmbPanelNum.Select(0);
-      txtLenOporn.SetEnabled(now.OwnEndPanels);
-      txtLenOporn.SetBackColor(now.OwnEndPanels ? colorWindowBackground : colorDisabledGrey);
+      ShowEndPanels(now.OwnEndPanels);
     }
     ShowVerticals(now.HasVerticals);
     ReDimLoadArrays();
@@ -45,6 +44,11 @@ void frmMain::imgTreloType_Click(Long scheme) {
     RefreshHopt();
     RefreshBracingLengths();
   });
+}
+
+void frmMain::ShowEndPanels(bool own) {
+  txtLenOporn.SetEnabled(own);
+  txtLenOporn.SetBackColor(own ? colorWindowBackground : colorDisabledGrey);
 }
 
 void frmMain::ShowVerticals(bool shown) {
@@ -115,13 +119,28 @@ void frmMain::WriteGdist() {
   }
 }
 
-void frmMain::CheckGeometry() {
+bool frmMain::TakeGeometry() {
   const DesignInputs& inputs = ReadInputs();
   const Real L = inputs.LengthF;
   const Real H = inputs.Hight;
   Real a = inputs.LenOporn;
   const Long n = PanelNum();
   if (!(L > 0.0) || !(H > 0.0)) {
+    return false;
+  }
+  AcceptedGeometry& accepted = Model.Accepted;
+  accepted.LengthF = L;
+  accepted.Hight = H;
+  accepted.PanelNum = n;
+  if (!FindScheme(inputs.TreloType)->OwnEndPanels || !(a > 0.0)) {
+    a = L / n;
+  }
+  accepted.LenOporn = a;
+  return true;
+}
+
+void frmMain::CheckGeometry() {
+  if (!TakeGeometry()) {
     tabMain.SetTab(0);
     services_.Messages.Show({.Title = warningTitle,
                              .Text = "Неверно заданы геометрические параметры фермы.\n"
@@ -129,15 +148,8 @@ void frmMain::CheckGeometry() {
                              .Style = MessageStyle::Critical});
     return;
   }
-  AcceptedGeometry& accepted = Model.Accepted;
-  accepted.LengthF = L;
-  accepted.Hight = H;
-  accepted.PanelNum = n;
-  const Scheme& scheme = *FindScheme(inputs.TreloType);
-  if (!scheme.OwnEndPanels || !(a > 0.0)) {
-    a = L / n;
-  }
-  accepted.LenOporn = a;
+  const Real L = Model.Accepted.LengthF;
+  const Real H = Model.Accepted.Hight;
   if (!(L > H)) {
     services_.Messages.Show({.Title = warningTitle,
                              .Text = "Высота фермы превышает ее длинну !\n"
@@ -148,8 +160,10 @@ void frmMain::CheckGeometry() {
   }
   // 2.2 is the tangent of about 65.6 degrees for a diagonal across one panel, 4.4 across half a
   // panel.
-  const Real slope = H * n / L;
-  const bool steep = scheme.DiagonalsSpanHalfPanels() ? slope > 4.4 : slope > 2.2 || H / a > 2.2;
+  const Real slope = H * Model.Accepted.PanelNum / L;
+  const bool steep = FindScheme(Model.Inputs.TreloType)->DiagonalsSpanHalfPanels()
+                         ? slope > 4.4
+                         : slope > 2.2 || H / Model.Accepted.LenOporn > 2.2;
   if (steep) {
     WarnProportions();
   }

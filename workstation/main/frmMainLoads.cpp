@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "checks/CheckFormulas.h"
 #include "platform/errors/Guard.h"
 #include "platform/system/ProgramNames.h"
@@ -16,9 +18,19 @@ constexpr Integer distributedPreviewBitmap = 310;
 }  // namespace
 
 void frmMain::ReDimLoadArrays() {
+  const LoadArrays before = Model.Inputs.Loads;
   Guard(services_.Messages, "ReDimLoadArrays",
         [&] { ReDimLoads(Model.Inputs.Loads, Model.Inputs.TreloType, PanelNum()); });
+  CountLostLoads(before);
   SetOwnWeightInside(std::nullopt);
+}
+
+void frmMain::CountLostLoads(const LoadArrays& before) {
+  loadsLost_ += LoadsLost(before, Model.Inputs.Loads, InsideOf(Model.OwnWeight));
+}
+
+Long frmMain::TakeLoadsLost() {
+  return std::exchange(loadsLost_, 0);
 }
 
 void frmMain::FillList(Long last) {
@@ -58,6 +70,9 @@ void frmMain::ChooseLoadTool(bool nodal) {
 void frmMain::NotifyPreview() {
   if (PreviewChanged) {
     PreviewChanged();
+  }
+  if (LoadsChanged) {
+    LoadsChanged();
   }
 }
 
@@ -175,7 +190,9 @@ void frmMain::cmdAddForce_Click() {
 
 void frmMain::cmdClearLoads_Click() {
   Guard(services_.Messages, "cmdClearLoads_Click", [&] {
+    const LoadArrays before = Model.Inputs.Loads;
     ClearLoads(Model.Inputs.Loads, Model.Inputs.TreloType, PanelNum());
+    CountLostLoads(before);
     Preview.ClearLoadMarks();
     Model.OwnWeight = {};
     chkOwnWeight.SetChecked(false);

@@ -24,6 +24,10 @@ bool frmMain::SaveProject(const std::string& name) {
   return SaveTo([&] { return MayReplace(name, services_) ? name : std::string(); });
 }
 
+bool frmMain::ReplaceProject(const std::string& name) {
+  return SaveTo([&] { return name; });
+}
+
 bool frmMain::SaveTo(const std::function<std::string()>& nameOfFile) {
   bool saved = false;
   Guard(services_.Messages, "Save comand", [&] {
@@ -32,7 +36,13 @@ bool frmMain::SaveTo(const std::function<std::string()>& nameOfFile) {
       services_.Messages.Show({.Text = "Сохранение отменено !"});
       return;
     }
+    if (Keeper.MayWrite && !Keeper.MayWrite(name)) {
+      return;
+    }
     saved = WriteApplParameters(name, CollectProject(), services_);
+    if (saved && Keeper.Saved) {
+      Keeper.Saved(name);
+    }
   });
   return saved;
 }
@@ -83,6 +93,9 @@ bool frmMain::OpenProject(const std::string& name) {
 }
 
 bool frmMain::RestoreFrom(const std::function<std::string()>& nameOfFile) {
+  if (Keeper.MayLeave && !Keeper.MayLeave()) {
+    return false;
+  }
   bool restored = false;
   bool begun = false;
   Guard(services_.Messages, "Restore comand", [&] {
@@ -95,6 +108,9 @@ bool frmMain::RestoreFrom(const std::function<std::string()>& nameOfFile) {
     begun = true;
     ApplyProject(record);
     restored = true;
+    if (Keeper.Opened) {
+      Keeper.Opened(name);
+    }
   });
   if (begun && !restored) {
     ShowWhatBrokeOff();
@@ -126,6 +142,8 @@ void frmMain::ApplyProject(const DesignInputs& record) {
   Model.Inputs.Loads = record.Loads;
   // Own weight that was saved inside the loads stays there as if the user had entered it.
   Model.OwnWeight = {};
+  // The loads before were those of another project.
+  loadsLost_ = 0;
   takenSections_.reset();
   ChooseLoadTool(record.PForceTool != 0);
   // Before the chord changes too: its click shows loads for which there must be marks.
