@@ -13,6 +13,7 @@
 #include "windows/editor/AssocWindow.h"
 #include "windows/editor/DateWindow.h"
 #include "windows/help/HelpFile.h"
+#include "windows/main/DocumentDesk.h"
 #include "windows/office/OfficeWorkFolder.h"
 #include "windows/results/KoeffOfUseWindow.h"
 
@@ -77,16 +78,22 @@ QWidget* DesktopSession::Parent() const {
 
 void DesktopSession::Start(const std::string& commandLine) {
   program_.Main().Form_Load();
+  document_.emplace(program_.Main(), Bundle(), StateFolder(UserStateFolder()));
   window_ = std::make_unique<MainWindow>(program_.Main(), settings_);
+  new DocumentDesk(*document_, *window_, settings_);
   window_->show();
   // After the first paint: there may be a file to copy, and folders of a killed session to remove.
   QTimer::singleShot(0, window_.get(), [] {
     PlaceHelpFile(InstalledHelpFile(ExecutableFolder()), FindProgramFolder());
     RemoveLeftWorkFolders();
   });
-  if (!commandLine.empty()) {
-    // Once the events run: the document window waits for its end.
-    QTimer::singleShot(0, window_.get(), [this, commandLine] { program_.Open(commandLine); });
+  // Once the events run: the document window waits for its end.
+  QTimer::singleShot(0, window_.get(), [this, commandLine] { OpenFirst(commandLine); });
+}
+
+void DesktopSession::OpenFirst(const std::string& commandLine) {
+  if (!document_->OfferRecovery() && !commandLine.empty()) {
+    program_.Open(commandLine);
   }
 }
 

@@ -12,6 +12,7 @@
 #include "windows/office/ConversionProgress.h"
 #include "windows/office/OfficeAutomation.h"
 #include "windows/services/DesktopServices.h"
+#include "workstation/document/ProjectDocument.h"
 
 namespace trelonit {
 
@@ -29,6 +30,8 @@ class DesktopSession {
 
  private:
   Services Bundle();
+  /// What a program that did not end has left comes first; then the file of the command line.
+  void OpenFirst(const std::string& commandLine);
   Program::Windows MakeWindows();
   void ShowOtchet(frmOtchetMain& form);
   std::string PdfWithDrawings(const RichTextBox& document, const std::string& title,
@@ -73,6 +76,7 @@ class DesktopSession {
   // There while a document is shown.
   std::unique_ptr<OtchetWindow> otchet_;
   // Made once the form is loaded: the window shows what is there.
+  std::optional<ProjectDocument> document_;
   std::unique_ptr<MainWindow> window_;
 };
 

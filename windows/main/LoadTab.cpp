@@ -12,6 +12,7 @@
 #include "windows/binding/OneTabStop.h"
 #include "windows/binding/PictureWidgets.h"
 #include "windows/binding/Pictures.h"
+#include "windows/main/LoadDesk.h"
 #include "windows/main/LoadPreviewView.h"
 
 namespace trelonit {
@@ -38,11 +39,16 @@ LoadTab::LoadTab(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) 
 }
 
 void LoadTab::AddPreview(QBoxLayout* column) {
-  auto* box = AddGroup<QVBoxLayout>(column, QStringLiteral("Схема нагружения поясов фермы"), 1);
+  auto* row = new QHBoxLayout;
+  column->addLayout(row, 1);
+  auto* box = AddGroup<QVBoxLayout>(row, QStringLiteral("Схема нагружения поясов фермы"), 1);
   auto* view = new LoadPreviewView(form_);
   view->setObjectName(QStringLiteral("Picture1"));
   view->setAccessibleName(QStringLiteral("Схема нагружения поясов фермы"));
-  box->addWidget(view);
+  box->addWidget(view, 1);
+  auto* loads = new LoadDesk(form_, this);
+  loads->AddPicture(box);
+  loads->AddTable(row);
 }
 
 void LoadTab::AddEntry(QBoxLayout* column) {

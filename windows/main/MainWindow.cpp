@@ -12,6 +12,7 @@
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
 #include "windows/help/HelpKey.h"
+#include "windows/main/HistoryDesk.h"
 #include "windows/main/LoadTab.h"
 #include "windows/main/LockKeys.h"
 #include "windows/main/NoticeViews.h"
@@ -61,14 +62,16 @@ MainWindow::MainWindow(frmMain& form, SettingsService& settings)
   auto* column = new QVBoxLayout(body);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
+  AddMenus();
+  history_ = new HistoryDesk(form_, *this);
   column->addWidget(NewOwnWeightBanner());
+  column->addWidget(history_->NewLoadsLostBanner());
   column->addWidget(NewTabs(), 1);
   setCentralWidget(body);
-  AddMenus();
   AddStatusBar();
 
   Follow(form_.Form, this, [this] {
-    setWindowTitle(ToQt(form_.Form.Caption()));
+    ShowTitle();
     // Before the first show there is nothing to hide or to bring back.
     if (testAttribute(Qt::WA_WState_ExplicitShowHide)) {
       setVisible(form_.Form.Visible());
@@ -77,6 +80,19 @@ MainWindow::MainWindow(frmMain& form, SettingsService& settings)
   QObject::connect(&caption_, &QTimer::timeout, this, [this] { form_.tmrRuningString_Timer(); });
   Bind(form_.tmrRuningString, &caption_);
   RestorePlace();
+}
+
+void MainWindow::ShowTitle() {
+  const QString caption = ToQt(form_.Form.Caption());
+  setWindowTitle(document_.isEmpty() ? caption : caption + QStringLiteral(" %1[*]").arg(document_));
+}
+
+void MainWindow::SetDocument(const QString& name, bool modified) {
+  if (document_ != name) {
+    document_ = name;
+    ShowTitle();
+  }
+  setWindowModified(modified);
 }
 
 QWidget* MainWindow::NewOwnWeightBanner() {
@@ -163,7 +179,12 @@ void MainWindow::AddMenu(QMenu* menu, const std::vector<frmMain::MenuItem>& item
       action->setShortcutVisibleInContextMenu(false);
       action->setText(ToQt(item.Caption).replace(QLatin1Char(' '), QLatin1Char('\t')));
     }
-    QObject::connect(action, &QAction::triggered, this, item.Click);
+    if (item.Name == "Exit") {
+      // The same way as every other that closes the window.
+      QObject::connect(action, &QAction::triggered, this, &QWidget::close);
+    } else {
+      QObject::connect(action, &QAction::triggered, this, item.Click);
+    }
   }
 }
 
@@ -216,6 +237,10 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (form_.Keeper.MayLeave && !form_.Keeper.MayLeave()) {
+    event->ignore();
+    return;
+  }
   StorePlace();
   event->accept();
   form_.Exit_Click();

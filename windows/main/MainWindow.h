@@ -11,6 +11,8 @@ class QTabWidget;
 
 namespace trelonit {
 
+class HistoryDesk;
+
 /// The workstation's window: three tabs, menus, status bar, running caption. It shows a form that
 /// has been loaded; the form outlives it.
 class MainWindow : public QMainWindow {
@@ -26,6 +28,11 @@ class MainWindow : public QMainWindow {
   /// the way to one of them, so that the window stands sooner.
   void CompleteTabs();
 
+  /// The document's name stands in the title behind the form's caption, with a mark where it has
+  /// changes that are not saved.
+  void SetDocument(const QString& name, bool modified);
+  HistoryDesk& History() { return *history_; }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -40,11 +47,14 @@ class MainWindow : public QMainWindow {
   void AddMenu(QMenu* menu, const std::vector<frmMain::MenuItem>& items);
   void AddStatusBar();
   void ShowStatus();
+  void ShowTitle();
   void RestorePlace();
   void StorePlace();
 
   frmMain& form_;
   SettingsService& settings_;
+  HistoryDesk* history_ = nullptr;
+  QString document_;
   QWidget* sectionPage_ = nullptr;
   QWidget* loadPage_ = nullptr;
   QTimer caption_;

@@ -173,6 +173,10 @@ TEST_F(Captions, HintsAreReadAloud) {
 TEST_F(Captions, OfTheMenusStandInTheirOrder) {
   std::vector<std::string> lines;
   for (const QAction* top : Window.menuBar()->actions()) {
+    // This one stands beside the form's own.
+    if (top->menu()->objectName() == QLatin1String("Edit")) {
+      continue;
+    }
     lines.push_back(FromQt(top->text()));
     for (const QAction* item : top->menu()->actions()) {
       // The key stands in a column of its own.
