@@ -10,7 +10,7 @@ namespace trelonit {
 
 LoadPictureView::LoadPictureView(LoadEditor& editor, QWidget* parent)
     : QWidget(parent), editor_(editor) {
-  setMinimumHeight(110);
+  setMinimumHeight(120);
   setObjectName(QStringLiteral("LoadPicture"));
   setAccessibleName(QStringLiteral("Вся ферма с нагрузками"));
 }

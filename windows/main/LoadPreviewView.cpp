@@ -43,7 +43,7 @@ void DrawHatch(QPainter& painter, const QRectF& place) {
 }  // namespace
 
 LoadPreviewView::LoadPreviewView(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
-  setMinimumHeight(110);
+  setMinimumHeight(130);
   form_.PreviewChanged = [this] { update(); };
 }
 

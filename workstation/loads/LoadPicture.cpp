@@ -1,6 +1,7 @@
 #include "workstation/loads/LoadPicture.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "analysis/Scheme.h"
@@ -14,13 +15,22 @@ constexpr double sideMargin = 34;
 constexpr double gap = 4;
 constexpr double bandHeight = 9;
 constexpr double ownWeightHeight = 5;
-constexpr double longestArrow = 40;
-constexpr double shortestArrow = 14;
+constexpr double shortestArrow = 12;
 constexpr double headLength = 6;
 constexpr double headHalf = 3;
 constexpr double supportHalf = 6;
 constexpr double supportHeight = 9;
 constexpr double lowestTruss = 24;
+
+/// How much of the loads is drawn beside the truss: where there is little room the truss comes
+/// first, for the values stand in the table too.
+struct Detail {
+  double LongestArrow;
+  bool JointTexts;
+  bool PanelTexts;
+};
+constexpr std::array details{Detail{40, true, true}, Detail{20, true, true},
+                             Detail{24, false, true}, Detail{16, false, false}};
 
 /// One chord of the picture: its joints on the screen, and the loads on it.
 struct ChordLoads {
@@ -90,24 +100,24 @@ class LoadDrawing {
 
   /// Room beside a chord for what stands on it.
   double RoomOf(const ChordLoads& chord) const {
-    double room = gap + size_.LineHeight / 2;
-    if (ownWeight_.Added) {
-      room += ownWeightHeight + 1;
-    }
+    double room = gap + (ownWeight_.Added ? ownWeightHeight + 1 : 0);
     bool bands = false;
     for (Long panel = 0; panel + 1 < static_cast<Long>(chord.Joints.size()); ++panel) {
       bands = bands || PanelLoad(chord, panel) != 0;
     }
-    if (bands) {
-      room += bandHeight + size_.LineHeight;
-    }
+    room += bands ? RoomOfBands() : 0;
     const bool arrows = std::any_of(chord.OnJoints->begin(), chord.OnJoints->end(),
                                     [](double load) { return load != 0; });
     if (arrows) {
-      room += longestArrow + gap + (NeedsUpright(chord) ? WidestText(chord) : size_.LineHeight);
+      room += detail_.LongestArrow + gap;
+      if (detail_.JointTexts) {
+        room += NeedsUpright(chord) ? WidestText(chord) : size_.LineHeight;
+      }
     }
     return room;
   }
+
+  double RoomOfBands() const { return bandHeight + (detail_.PanelTexts ? size_.LineHeight : gap); }
 
   void Scale() {
     double height = 0;
@@ -116,11 +126,20 @@ class LoadDrawing {
       height = std::max(height, joint.Y);
       length = std::max(length, joint.X);
     }
-    // Which values need to stand upright depends on the scale, and that on their room.
-    picture_.Scale = std::max(length, 1e-9) / std::max(1.0, size_.Width - 2 * sideMargin);
-    const double above = RoomOf(upper_);
-    const double below = RoomOf(lower_) + supportHeight;
-    const double forTruss = std::max(lowestTruss, size_.Height - above - below);
+    // As wide as there is room, with as much of the loads as then fits.
+    picture_.Scale = length / std::max(1.0, size_.Width - 2 * sideMargin);
+    const double below = supportHeight + (ownWeight_.Added ? size_.LineHeight : 0);
+    double above = 0;
+    double forTruss = 0;
+    for (const Detail& detail : details) {
+      detail_ = detail;
+      above = RoomOf(upper_);
+      forTruss = size_.Height - above - RoomOf(lower_) - below;
+      if (forTruss >= height / picture_.Scale) {
+        break;
+      }
+    }
+    forTruss = std::max(lowestTruss, forTruss);
     picture_.Scale = std::max(picture_.Scale, height / forTruss);
     left_ = (size_.Width - length / picture_.Scale) / 2;
     const double spare = std::max(0.0, forTruss - height / picture_.Scale);
@@ -163,7 +182,7 @@ class LoadDrawing {
       away += ownWeightHeight + 1;
     }
     if (DrawPanels(chord, away)) {
-      away += bandHeight + size_.LineHeight;
+      away += RoomOfBands();
     }
     const bool upright = NeedsUpright(chord);
     for (const TrussJoint* joint : chord.Joints) {
@@ -239,7 +258,7 @@ class LoadDrawing {
     }
     const std::string text = NumberToText(load, locale_);
     // A value that is wider than its panels would lie over its neighbours'; the table has it.
-    if (size_.WidthOf(text) <= X(to) - X(from)) {
+    if (detail_.PanelTexts && size_.WidthOf(text) <= X(to) - X(from)) {
       picture_.Texts.push_back({(X(from) + X(to)) / 2,
                                 edge + outward * (bandHeight + size_.LineHeight / 2), text,
                                 LoadInk::Load, false});
@@ -247,7 +266,7 @@ class LoadDrawing {
   }
   void DrawArrow(double x, double y, double outward, double load, bool upright) {
     const double share = largest_ > 0 ? std::abs(load) / largest_ : 1;
-    const double length = shortestArrow + (longestArrow - shortestArrow) * share;
+    const double length = shortestArrow + (detail_.LongestArrow - shortestArrow) * share;
     const double far = y + outward * length;
     Line(x, y, x, far, LoadInk::Load);
     // A load downward has its head below, wherever it stands.
@@ -255,6 +274,9 @@ class LoadDrawing {
     const double back = load > 0 ? head - headLength : head + headLength;
     Line(x, head, x - headHalf, back, LoadInk::Load);
     Line(x, head, x + headHalf, back, LoadInk::Load);
+    if (!detail_.JointTexts) {
+      return;
+    }
     const std::string text = NumberToText(load, locale_);
     const double half = (upright ? size_.WidthOf(text) : size_.LineHeight) / 2;
     picture_.Texts.push_back({x, far + outward * (half + 1), text, LoadInk::Load, upright});
@@ -294,6 +316,7 @@ class LoadDrawing {
   const NumberLocale& locale_;
   ChordLoads upper_;
   ChordLoads lower_;
+  Detail detail_ = details.front();
   double largest_ = 0;
   double left_ = 0;
   double bottom_ = 0;

@@ -119,12 +119,32 @@ TEST_F(Editor, DrawsEverySchemeWithItsLoads) {
     for (double& load : Main.Model.Inputs.Loads.UpPForce) {
       load = 1.25;
     }
-    const LoadPicture picture = loads.Draw(Size());
+    const LoadPicture picture = loads.Draw(Size(900, 400));
     EXPECT_GT(picture.Scale, 0) << scheme;
     EXPECT_EQ(picture.Texts.size(), 31U) << scheme;
     for (const LoadText& text : picture.Texts) {
       EXPECT_TRUE(text.Upright) << scheme;
     }
+  }
+}
+
+TEST_F(Editor, WhereThereIsLittleRoomTheTrussComesFirst) {
+  Main.txtHight.SetText("2");
+  for (double& load : Main.Model.Inputs.Loads.UpPForce) {
+    load = 1.25;
+  }
+  for (double& load : Main.Model.Inputs.Loads.DwnPForce) {
+    load = 1.25;
+  }
+  // 832 units for 20 m, so that the truss is 83 units high.
+  const LoadPicture roomy = loads.Draw(Size(900, 260));
+  const LoadPicture narrow = loads.Draw(Size(900, 150));
+  EXPECT_EQ(roomy.Scale, narrow.Scale);
+  EXPECT_EQ(roomy.Texts.size(), 22U);
+  EXPECT_EQ(narrow.Texts.size(), 0U);
+  for (const LoadLine& line : narrow.Lines) {
+    EXPECT_GE(std::min(line.Y1, line.Y2), 0);
+    EXPECT_LE(std::max(line.Y1, line.Y2), 150);
   }
 }
 
