@@ -152,9 +152,12 @@ bool HistoryDesk::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   } else if (MayChangeTheDesign(type)) {
-    if (auto* box = qobject_cast<QLineEdit*>(watched); box != nullptr && type == QEvent::FocusOut) {
+    if (type == QEvent::FocusOut) {
+      auto* box = qobject_cast<QLineEdit*>(watched);
       // What was typed and left is no longer being edited.
-      box->setModified(false);
+      if (box != nullptr && box->window() == &window_) {
+        box->setModified(false);
+      }
     }
     settled_.start(0);
   }

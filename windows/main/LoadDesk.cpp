@@ -9,7 +9,10 @@
 namespace trelonit {
 
 LoadDesk::LoadDesk(frmMain& form, QObject* parent) : QObject(parent), form_(form), editor_(form) {
-  form_.LoadsChanged = [this] { Refresh(); };
+  // Once a handler has come to its end: on its way the chosen place may be another one.
+  refresh_.setSingleShot(true);
+  QObject::connect(&refresh_, &QTimer::timeout, this, [this] { Refresh(); });
+  form_.LoadsChanged = [this] { refresh_.start(0); };
 }
 
 LoadDesk::~LoadDesk() {
@@ -34,6 +37,8 @@ void LoadDesk::AddTable(QBoxLayout* row) {
   column->addWidget(table_, 1);
   auto* error = new NoticeLine(Severity::Danger);
   error_ = error;
+  // It may quote what was pasted.
+  error->Text().setTextFormat(Qt::PlainText);
   error->setObjectName(QStringLiteral("lblLoadError"));
   error->setMaximumWidth(width);
   Bind(editor_.lblLoadError, error);

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include "workstation/loads/LoadEditor.h"
@@ -29,6 +30,7 @@ class LoadDesk : public QObject {
 
   frmMain& form_;
   LoadEditor editor_;
+  QTimer refresh_;
   LoadPictureView* picture_ = nullptr;
   LoadTableView* table_ = nullptr;
   QPointer<QWidget> error_;

@@ -138,6 +138,7 @@ void ProjectDocument::WhenOpened(const std::string& name) {
   recent_.Add(file_);
   ForgetCopy();
   Note();
+  TellIfReadOnly();
 }
 
 void ProjectDocument::TakeFile(const std::string& whole) {
@@ -148,6 +149,9 @@ void ProjectDocument::TakeFile(const std::string& whole) {
     readOnly_ = attempt.ByAnother;
     file_ = whole;
   }
+}
+
+void ProjectDocument::TellIfReadOnly() {
   if (readOnly_) {
     Tell("Проект уже открыт в другом окне программы: " + ShortName(file_) +
          "\nЗдесь он открыт только для чтения. Изменения можно сохранить под другим именем.");
@@ -254,6 +258,7 @@ void ProjectDocument::TakeCopy(const RecoveryCopy& copy) {
   saved_.reset();
   copied_ = form_.State();
   Note();
+  TellIfReadOnly();
 }
 
 void ProjectDocument::Tell(const std::string& text) {

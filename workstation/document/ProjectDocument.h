@@ -63,6 +63,7 @@ class ProjectDocument {
   bool MayWrite(const std::string& name);
   /// The file with this whole name is the project's from now on.
   void TakeFile(const std::string& whole);
+  void TellIfReadOnly();
   void WhenOpened(const std::string& name);
   void WhenSaved(const std::string& name);
   ClaimAttempt ClaimFile(const std::string& name) const;

@@ -61,6 +61,10 @@ bool BeginsWith(const std::string& text, std::string_view beginning) {
 
 /// A number with either decimal separator and blanks between its groups; nothing for other texts.
 std::optional<double> NumberIn(const std::string& text) {
+  constexpr std::size_t longest = 100;
+  if (text.size() > longest) {
+    return std::nullopt;
+  }
   std::string plain;
   int separators = 0;
   for (const char32_t character : Characters(text)) {
@@ -78,8 +82,17 @@ std::optional<double> NumberIn(const std::string& text) {
   return number;
 }
 
+/// A foreign text in a line of ours, in quotes, cut where it would fill the line.
+std::string Quoted(const std::string& text) {
+  constexpr std::size_t longest = 40;
+  // As many bytes as so many characters can have.
+  const std::u32string characters = Characters(std::string_view(text).substr(0, 4 * longest));
+  const bool whole = characters.size() <= longest && text.size() <= 4 * longest;
+  return "«" + Utf8(characters.substr(0, longest)) + (whole ? "»" : "...»");
+}
+
 std::string NoNumber(const std::string& text) {
-  return "«" + text + "» - не число.";
+  return Quoted(text) + " - не число.";
 }
 
 constexpr const char* notToEdit =
@@ -107,21 +120,22 @@ ReadLine Read(const PastedLine& cells, const LoadArrays& loads) {
                  ", а нужно 4 (пояс, узел или панель, номер, величина) или один (величина).";
     return read;
   }
-  const std::string chord = Lower(cells[0]);
+  constexpr std::size_t enough = 16;
+  const std::string chord = Lower(cells[0].substr(0, enough));
   if (!BeginsWith(chord, "верх") && !BeginsWith(chord, "ни")) {
-    read.Error = "пояс «" + cells[0] + "», а нужно «верхний» или «нижний».";
+    read.Error = "пояс " + Quoted(cells[0]) + ", а нужно «верхний» или «нижний».";
     return read;
   }
   read.Spot.Of = BeginsWith(chord, "верх") ? Chord::Upper : Chord::Lower;
-  const std::string kind = Lower(cells[1]);
+  const std::string kind = Lower(cells[1].substr(0, enough));
   if (!BeginsWith(kind, "уз") && !BeginsWith(kind, "пан")) {
-    read.Error = "«" + cells[1] + "», а нужно «узел» или «панель».";
+    read.Error = Quoted(cells[1]) + ", а нужно «узел» или «панель».";
     return read;
   }
   read.Spot.Panel = BeginsWith(kind, "пан");
   const std::optional<double> number = NumberIn(cells[2]);
   if (!number || *number < 0 || *number > mostJoints || *number != static_cast<Long>(*number)) {
-    read.Error = "номер «" + cells[2] + "», а нужно целое число от 0.";
+    read.Error = "номер " + Quoted(cells[2]) + ", а нужно целое число от 0.";
     return read;
   }
   read.Spot.Number = static_cast<Long>(*number);

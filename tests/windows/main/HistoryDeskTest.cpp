@@ -68,15 +68,7 @@ TEST_F(WindowHistory, AValueThatIsStillBeingTypedIsTakenBackByItsBox) {
   Press("cmdAddForce");
   Settle();
   TypeAndSettle("txtForceVal", "77");
-  auto* fw = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-  std::cerr << "DBG " << (fw ? FromQt(fw->objectName()) : std::string("none")) << " mod "
-            << Edit("txtForceVal").isModified() << " undo " << Edit("txtForceVal").isUndoAvailable()
-            << " act " << MenuEntry("mnuUndo").isEnabled() << " load "
-            << Main.Model.Inputs.Loads.UpPForce[3] << "\n";
-  Key(Qt::Key_Z);
-  std::cerr << "DBG mod " << Edit("txtForceVal").isModified() << " undo "
-            << Edit("txtForceVal").isUndoAvailable() << " act " << MenuEntry("mnuUndo").isEnabled()
-            << " load " << Main.Model.Inputs.Loads.UpPForce[3] << "\n";
+  QTest::keyClick(&Edit("txtForceVal"), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_NE(FromQt(Edit("txtForceVal").text()), "77");
   EXPECT_EQ(Main.Model.Inputs.Loads.UpPForce[3], 2);
 }

@@ -15,7 +15,11 @@ class LoadTableOnScreen : public ::testing::Test, public Screen {
     Window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Window));
   }
-  QTableView& Table() { return Find<QTableView>(Window, "LoadTable"); }
+  /// As it is once the window has come to rest.
+  QTableView& Table() {
+    QTest::qWait(1);
+    return Find<QTableView>(Window, "LoadTable");
+  }
   std::string Cell(int row, int column) {
     return FromQt(Table().model()->index(row, column).data().toString());
   }
@@ -25,7 +29,8 @@ class LoadTableOnScreen : public ::testing::Test, public Screen {
     QTest::qWait(1);
   }
   void SelectRows(int first, int last) {
-    GoToRow(first);
+    const QRect place = Table().visualRect(Table().model()->index(first, 3));
+    QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, place.center());
     for (int row = first; row < last; ++row) {
       QTest::keyClick(&Table(), Qt::Key_Down, Qt::ShiftModifier);
     }
@@ -48,6 +53,7 @@ TEST_F(LoadTableOnScreen, AValueIsTypedAndReturnGoesOn) {
   ASSERT_NE(qobject_cast<QLineEdit*>(box), nullptr);
   QTest::keyClicks(box, ",5");
   QTest::keyClick(box, Qt::Key_Return);
+  QTest::qWait(1);
   EXPECT_EQ(Main.Model.Inputs.Loads.UpPForce[2], 4.5);
   EXPECT_EQ(Cell(2, 3), "4.5");
   EXPECT_EQ(Table().currentIndex().row(), 3);

@@ -24,7 +24,7 @@ const FormulaBox::Letters& LettersOf(const FormulaBox& box, const std::string& t
 }
 
 /// The letters from the first to the last set.
-std::string Texts(const FormulaBox& box) {
+std::string TextsIn(const FormulaBox& box) {
   std::string texts;
   for (const FormulaBox::Letters& letters : box.Texts) {
     texts += (texts.empty() ? "" : " ") + FromQt(letters.Text);
@@ -56,7 +56,7 @@ TEST(FormulaBoxFraction, HasTheNarrowPartOverTheMiddleOfTheWideOne) {
 TEST(FormulaBoxFraction, NeedsNoBracketsRoundItsParts) {
   const FormulaBox box = Set("(N+1)/(A*Ry*γc)");
   EXPECT_TRUE(box.Strokes.empty());
-  EXPECT_EQ(Texts(box), "N + 1 A · R y · γ c");
+  EXPECT_EQ(TextsIn(box), "N + 1 A · R y · γ c");
 }
 
 TEST(FormulaBoxFraction, WithinAFractionIsSmaller) {
@@ -78,7 +78,7 @@ TEST(FormulaBoxFraction, StandsBesideWhatIsMultipliedWithIt) {
 
 TEST(FormulaBoxSymbol, HasItsIndexLowerSmallerAndUpright) {
   const FormulaBox box = Set("Ry");
-  ASSERT_EQ(Texts(box), "R y");
+  ASSERT_EQ(TextsIn(box), "R y");
   const FormulaBox::Letters& letter = LettersOf(box, "R");
   const FormulaBox::Letters& index = LettersOf(box, "y");
   EXPECT_GT(index.Place.y(), letter.Place.y());
@@ -89,23 +89,23 @@ TEST(FormulaBoxSymbol, HasItsIndexLowerSmallerAndUpright) {
 }
 
 TEST(FormulaBoxSymbol, OfSeveralLettersHasTheirRestAsItsIndex) {
-  EXPECT_EQ(Texts(Set("lef")), "l ef");
-  EXPECT_EQ(Texts(Set("γn")), "γ n");
+  EXPECT_EQ(TextsIn(Set("lef")), "l ef");
+  EXPECT_EQ(TextsIn(Set("γn")), "γ n");
   EXPECT_FALSE(LettersOf(Set("γn"), "γ").Font.italic()) << "Greek letters stand upright";
 }
 
 TEST(FormulaBoxSymbol, KeepsTheMarkOverItsLetter) {
-  EXPECT_EQ(Texts(Set("λ̄")), "λ̄");
+  EXPECT_EQ(TextsIn(Set("λ̄")), "λ̄");
 }
 
 TEST(FormulaBoxNumber, TakesTheSeparatorOfTheLocale) {
-  EXPECT_EQ(Texts(Set("0.073", CommaLocale())), "0,073");
-  EXPECT_EQ(Texts(Set("0.073", PointLocale())), "0.073");
+  EXPECT_EQ(TextsIn(Set("0.073", CommaLocale())), "0,073");
+  EXPECT_EQ(TextsIn(Set("0.073", PointLocale())), "0.073");
 }
 
 TEST(FormulaBoxOperation, HasADotForTheProductAndAMinusForTheDifference) {
   const FormulaBox box = Set("5*A-7+B");
-  EXPECT_EQ(Texts(box), "5 · A − 7 + B");
+  EXPECT_EQ(TextsIn(box), "5 · A − 7 + B");
   double end = 0;
   for (const FormulaBox::Letters& letters : box.Texts) {
     EXPECT_GE(letters.Place.x(), end) << FromQt(letters.Text);
@@ -116,7 +116,7 @@ TEST(FormulaBoxOperation, HasADotForTheProductAndAMinusForTheDifference) {
 
 TEST(FormulaBoxNegation, HasItsSignNearerThanADifference) {
   const FormulaBox negation = Set("-5*A");
-  EXPECT_EQ(Texts(negation), "− 5 · A");
+  EXPECT_EQ(TextsIn(negation), "− 5 · A");
   const FormulaBox difference = Set("A-5");
   EXPECT_LT(LettersOf(negation, "5").Place.x() - LettersOf(negation, "−").Place.x(),
             LettersOf(difference, "5").Place.x() - LettersOf(difference, "−").Place.x());
@@ -151,7 +151,7 @@ TEST(FormulaBoxBrackets, AreAsHighAsWhatIsInThem) {
 TEST(FormulaBoxTerm, HasItsSignInFront) {
   const FormulaBox box =
       SetFormula(ParseExpression("13*A"), QFont(), PointLocale(), QStringLiteral("−"));
-  EXPECT_EQ(Texts(box), "− 13 · A");
+  EXPECT_EQ(TextsIn(box), "− 13 · A");
 }
 
 const std::vector<std::string> realFormulas{

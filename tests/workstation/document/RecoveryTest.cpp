@@ -154,6 +154,10 @@ TEST_F(Recovery, OfAProjectThatIsOpenElsewhereIsReadOnly) {
   EXPECT_EQ(next.TakeTexts().size(), 2U);
 }
 
+RC_GTEST_PROP(RecoveryText, OfAnyBytesIsNone, ()) {
+  RC_ASSERT(!ReadRecovery(*rc::gen::string<std::string>(), ProfileTypeArray(), PointLocale()));
+}
+
 RC_GTEST_PROP(RecoveryText, ReadsBackWhatItWrote, ()) {
   static const UserDisk disk;
   static Session session(disk);

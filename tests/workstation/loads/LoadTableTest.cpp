@@ -1,5 +1,6 @@
 #include <chrono>
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
 #include "tests/support/TestServices.h"
 #include "workstation/design/Loads.h"
@@ -156,6 +157,17 @@ TEST_F(LoadsAsTable, TellsTextThatIsNoTable) {
             "величина) или один (величина).");
 }
 
+TEST_F(LoadsAsTable, TellsALongTextByItsBeginning) {
+  std::string text;
+  for (int letter = 0; letter < 1000000; ++letter) {
+    text += "ж";
+  }
+  const std::string error = ErrorOf(text);
+  EXPECT_LT(error.size(), 200U);
+  EXPECT_EQ(error.substr(error.size() - std::string("...» - не число.").size()),
+            "...» - не число.");
+}
+
 TEST_F(LoadsAsTable, RefusesAHundredThousandRowsAtOnce) {
   std::string text;
   for (int row = 0; row < 100000; ++row) {
@@ -164,6 +176,25 @@ TEST_F(LoadsAsTable, RefusesAHundredThousandRowsAtOnce) {
   const auto begin = std::chrono::steady_clock::now();
   EXPECT_EQ(ErrorOf(text), "Строк 100000, а мест для нагрузок у этой фермы 18.");
   EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+}
+
+RC_GTEST_FIXTURE_PROP(LoadsAsTable, AnyTextIsTakenWholeOrRefusedInOneLine, ()) {
+  const auto piece = rc::gen::oneOf(
+      rc::gen::element<std::string>("верхний", "нижний", "узел", "панель", "\t", ";", "\n", "\r\n",
+                                    "0", "3", "99", "2,5", "-1.5", "1e400", "\"", " ", "\xD0"),
+      rc::gen::string<std::string>());
+  std::string text;
+  for (const std::string& each : *rc::gen::container<std::vector<std::string>>(piece)) {
+    text += each;
+  }
+  const LoadArrays before = state.Loads;
+  const LoadEdit edit = PasteLoads(state, *rc::gen::inRange<std::size_t>(0, 20), text);
+  RC_ASSERT(edit.Loads.has_value() == edit.Error.empty());
+  RC_ASSERT(state.Loads == before);
+  if (edit.Loads) {
+    // The same places as before, each with a number.
+    RC_ASSERT(LoadRows({.Loads = *edit.Loads}).size() == 18U);
+  }
 }
 
 TEST(PastedText, IsCutIntoLinesWhateverEndsThem) {
