@@ -15,7 +15,7 @@ namespace trelonit {
 namespace {
 
 const std::array loadHeads{QStringLiteral("Пояс"), QStringLiteral("Место"), QStringLiteral("№"),
-                           QStringLiteral("Величина")};
+                           QStringLiteral("Величина, т (т/м)")};
 
 }  // namespace
 
