@@ -10,8 +10,8 @@ namespace trelonit {
 
 namespace {
 
-constexpr double width = 900;
-constexpr double height = 560;
+constexpr double plotWidth = 900;
+constexpr double plotHeight = 560;
 constexpr double left = 80;
 constexpr double right = 150;
 constexpr double top = 40;
@@ -103,8 +103,10 @@ class Plot {
     }
     return greatest;
   }
-  static double XOf(double share) { return left + share * (width - left - right); }
-  static double YOf(double share) { return height - bottom - share * (height - top - bottom); }
+  static double XOf(double share) { return left + share * (plotWidth - left - right); }
+  static double YOf(double share) {
+    return plotHeight - bottom - share * (plotHeight - top - bottom);
+  }
   double X(const PlotPoint& point) const { return XOf(across_.Share(point.Height)); }
   double Y(const PlotPoint& point) const { return YOf(up_.Share(point.Mass)); }
 
@@ -122,14 +124,14 @@ class Plot {
     for (int step = 0; step <= across_.Steps; ++step) {
       const double x = XOf(static_cast<double>(step) / across_.Steps);
       svg += Line(x, YOf(0), x, YOf(1), grey);
-      svg += Text(x, height - bottom + 18, "middle", number(across_, step));
+      svg += Text(x, plotHeight - bottom + 18, "middle", number(across_, step));
     }
     for (int step = 0; step <= up_.Steps; ++step) {
       const double y = YOf(static_cast<double>(step) / up_.Steps);
       svg += Line(XOf(0), y, XOf(1), y, grey);
       svg += Text(left - 8, y + 4, "end", number(up_, step));
     }
-    svg += Text((left + width - right) / 2, height - 16, "middle", "Высота, м");
+    svg += Text((left + plotWidth - right) / 2, plotHeight - 16, "middle", "Высота, м");
     svg += Text(left - 8, top - 16, "end", "Масса, т");
     return svg;
   }
@@ -145,7 +147,7 @@ class Plot {
 
   std::string Legend() const {
     constexpr double spacing = 20;
-    const double x = width - right + 20;
+    const double x = plotWidth - right + 20;
     double y = top + 10;
     std::string svg = Text(x - 6, y, "start", "Число панелей");
     for (const Long panels : panels_) {
@@ -172,12 +174,13 @@ class Plot {
 }  // namespace
 
 std::string PlotAsSvg(const std::vector<PlotPoint>& points, const std::vector<PlotPoint>& front) {
-  const std::string size = Format("%.0f", width) + " " + Format("%.0f", height);
+  const std::string size = Format("%.0f", plotWidth) + " " + Format("%.0f", plotHeight);
   std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " + size +
                     "\" font-family=\"sans-serif\" font-size=\"13\">\n"
                     "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
-  svg += points.empty() ? Text(width / 2, height / 2, "middle", "Ни один вариант не годится")
-                        : Plot(points, front).Svg();
+  svg += points.empty()
+             ? Text(plotWidth / 2, plotHeight / 2, "middle", "Ни один вариант не годится")
+             : Plot(points, front).Svg();
   return svg + "</svg>\n";
 }
 

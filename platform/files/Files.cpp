@@ -46,7 +46,7 @@ fs::path ResolveLinks(const fs::path& path) {
 
 /// The file that the name stands for, which may be written or is not there yet.
 fs::path RequireTarget(const std::string& path) {
-  const fs::path target = ResolveLinks(NativePath(path));
+  fs::path target = ResolveLinks(NativePath(path));
   std::error_code code;
   const fs::file_status before = fs::status(target, code);
   if (IsUnanswered(code)) {

@@ -237,7 +237,7 @@ std::optional<FileStatus> StatusOf(const fs::path& path) {
 /// its folder cleared of what others have left.
 fs::path PlaceToWrite(const fs::path& target) {
   std::error_code code;
-  const fs::path whole = fs::absolute(target, code);
+  fs::path whole = fs::absolute(target, code);
   RemoveLeftovers(whole.parent_path());
   return whole;
 }

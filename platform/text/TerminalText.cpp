@@ -19,9 +19,8 @@ std::string TerminalText(std::string_view text) {
   std::string shown;
   shown.reserve(text.size());
   for (const char32_t character : Characters(text)) {
-    if (character == '\n' || character == '\t') {
-      AppendUtf8(shown, character);
-    } else if (character < firstPrintable) {
+    const bool shapesTheText = character == '\n' || character == '\t';
+    if (character < firstPrintable && !shapesTheText) {
       AppendUtf8(shown, symbolOfNull + character);
     } else if (character == erasure) {
       AppendUtf8(shown, symbolOfErasure);

@@ -201,7 +201,7 @@ bool HasOtherNames(const fs::path& path) {
 /// In full, with its folder cleared of what others have left.
 fs::path PlaceToWrite(const fs::path& target) {
   std::error_code code;
-  const fs::path whole = fs::absolute(target, code);
+  fs::path whole = fs::absolute(target, code);
   RemoveUnfinished(whole.parent_path(), [](int process, const fs::path& file) {
     return IsGone(process) && IsLetGo(file);
   });
