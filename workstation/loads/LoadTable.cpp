@@ -181,9 +181,8 @@ LoadEdit PasteValues(const LoadState& state, std::size_t row, const std::vector<
   for (std::size_t line = first; line < lines.size(); ++line) {
     const PastedLine& cells = lines[line];
     if (cells.size() > 1) {
-      return RefusedLine(line + 1, Read(cells, loads).Error.empty()
-                                       ? "столбцов больше, чем в строках выше."
-                                       : Read(cells, loads).Error);
+      const std::string error = Read(cells, loads).Error;
+      return RefusedLine(line + 1, error.empty() ? "столбцов больше, чем в строках выше." : error);
     }
     const std::optional<double> value = cells.empty() ? 0 : NumberIn(cells[0]);
     if (!value) {
