@@ -212,9 +212,22 @@ const TextFit& DrawingPainter::Fit(double smallest, bool onPaper) const {
         }
       }
     }
-    fit_ = {smallest, onPaper, painted, FitTexts(rooms, smallest)};
+    // On paper a text upon a bar is better than none; on screen a closer look brings it.
+    fit_ = {smallest, onPaper, painted,
+            FitTexts(rooms, smallest, onPaper ? std::vector<QLineF>() : Bars())};
   }
   return fit_->Fit;
+}
+
+std::vector<QLineF> DrawingPainter::Bars() const {
+  std::vector<QLineF> bars;
+  for (const DrawingEntity& entity : drawing_.ModelSpace) {
+    const auto* line = std::get_if<DrawingLine>(&entity);
+    if (line != nullptr && IsShown(drawing_, line->Layer)) {
+      bars.emplace_back(AsPoint(line->Start), AsPoint(line->End));
+    }
+  }
+  return bars;
 }
 
 const double* DrawingPainter::FactorsFor(const DrawingLook& look) const {

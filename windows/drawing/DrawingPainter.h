@@ -96,6 +96,8 @@ class DrawingPainter {
   void PaintTexts(QPainter& painter, const Layer& layer, const DrawingLook& look,
                   const double* factors) const;
   const TextFit& Fit(double smallest, bool onPaper) const;
+  /// The lines that are shown as such.
+  std::vector<QLineF> Bars() const;
   /// By the texts of the layers that are painted; null where the look leaves texts alone.
   const double* FactorsFor(const DrawingLook& look) const;
 

@@ -73,7 +73,11 @@ QRectF BoxOf(const Corners& corners) {
 /// The texts of a drawing while their sizes are looked for.
 class Fitting {
  public:
-  Fitting(const std::vector<TextRoom>& texts, double smallest) : texts_(texts) {
+  Fitting(const std::vector<TextRoom>& texts, double smallest, const std::vector<QLineF>& bars)
+      : texts_(texts) {
+    if (texts_.size() <= mostSized) {
+      FindCrossings(bars);
+    }
     for (const TextRoom& text : texts_) {
       if (text.Height > 0) {
         Size& size = sizes_[KindOf(text)];
@@ -110,6 +114,29 @@ class Fitting {
   double Factor(std::size_t text) const {
     const auto found = sizes_.find(KindOf(texts_[text]));
     return found == sizes_.end() ? 1 : found->second.Factor;
+  }
+
+  /// The texts that a bar comes near and that can be made small enough to keep off it.
+  void FindCrossings(const std::vector<QLineF>& bars) {
+    std::vector<QRectF> rooms;
+    for (const TextRoom& text : texts_) {
+      rooms.push_back(BoxOf(text.Corners));
+    }
+    for (const QLineF& bar : bars) {
+      const Corners line{bar.p1(), bar.p2(), bar.p2(), bar.p1()};
+      const QRectF box = BoxOf(line);
+      for (std::size_t text = 0; text < texts_.size(); ++text) {
+        const QRectF& room = rooms[text];
+        if (room.left() < box.right() && box.left() < room.right() && room.top() < box.bottom() &&
+            box.top() < room.bottom() && Gap(texts_[text].Corners, line) < 0 &&
+            Gap(Shrunk(texts_[text], leastFactor), line) >= 0) {
+          crossings_.push_back({text, line});
+        }
+      }
+    }
+  }
+  bool IsCrossed(std::size_t text, const Corners& bar) const {
+    return Gap(Shrunk(texts_[text], Factor(text)), bar) < 0;
   }
 
   /// Those that come near each other, each pair once.
@@ -167,6 +194,13 @@ class Fitting {
           yielding.insert(*kind);
         }
       }
+      for (const Crossing& crossing : crossings_) {
+        const Kind kind = KindOf(texts_[crossing.Text]);
+        if (const Kind* known = Yielding(kind, kind);
+            known != nullptr && IsCrossed(crossing.Text, crossing.Bar)) {
+          yielding.insert(*known);
+        }
+      }
       if (yielding.empty()) {
         return;
       }
@@ -214,9 +248,18 @@ class Fitting {
       QRectF Box;
       Corners At;
     };
+    std::set<std::size_t> crossed;
+    for (const Crossing& crossing : crossings_) {
+      if (IsCrossed(crossing.Text, crossing.Bar)) {
+        crossed.insert(crossing.Text);
+      }
+    }
     std::vector<Room> taken;
     std::vector<std::size_t> shown;
     for (const std::size_t text : order) {
+      if (crossed.contains(text)) {
+        continue;
+      }
       Room room{{}, Shrunk(texts_[text], Factor(text))};
       room.Box = BoxOf(room.At);
       const bool free = std::none_of(taken.begin(), taken.end(), [&](const Room& other) {
@@ -232,7 +275,13 @@ class Fitting {
     return shown;
   }
 
+  struct Crossing {
+    std::size_t Text;
+    Corners Bar;
+  };
+
   const std::vector<TextRoom>& texts_;
+  std::vector<Crossing> crossings_;
   std::map<Kind, Size> sizes_;
 };
 
@@ -242,8 +291,9 @@ double GapBetween(const TextRoom& text1, double factor1, const TextRoom& text2, 
   return Gap(Shrunk(text1, factor1), Shrunk(text2, factor2));
 }
 
-TextFit FitTexts(const std::vector<TextRoom>& texts, double smallest) {
-  return Fitting(texts, smallest).Result();
+TextFit FitTexts(const std::vector<TextRoom>& texts, double smallest,
+                 const std::vector<QLineF>& bars) {
+  return Fitting(texts, smallest, bars).Result();
 }
 
 }  // namespace trelonit

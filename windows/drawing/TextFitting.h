@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLineF>
 #include <QPointF>
 #include <array>
 #include <cstddef>
@@ -29,8 +30,10 @@ struct TextFit {
 
 /// Makes the texts smaller that are crowded, all of a kind alike, but none smaller than this height
 /// (one that is smaller by itself stays) nor than two fifths of its own. Of texts that then still
-/// cover each other the first one is shown.
-TextFit FitTexts(const std::vector<TextRoom>& texts, double smallest);
+/// cover each other the first one is shown. Bars are kept clear too: a text that is crossed by one
+/// and would not be at its smallest is left out until it can be so small.
+TextFit FitTexts(const std::vector<TextRoom>& texts, double smallest,
+                 const std::vector<QLineF>& bars = {});
 
 /// How far two texts stand apart in these parts of their height; below zero where they cover each
 /// other.

@@ -16,7 +16,7 @@ namespace trelonit {
 namespace {
 
 /// Letters that a field shows at once.
-constexpr int wideField = 52;
+constexpr int wideField = 64;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ TitleBlockWindow::TitleBlockWindow(const TitleBlockChoice& present, QWidget* par
   field("Author", QStringLiteral("&Разработал"), &TitleBlock::Author);
   field("Checker", QStringLiteral("Про&верил"), &TitleBlock::Checker);
   QLineEdit* date = field("Date", QStringLiteral("&Дата"), &TitleBlock::Date);
-  auto* today = new QPushButton(QStringLiteral("Се&годня"));
+  auto* today = new QPushButton(QStringLiteral("Сегод&ня"));
   today->setObjectName(QStringLiteral("Today"));
   today->setAutoDefault(false);
   QObject::connect(today, &QPushButton::clicked, date, [date] {
@@ -53,7 +53,7 @@ TitleBlockWindow::TitleBlockWindow(const TitleBlockChoice& present, QWidget* par
   rows->addRow(QString(), today);
   field("Stage", QStringLiteral("С&тадия"), &TitleBlock::Stage);
   field("Sheet", QStringLiteral("&Лист"), &TitleBlock::Sheet);
-  field("Sheets", QStringLiteral("Листо&в"), &TitleBlock::Sheets);
+  field("Sheets", QStringLiteral("Л&истов"), &TitleBlock::Sheets);
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   QObject::connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

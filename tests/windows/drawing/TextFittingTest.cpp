@@ -101,5 +101,18 @@ TEST(FitTexts, MeasuresTurnedTextsAlongTheirSides) {
   EXPECT_EQ(FitTexts(texts, 0.1).Factors, (std::vector<double>{1, 1}));
 }
 
+TEST(FitTexts, KeepsTextsOffBars) {
+  // The bar runs 0.4 from the middle of a text that reaches 0.5 far.
+  const std::vector<TextRoom> texts{Level(0, 0, 1, 0.2)};
+  const std::vector<QLineF> bars{QLineF(0.4, -1, 0.4, 1)};
+  const TextFit fit = FitTexts(texts, 0.05, bars);
+  EXPECT_LE(fit.Factors[0], 0.8);
+  EXPECT_GE(fit.Factors[0], 0.8 * 0.9);
+  // Where it may not be so small, it waits.
+  EXPECT_EQ(FitTexts(texts, 0.19, bars).Factors, std::vector<double>{0});
+  // What lies upon a bar whatever its size stays.
+  EXPECT_EQ(FitTexts(texts, 0.05, {QLineF(0.1, -1, 0.1, 1)}).Factors, std::vector<double>{1});
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -88,6 +88,16 @@ TEST_P(Keyboard, EveryInputHasANameToBeReadAloud) {
   }
 }
 
+TEST_P(Keyboard, EveryTileAndOptionOfAGroupHasANameToBeReadAloud) {
+  // Arrows lead to those that are no stop of Tab.
+  for (const auto* button : Page().findChildren<QAbstractButton*>()) {
+    if (button->isVisible() && button->focusPolicy() != Qt::NoFocus) {
+      EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().isEmpty())
+          << NameOf(*button);
+    }
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(AllTabs, Keyboard, ::testing::Values(0, 1, 2));
 
 TEST(KeyboardOfGroups, EachGroupOfTilesOrOptionsIsOneStop) {
