@@ -2,10 +2,10 @@
 #include <memory>
 #include <optional>
 
+#include "apps/DesignDrawing.h"
 #include "apps/cli/Calculation.h"
 #include "apps/cli/Commands.h"
 #include "apps/cli/OutputFile.h"
-#include "drawing/host/DesignDrawing.h"
 #include "drawing/host/dxf/DxfWriter.h"
 #include "platform/errors/RuntimeError.h"
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "drawing/host/DesignDrawing.h"
+#include "apps/DesignDrawing.h"
 #include "platform/system/ProgramFolder.h"
 #include "windows/dialogs/AboutWindow.h"
 #include "windows/dialogs/DataManagerWindow.h"

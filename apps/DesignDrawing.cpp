@@ -1,4 +1,4 @@
-#include "drawing/host/DesignDrawing.h"
+#include "apps/DesignDrawing.h"
 
 #include "drawing/host/BuiltInHost.h"
 
