@@ -68,6 +68,8 @@ int PageOf(const QTextBlock& block, double pageHeight) {
 
 /// A heading that would stand at the end of a page goes to the next one with what it heads.
 void KeepHeadingsWithTheirText(QTextDocument& text) {
+  // All of it has to be laid out first: a change within a text that is half so loses the rest.
+  text.pageCount();
   const double pageHeight = text.pageSize().height();
   QTextBlock first;
   QTextBlock last;
@@ -136,6 +138,8 @@ int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPain
   text.documentLayout()->setPaintDevice(&device);
   text.setPageSize(size);
   KeepHeadingsWithTheirText(text);
+  // From the beginning once more, the breaks being known.
+  text.setPageSize(size);
   const int count = text.pageCount();
   const QPageRanges ranges = device.pageRanges();
   bool painted = false;

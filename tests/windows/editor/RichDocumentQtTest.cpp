@@ -184,6 +184,24 @@ TEST(RichDocumentPdf, LeavesNoHeadingAloneAtTheEndOfAPage) {
   EXPECT_GT(moved, 2);
 }
 
+TEST(RichDocumentPdf, LosesNothingBehindAHeadingThatMoves) {
+  // Ten pages and more, with a heading over every few lines.
+  RichDocument document;
+  document.Paragraphs.clear();
+  for (int part = 0; part < 100; ++part) {
+    const RichDocument headed = Headed(3);
+    document.Paragraphs.insert(document.Paragraphs.end(), headed.Paragraphs.begin(),
+                               headed.Paragraphs.end());
+  }
+  const std::string pdf = WritePdf(document, "");
+  const std::size_t count = pdf.find("/Count ");
+  ASSERT_NE(count, std::string::npos);
+  EXPECT_GE(std::stoi(pdf.substr(count + 7)), 10);
+  if (PdfReaderIsThere()) {
+    EXPECT_EQ(TextOfPdf(pdf, {}).count(QStringLiteral("Строка")), 600);
+  }
+}
+
 TEST(RichDocumentPdf, LeavesADocumentOfHeadingsAsItIs) {
   RichDocument document = ManyLines(150);
   for (RichParagraph& paragraph : document.Paragraphs) {
