@@ -16,7 +16,7 @@ Finding Found(Severity grade, FindingCode code, const std::string& text) {
 }
 
 const Finding danger = Found(Severity::Danger, FindingCode::CheckDiffers, "Верхний пояс плох.");
-const Finding warning = Found(Severity::Warning, FindingCode::BracingLength, "Длина <3 м>.");
+const Finding shortLength = Found(Severity::Warning, FindingCode::BracingLength, "Длина <3 м>.");
 const Finding note = Found(Severity::Note, FindingCode::ChordBending, "Изгиб не проверен.");
 
 /// A strip on screen, in a window of a width.
@@ -55,7 +55,7 @@ struct StripScreen {
 };
 
 TEST(FindingsStripWithDanger, IsRedBoldWithItsMarkAndItsWord) {
-  StripScreen screen({danger, danger, warning, note});
+  StripScreen screen({danger, danger, shortLength, note});
   const auto& counts = Find<QLabel>(screen.Window, "FindingsCounts");
   QTextDocument plain;
   plain.setHtml(counts.text());
@@ -70,7 +70,7 @@ TEST(FindingsStripWithDanger, IsRedBoldWithItsMarkAndItsWord) {
 }
 
 TEST(FindingsStripWithoutDanger, HasNoRedInIt) {
-  StripScreen screen({warning, note});
+  StripScreen screen({shortLength, note});
   EXPECT_EQ(FromQt(screen.Text().text()), "Длина <3 м>.");
   EXPECT_FALSE(screen.Text().font().bold());
   EXPECT_EQ(CountPixels(*screen.Strip, screen.Red()), 0);
@@ -92,7 +92,7 @@ TEST(FindingsStripOfARefusal, ShowsWhyThereIsNoOpinion) {
 }
 
 TEST(FindingsStripList, OpensOnlyWhenItIsAskedFor) {
-  StripScreen screen({danger, warning, note});
+  StripScreen screen({danger, shortLength, note});
   EXPECT_FALSE(screen.List().isVisible());
   const QWidgetList windows = QApplication::topLevelWidgets();
   EXPECT_EQ(std::count_if(windows.begin(), windows.end(),
@@ -110,7 +110,7 @@ TEST(FindingsStripList, OpensOnlyWhenItIsAskedFor) {
 }
 
 TEST(FindingsStripList, IsRedAndBoldWhereItIsDangerous) {
-  StripScreen screen({danger, warning});
+  StripScreen screen({danger, shortLength});
   Click(screen.More());
   const QList<QLabel*> rows = screen.List().findChildren<QLabel*>();
   ASSERT_EQ(rows.size(), 2);
@@ -134,7 +134,7 @@ TEST(FindingsStripList, WrapsItsWordsAndScrollsWhenItIsLong) {
 }
 
 TEST(FindingsStripList, IsAsHighAsItsFindings) {
-  StripScreen screen({danger, warning});
+  StripScreen screen({danger, shortLength});
   Click(screen.More());
   QTest::qWait(1);
   EXPECT_GE(screen.List().height(), screen.List().widget()->height());
@@ -184,7 +184,7 @@ TEST(FindingsStripHelp, TellsOfTheOpinionWhereThereIsNoFinding) {
 }
 
 TEST(FindingsStripKeyboard, TabReachesEveryButtonOnce) {
-  StripScreen screen({danger, warning, note});
+  StripScreen screen({danger, shortLength, note});
   Click(screen.More());
   screen.More().setFocus();
   ExpectTabReachesEveryInputOnce(screen.Window);
