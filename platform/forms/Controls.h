@@ -40,6 +40,8 @@ class ControlState {
   void SetVisible(bool visible) { Assign(visible_, visible); }
 
   std::function<void()> Bound;
+  /// Called after Bound, for whoever must know that something has changed.
+  std::function<void()> Watch;
 
  protected:
   template <class T>
@@ -54,6 +56,9 @@ class ControlState {
   void Updated() {
     if (Bound) {
       Bound();
+    }
+    if (Watch) {
+      Watch();
     }
   }
   static void Raise(const std::function<void()>& event) {

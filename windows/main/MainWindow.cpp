@@ -13,6 +13,7 @@
 #include "windows/binding/Layouts.h"
 #include "windows/help/HelpKey.h"
 #include "windows/main/HistoryDesk.h"
+#include "windows/main/LiveStrip.h"
 #include "windows/main/LoadTab.h"
 #include "windows/main/LockKeys.h"
 #include "windows/main/NoticeViews.h"
@@ -67,7 +68,11 @@ MainWindow::MainWindow(frmMain& form, SettingsService& settings)
   column->addWidget(NewOwnWeightBanner());
   column->addWidget(history_->NewLoadsLostBanner());
   column->addWidget(NewTabs(), 1);
+  auto* strip = new LiveStrip(form_);
+  SetHelpPlace(*strip, help_place::LiveStrip);
+  column->addWidget(strip);
   setCentralWidget(body);
+  AddViewMenu(*menuBar(), *strip, settings_);
   AddStatusBar();
 
   Follow(form_.Form, this, [this] {

@@ -14,6 +14,8 @@
 #include "windows/binding/OneTabStop.h"
 #include "windows/binding/PictureWidgets.h"
 #include "windows/binding/Pictures.h"
+#include "windows/main/GeometryMarks.h"
+#include "windows/main/TrussSketchView.h"
 
 namespace trelonit {
 
@@ -36,6 +38,18 @@ QLabel* AddFigure(QGridLayout* rows, int row, int column) {
   label->setFont(small);
   rows->addWidget(label, row, column);
   return label;
+}
+
+/// Takes groups closer together, so that all of them have room on a small screen.
+void Tighten(const QBoxLayout& column) {
+  for (int place = 0; place < column.count(); ++place) {
+    if (const QWidget* group = column.itemAt(place)->widget()) {
+      QMargins margins = group->layout()->contentsMargins();
+      margins.setTop(margins.top() / 2);
+      margins.setBottom(margins.bottom() / 2);
+      group->layout()->setContentsMargins(margins);
+    }
+  }
 }
 
 /// Schemes 6 to 10 have no hint of their own; what is not calculated yet says so.
@@ -87,7 +101,19 @@ SchemeTab::SchemeTab(frmMain& form, QWidget* parent) : QWidget(parent), form_(fo
        .Taken = {QStringLiteral("одна панель пояса"), QStringLiteral("до двух панелей пояса"),
                  QStringLiteral("половина пролета"), QStringLiteral("весь пролет")}});
   AddDeflection(inputs);
+  Tighten(*inputs);
   inputs->addStretch();
+  form_.GeometryChanged = [this] { RefreshGeometry(); };
+  RefreshGeometry();
+}
+
+SchemeTab::~SchemeTab() {
+  form_.GeometryChanged = nullptr;
+}
+
+void SchemeTab::RefreshGeometry() {
+  truss_->Refresh();
+  marks_->Refresh();
 }
 
 void SchemeTab::AddSchemes(QBoxLayout* column) {
@@ -107,16 +133,22 @@ void SchemeTab::AddSchemes(QBoxLayout* column) {
   }
   // Another scheme may lose loads: an arrow alone does not take it.
   new OneTabStop(this, buttons, OneTabStop::Arrows::Lead);
-  auto* large = AddGroup<QVBoxLayout>(column, QStringLiteral("Выбранная схема"), 1);
-  auto* view = new PictureView({640, 260});
+  auto* large = AddGroup<QVBoxLayout>(column, QStringLiteral("Выбранная схема"), 2);
+  auto* view = new PictureView({640, 130});
   view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   view->setObjectName(QStringLiteral("imgMain"));
   view->setAccessibleName(QStringLiteral("Выбранная схема фермы"));
   Bind(form_.imgMain, view);
   large->addWidget(view);
+  auto* scaled = AddGroup<QVBoxLayout>(column, QStringLiteral("Ферма в масштабе"), 5);
+  truss_ = new TrussSketchView(form_);
+  truss_->setObjectName(QStringLiteral("TrussToScale"));
+  truss_->setAccessibleName(QStringLiteral("Ферма в масштабе"));
+  scaled->addWidget(truss_);
 }
 
 void SchemeTab::AddGeometry(QBoxLayout* column) {
+  marks_ = new GeometryMarks(form_, this);
   auto* rows = AddGroup<QFormLayout>(column, QStringLiteral("Геометрия"));
   const auto box = [&](TextBox& state, const char* name, const QString& caption) {
     auto* edit = new QLineEdit;
@@ -128,14 +160,20 @@ void SchemeTab::AddGeometry(QBoxLayout* column) {
   auto* span = box(form_.txtLengthF, "txtLengthF", QStringLiteral("&Длинна фермы, м"));
   QObject::connect(span, &QLineEdit::editingFinished, this,
                    [this] { form_.txtLengthF_LostFocus(); });
-  box(form_.txtHight, "txtHight", QStringLiteral("&Высота фермы, м"));
-  SetHint(box(form_.txtLenOporn, "txtLenOporn", QStringLiteral("Опорная панел&ь, м")),
+  auto* height = box(form_.txtHight, "txtHight", QStringLiteral("&Высота фермы, м"));
+  auto* endPanel = box(form_.txtLenOporn, "txtLenOporn", QStringLiteral("Опорная панел&ь, м"));
+  SetHint(endPanel,
           QStringLiteral("Длинна крайних опорных панелей. Если не задано, то полагаются все панели "
                          "равной длинны !"));
   auto* panels = new QComboBox;
   panels->setObjectName(QStringLiteral("cmbPanelNum"));
   Bind(form_.cmbPanelNum, panels);
   rows->addRow(LabelFor(panels, QStringLiteral("&Кол-во панелей фермы")), panels);
+  marks_->Add(GeometryInput::Span, span);
+  marks_->Add(GeometryInput::Height, height);
+  marks_->Add(GeometryInput::EndPanel, endPanel);
+  marks_->Add(GeometryInput::PanelNum, panels);
+  rows->addRow(marks_->Words());
 }
 
 void SchemeTab::AddBracing(QBoxLayout* column, const Bracing& bracing) {

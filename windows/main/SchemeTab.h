@@ -9,10 +9,16 @@ class QGridLayout;
 
 namespace trelonit {
 
+class GeometryMarks;
+class TrussSketchView;
+
 /// Tab "Параметры фермы": scheme, geometry, bracing and the deflection limit.
 class SchemeTab : public QWidget {
  public:
   explicit SchemeTab(frmMain& form, QWidget* parent = nullptr);
+  SchemeTab(const SchemeTab&) = delete;
+  SchemeTab& operator=(const SchemeTab&) = delete;
+  ~SchemeTab() override;
 
  private:
   void AddSchemes(QBoxLayout* column);
@@ -31,7 +37,12 @@ class SchemeTab : public QWidget {
   void AddLengths(QGridLayout* rows, const Bracing& bracing, Long number, QWidget* option);
   void AddDeflection(QBoxLayout* column);
 
+  /// The truss to scale and the marks at the boxes, as the boxes stand.
+  void RefreshGeometry();
+
   frmMain& form_;
+  TrussSketchView* truss_ = nullptr;
+  GeometryMarks* marks_ = nullptr;
 };
 
 }  // namespace trelonit

@@ -69,7 +69,8 @@ void frmMain::Form_Load() {
     tmrRuningString.SetEnabled(true);
   });
   ConnectEvents();
-  RefreshBracingLengths();
+  WatchInputs();
+  RefreshGeometry();
 }
 
 void frmMain::SetStartDefaults() {
@@ -146,10 +147,10 @@ void frmMain::ConnectEvents() {
   const auto dropProgib = [this] { txtProgib.SetText(""); };
   const auto changeGeometry = [this] {
     txtProgib.SetText("");
-    RefreshBracingLengths();
+    RefreshGeometry();
   };
   txtLengthF.Change = live(changeGeometry);
-  txtHight.Change = live(dropProgib);
+  txtHight.Change = live(changeGeometry);
   txtLenOporn.Change = live(changeGeometry);
   // The two chords share a frame: choosing one clears the other.
   optBP.Click = live([this, dropProgib] {
@@ -277,6 +278,7 @@ void frmMain::mnuProfile_Click() {
 
 void frmMain::optio_Click() {
   Open(openers_.ShowParamerty);
+  TouchDesign();
 }
 
 void frmMain::cmdSteelGet_Click() {

@@ -14,10 +14,13 @@
 #include "workstation/design/ElementGroups.h"
 #include "workstation/design/ProjectFile.h"
 #include "workstation/design/Selection.h"
+#include "workstation/live/GeometryFaults.h"
+#include "workstation/live/LiveResult.h"
 #include "workstation/main/LoadPreview.h"
 #include "workstation/main/RunningCaption.h"
 #include "workstation/report/ReportLines.h"
 #include "workstation/results/ResultLists.h"
+#include "workstation/sketch/TrussSketch.h"
 
 namespace trelonit {
 
@@ -137,9 +140,12 @@ class frmMain {
   /// The same for whoever has no editor: calculates and hands the report over. Returns whether it
   /// came to its end; what kept it from there has been shown.
   bool MakeReport(const ReportSink& sink);
-  /// Brings the record of the inputs to what they show, and gives it: the one place where their
-  /// texts become numbers. Raises 6 for a panel count that is no number of panels.
+  /// Brings the record of the inputs to what they show, and gives it. Raises 6 for a panel count
+  /// that is no number of panels.
   const DesignInputs& ReadInputs();
+  /// A copy of what the inputs show at this moment; the record stays as it was last read. Raises as
+  /// ReadInputs does.
+  DesignInputs EnteredInputs() const;
 
   // --- beside the inputs and the results (frmMainOpinion.cpp)
   /// The truss as the boxes have it, whatever the geometry check said of it.
@@ -162,6 +168,18 @@ class frmMain {
   /// How many of the user's loads the handlers have dropped since this was last asked, because
   /// their joints and panels are gone or the loads were cleared.
   Long TakeLoadsLost();
+
+  // --- while the design is being entered (frmMainLive.cpp)
+  /// What has been entered, calculated on a copy of it: nothing is told and nothing changes.
+  LiveResult CalculateLive() const;
+  /// The truss of the boxes to scale, or what is wrong with them.
+  TrussSketch SketchTruss(const SketchCanvas& canvas) const;
+  /// What is wrong with the geometry of the boxes.
+  std::vector<GeometryFault> GeometryFaults() const;
+  /// Called after anything has changed that a result depends on, or may have.
+  std::function<void()> DesignTouched;
+  /// Called after another geometry has been entered.
+  std::function<void()> GeometryChanged;
 
   // --- project files (frmMainProject.cpp)
   // Each returns whether the command was carried out.
@@ -256,6 +274,11 @@ class frmMain {
   void SetStartDefaults();
   void LoadCatalogue();
   void ConnectEvents();
+  /// Every input that a result depends on tells of itself.
+  void WatchInputs();
+  void TouchDesign();
+  /// The one place where the texts of the inputs become numbers.
+  void PutInputs(DesignInputs& inputs) const;
 
   double Number(const TextBox& box) const;
   Long PanelNum() const;
@@ -273,6 +296,8 @@ class frmMain {
   void ColourGroup(Long option);
   Long SelectedGroup() const { return optElementSection.Selected(); }
   SectionRec& SelectedSection();
+  /// What is shown of the geometry beside its boxes.
+  void RefreshGeometry();
   void RefreshBracingLengths();
   void RefreshSectionSource(const SectionRec& section);
   /// Looks for it in the loads as they stand.

@@ -3,6 +3,7 @@
 #include "platform/errors/Guard.h"
 #include "platform/system/ProgramNames.h"
 #include "platform/values/Arithmetic.h"
+#include "workstation/design/EnteredDesign.h"
 #include "workstation/main/frmMain.h"
 
 namespace trelonit {
@@ -42,7 +43,7 @@ void frmMain::imgTreloType_Click(Long scheme) {
     ReDimLoadArrays();
     txtProgib.SetText("");
     RefreshHopt();
-    RefreshBracingLengths();
+    RefreshGeometry();
   });
 }
 
@@ -61,7 +62,7 @@ void frmMain::cmbPanelNum_Click() {
   ReDimLoadArrays();
   txtProgib.SetText("");
   RefreshHopt();
-  RefreshBracingLengths();
+  RefreshGeometry();
 }
 
 void frmMain::txtLengthF_LostFocus() {
@@ -121,21 +122,17 @@ void frmMain::WriteGdist() {
 
 bool frmMain::TakeGeometry() {
   const DesignInputs& inputs = ReadInputs();
-  const Real L = inputs.LengthF;
-  const Real H = inputs.Hight;
-  Real a = inputs.LenOporn;
+  const double L = inputs.LengthF;
+  const double H = inputs.Hight;
   const Long n = PanelNum();
-  if (!(L > 0.0) || !(H > 0.0)) {
+  if (!(L > 0) || !(H > 0)) {
     return false;
   }
   AcceptedGeometry& accepted = Model.Accepted;
   accepted.LengthF = L;
   accepted.Hight = H;
   accepted.PanelNum = n;
-  if (!FindScheme(inputs.TreloType)->OwnEndPanels || !(a > 0.0)) {
-    a = L / n;
-  }
-  accepted.LenOporn = a;
+  accepted.LenOporn = EndPanelOf(inputs);
   return true;
 }
 
@@ -148,8 +145,8 @@ void frmMain::CheckGeometry() {
                              .Style = MessageStyle::Critical});
     return;
   }
-  const Real L = Model.Accepted.LengthF;
-  const Real H = Model.Accepted.Hight;
+  const double L = Model.Accepted.LengthF;
+  const double H = Model.Accepted.Hight;
   if (!(L > H)) {
     services_.Messages.Show({.Title = warningTitle,
                              .Text = "Высота фермы превышает ее длинну !\n"
@@ -158,13 +155,7 @@ void frmMain::CheckGeometry() {
                              .Style = MessageStyle::Information});
     return;
   }
-  // 2.2 is the tangent of about 65.6 degrees for a diagonal across one panel, 4.4 across half a
-  // panel.
-  const Real slope = H * Model.Accepted.PanelNum / L;
-  const bool steep = FindScheme(Model.Inputs.TreloType)->DiagonalsSpanHalfPanels()
-                         ? slope > 4.4
-                         : slope > 2.2 || H / Model.Accepted.LenOporn > 2.2;
-  if (steep) {
+  if (HasSteepDiagonals(Model.Inputs)) {
     WarnProportions();
   }
 }

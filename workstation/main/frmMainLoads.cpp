@@ -74,6 +74,7 @@ void frmMain::NotifyPreview() {
   if (LoadsChanged) {
     LoadsChanged();
   }
+  TouchDesign();
 }
 
 void frmMain::ColourChosenMark() {

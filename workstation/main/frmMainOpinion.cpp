@@ -3,6 +3,7 @@
 #include "opinion/BarLengths.h"
 #include "platform/errors/Guard.h"
 #include "platform/values/Arithmetic.h"
+#include "workstation/design/EnteredDesign.h"
 #include "workstation/design/Loads.h"
 #include "workstation/design/OwnWeight.h"
 #include "workstation/main/frmMain.h"
@@ -21,16 +22,7 @@ constexpr Long bracingCount = 4;
 }  // namespace
 
 TreloData frmMain::ShownGeometry() {
-  const DesignInputs& inputs = ReadInputs();
-  TreloData data = Model.ToCalculate().TreloData;
-  data.LengthF = inputs.LengthF;
-  data.Hight = inputs.Hight;
-  data.PanelNum = PanelNum();
-  const Scheme* scheme = FindScheme(data.TreloType);
-  const bool ownPanels = scheme != nullptr && scheme->OwnEndPanels && inputs.LenOporn > 0;
-  const Real panel = ownPanels ? Real(inputs.LenOporn) : Real(data.LengthF) / data.PanelNum;
-  data.LenOporn = panel;
-  return data;
+  return DesignOf(ReadInputs(), Model.OwnWeight).TreloData;
 }
 
 void frmMain::RefreshBracingLengths() {

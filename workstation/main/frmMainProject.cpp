@@ -48,7 +48,17 @@ bool frmMain::SaveTo(const std::function<std::string()>& nameOfFile) {
 }
 
 const DesignInputs& frmMain::ReadInputs() {
-  DesignInputs& inputs = Model.Inputs;
+  PutInputs(Model.Inputs);
+  return Model.Inputs;
+}
+
+DesignInputs frmMain::EnteredInputs() const {
+  DesignInputs inputs = Model.Inputs;
+  PutInputs(inputs);
+  return inputs;
+}
+
+void frmMain::PutInputs(DesignInputs& inputs) const {
   const auto number = [this](const std::string& text) {
     return ParseNumber(text, services_.Locale);
   };
@@ -71,7 +81,6 @@ const DesignInputs& frmMain::ReadInputs() {
   inputs.OwnWeightOn = chkOwnWeight.Checked() ? 1 : 0;
   inputs.AllPanelsOn = chkAllPanels.Checked() ? 1 : 0;
   inputs.PForceTool = imgPForce.Marked() ? 1 : 0;
-  return inputs;
 }
 
 DesignInputs frmMain::CollectProject() {

@@ -198,7 +198,9 @@ TEST_F(Captions, OfTheMenusStandInTheirOrder) {
                                           "  optio \"Па&раметры стали\"",
                                           "&Помощь",
                                           "  About \"&О программе...\"",
-                                          "  UserHelp \"Справка\""};
+                                          "  UserHelp \"Справка\"",
+                                          "В&ид",
+                                          "  mnuLiveStrip \"Живой расчет\""};
   EXPECT_EQ(lines, expected);
 }
 
