@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEventLoop>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -12,13 +14,16 @@
 #include <QTabWidget>
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <string_view>
 
 #include "apps/trelonit/DesktopSession.h"
 #include "bench/FirstPaint.h"
 #include "windows/editor/OtchetWindow.h"
+#include "windows/main/LiveStrip.h"
 #include "windows/results/KoeffOfUseWindow.h"
 #include "windows/services/Desktop.h"
+#include "windows/services/FontsAhead.h"
 
 namespace {
 
@@ -101,8 +106,34 @@ double BestTime(const QWidget& window, const char* entry) {
   return best;
 }
 
+/// Processor time from a key in a box of the first tab until its truss and the live result show, in
+/// milliseconds: all that the program does meanwhile.
+double CostOfKey(const QWidget& window) {
+  Find<QTabWidget>(window, "tabMain").setCurrentIndex(0);
+  auto& box = Find<QLineEdit>(window, "txtHight");
+  box.setFocus();
+  const auto wait = [](int milliseconds) {
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+  };
+  wait(3 * LiveStrip::pause);
+  double best = 1e9;
+  for (int run = 0; run < repetitions; ++run) {
+    const bool digit = run % 2 == 0;
+    QKeyEvent key(QEvent::KeyPress, digit ? Qt::Key_1 : Qt::Key_Backspace, Qt::NoModifier,
+                  digit ? QStringLiteral("1") : QString());
+    const std::clock_t start = std::clock();
+    QApplication::sendEvent(&box, &key);
+    wait(2 * LiveStrip::pause);
+    best = std::min(best, 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+  }
+  return best;
+}
+
 void CalculateAll(const QWidget& window) {
   EnterLargestTruss(window);
+  bench::Tell("live", CostOfKey(window));
   bench::Tell("calculated", BestTime<KoeffOfUseWindow>(window, "mnuCalc"));
   bench::Tell("memory", bench::ResidentMegabytes());
   bench::Tell("reported", BestTime<OtchetWindow>(window, "mnuOtchet"));
@@ -111,7 +142,9 @@ void CalculateAll(const QWidget& window) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  FontsAhead fonts;
   QApplication application(argc, argv);
+  fonts.TakeOver();
   const Desktop desktop;
   DesktopSession session;
   const bool calculate = argc > 1 && std::string_view(argv[1]) == "calculate";

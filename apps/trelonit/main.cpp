@@ -9,6 +9,7 @@
 #include "platform/errors/Message.h"
 #include "platform/system/ProgramNames.h"
 #include "windows/services/Desktop.h"
+#include "windows/services/FontsAhead.h"
 #include "windows/services/GuardedApplication.h"
 
 namespace {
@@ -49,7 +50,9 @@ int main(int argc, char** argv) {
     return *answer;
   }
   try {
+    trelonit::FontsAhead fonts;
     trelonit::GuardedApplication application(argc, argv);
+    fonts.TakeOver();
     application.Tell = Tell;
     const std::optional<std::string> file = trelonit::HandedFile(QApplication::arguments());
     if (!file) {

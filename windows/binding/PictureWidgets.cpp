@@ -23,6 +23,7 @@ PictureView::PictureView(QSize preferred, QWidget* parent)
 
 void PictureView::SetFile(const QString& file) {
   file_ = file;
+  drawing_.Forget();
   update();
 }
 
@@ -38,7 +39,9 @@ void PictureView::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(WarningColor(palette()), 2));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), frameRadius, frameRadius);
   }
-  DrawPicture(painter, QRectF(rect()), file_, palette(), isEnabled());
+  drawing_.Draw(painter, *this, [this](QPainter& layer) {
+    DrawPicture(layer, QRectF(rect()), file_, palette(), isEnabled());
+  });
 }
 
 PictureButton::PictureButton(QSize preferred, QWidget* parent)
@@ -52,11 +55,13 @@ PictureButton::PictureButton(QSize preferred, QWidget* parent)
 
 void PictureButton::SetFile(const QString& file) {
   file_ = file;
+  drawing_.Forget();
   update();
 }
 
 void PictureButton::SetPale(bool pale) {
   pale_ = pale;
+  drawing_.Forget();
   update();
 }
 
@@ -82,8 +87,10 @@ void PictureButton::paintEvent(QPaintEvent*) {
   painter.setPen(QPen(border, width));
   painter.setBrush(palette().color(pale_ ? QPalette::Window : QPalette::Base));
   painter.drawRoundedRect(frame, frameRadius, frameRadius);
-  DrawPicture(painter, frame.adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
-              file_, palette(), isEnabled() && !pale_);
+  drawing_.Draw(painter, *this, [&](QPainter& layer) {
+    DrawPicture(layer, frame.adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
+                file_, palette(), isEnabled() && !pale_);
+  });
   if (hasFocus()) {
     // The style's own mark is too faint beside a picture.
     QPen dashes(palette().color(QPalette::Text), 2, Qt::CustomDashLine, Qt::FlatCap);

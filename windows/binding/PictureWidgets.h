@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "platform/forms/Controls.h"
+#include "windows/binding/PaintedLayer.h"
 
 namespace trelonit {
 
@@ -22,6 +23,7 @@ class PictureView : public QWidget {
  private:
   QSize preferred_;
   QString file_;
+  PaintedLayer drawing_;
   bool warning_ = false;
 };
 
@@ -42,6 +44,7 @@ class PictureButton : public QAbstractButton {
   QSize preferred_;
   QString file_;
   bool pale_ = false;
+  PaintedLayer drawing_;
 };
 
 void Bind(Image& state, PictureView* view);

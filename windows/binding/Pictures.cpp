@@ -1,7 +1,6 @@
 #include "windows/binding/Pictures.h"
 
-#include <QFile>
-#include <QSvgRenderer>
+#include "windows/binding/PicturePainter.h"
 
 namespace trelonit {
 
@@ -9,6 +8,11 @@ namespace {
 
 QString File(const QString& name) {
   return QStringLiteral(":/pictures/") + name + QStringLiteral(".svg");
+}
+
+/// The name of a picture in that of its file.
+std::string NameIn(const QString& file) {
+  return file.section(QLatin1Char('/'), -1).section(QLatin1Char('.'), 0, 0).toStdString();
 }
 
 QString BitmapName(Integer number) {
@@ -30,27 +34,30 @@ QString BitmapName(Integer number) {
   }
 }
 
-/// The bytes of the drawing in the colours of the theme.
-QByteArray Themed(const QString& file, const QPalette& palette, bool enabled) {
-  QFile source(file);
-  if (!source.open(QIODevice::ReadOnly)) {
-    return {};
-  }
-  QByteArray svg = source.readAll();
-  const auto group = enabled ? QPalette::Active : QPalette::Disabled;
-  svg.replace("#000000", palette.color(group, QPalette::Text).name().toLatin1());
-  if (IsDark(palette)) {
-    svg.replace("#c04000", LoadColor(palette).name().toLatin1());
-    svg.replace("#9db4cc", "#4d6a88");
-    svg.replace("#808080", QuietColor(palette).name().toLatin1());
-    svg.replace("#d00000", WarningColor(palette).name().toLatin1());
-    svg.replace("#a85a00", CautionColor(palette).name().toLatin1());
-  }
-  return svg;
-}
-
 QColor ByTheme(const QPalette& palette, const char* light, const char* dark) {
   return QColor(QLatin1String(IsDark(palette) ? dark : light));
+}
+
+/// A colour of a picture in the theme. Only a dark one has others than the picture itself.
+QColor ByRole(const PictureColor& color, const QPalette& palette, bool enabled) {
+  switch (color.Role) {
+    case PictureRole::Ink:
+      return palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::Text);
+    case PictureRole::Load:
+      return LoadColor(palette);
+    case PictureRole::Section:
+      return ByTheme(palette, "#9db4cc", "#4d6a88");
+    case PictureRole::Quiet:
+      return QuietColor(palette);
+    case PictureRole::Warning:
+      return WarningColor(palette);
+    case PictureRole::Caution:
+      return CautionColor(palette);
+    case PictureRole::None:
+    case PictureRole::Own:
+      break;
+  }
+  return QColor::fromRgb(color.Rgb);
 }
 
 }  // namespace
@@ -76,16 +83,15 @@ QString SchemePictureFile(Long scheme) {
 
 void DrawPicture(QPainter& painter, const QRectF& place, const QString& file,
                  const QPalette& palette, bool enabled) {
-  if (file.isEmpty()) {
+  const CompiledPicture* picture = FindPicture(NameIn(file));
+  if (picture == nullptr) {
     return;
   }
-  QSvgRenderer drawing(Themed(file, palette, enabled));
-  if (!drawing.isValid()) {
-    return;
-  }
-  const QSizeF size = drawing.viewBoxF().size().scaled(place.size(), Qt::KeepAspectRatio);
-  drawing.render(&painter,
-                 QRectF(place.center() - QPointF(size.width() / 2, size.height() / 2), size));
+  const QSizeF size =
+      QSizeF(picture->Width, picture->Height).scaled(place.size(), Qt::KeepAspectRatio);
+  PaintPicture(painter, QRectF(place.center() - QPointF(size.width() / 2, size.height() / 2), size),
+               *picture,
+               [&](const PictureColor& color) { return ByRole(color, palette, enabled); });
 }
 
 bool IsDark(const QPalette& palette) {

@@ -8,14 +8,15 @@
 
 namespace trelonit {
 
-/// The drawing of a picture number; empty for an empty picture.
+/// The file of resources/pictures for a picture number; empty for an empty picture.
 QString PictureFile(const Picture& picture);
 
 /// The small picture of a scheme, 1 to 10.
 QString SchemePictureFile(Long scheme);
 
-/// Draws the file as large as fits into the rectangle, centred, sharp at every scaling. Black
-/// becomes the palette's text colour, so that it can be read on a dark desktop too.
+/// Draws the picture of the file, or of that name, as large as fits into the rectangle, centred,
+/// sharp at every scaling. Black becomes the palette's text colour, so that it can be read on a
+/// dark desktop too.
 void DrawPicture(QPainter& painter, const QRectF& place, const QString& file,
                  const QPalette& palette, bool enabled = true);
 

@@ -25,6 +25,8 @@ namespace trelonit {
 namespace {
 
 constexpr int statusInterval = 500;
+/// After the first paint the desktop has a moment to show it.
+constexpr int completionDelay = 60;
 constexpr Long hoptPanel = 6;
 constexpr const char* settingsSection = "Window";
 constexpr const char* placeKey = "Geometry";
@@ -163,7 +165,7 @@ void MainWindow::CompleteTabs() {
 void MainWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
   if (sectionPage_->layout()->isEmpty()) {
-    QTimer::singleShot(0, this, [this] { CompleteTabs(); });
+    QTimer::singleShot(completionDelay, this, [this] { CompleteTabs(); });
   }
 }
 

@@ -103,13 +103,13 @@ TrussSketch TrussSketchView::Drawn() const {
 
 void TrussSketchView::Refresh() {
   setAccessibleDescription(ToQt(Drawn().Words));
+  layer_.Forget();
   update();
 }
 
 void TrussSketchView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  PaintList(painter, Drawn(), palette());
+  layer_.Draw(painter, *this, [this](QPainter& layer) { PaintList(layer, Drawn(), palette()); });
 }
 
 }  // namespace trelonit

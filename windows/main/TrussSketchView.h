@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "windows/binding/PaintedLayer.h"
 #include "workstation/main/frmMain.h"
 
 namespace trelonit {
@@ -22,6 +23,7 @@ class TrussSketchView : public QWidget {
 
  private:
   frmMain& form_;
+  PaintedLayer layer_;
 };
 
 }  // namespace trelonit

@@ -112,9 +112,14 @@ void FindingsStrip::AddSummary(const std::vector<Finding>& findings) {
   more->setFocusPolicy(Qt::StrongFocus);
   more->setAutoRaise(true);
   row_->addWidget(more);
-  AddList(findings);
-  QObject::connect(more, &QToolButton::toggled, this, [this, more](bool open) {
+  AddList();
+  // Setting out the words of all findings takes as long as everything else in the window: they wait
+  // until somebody wants to see them.
+  QObject::connect(more, &QToolButton::toggled, this, [this, more, findings](bool open) {
     more->setArrowType(open ? Qt::UpArrow : Qt::DownArrow);
+    if (list_->widget() == nullptr) {
+      FillList(findings);
+    }
     list_->setVisible(open);
     FitList();
   });
@@ -134,13 +139,18 @@ void FindingsStrip::resizeEvent(QResizeEvent* event) {
   FitList();
 }
 
-void FindingsStrip::AddList(const std::vector<Finding>& findings) {
+void FindingsStrip::AddList() {
   list_ = new QScrollArea;
   list_->setObjectName(QStringLiteral("FindingsList"));
   list_->setAccessibleName(QStringLiteral("Все замечания"));
   list_->setWidgetResizable(true);
   list_->setFrameShape(QFrame::NoFrame);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list_->hide();
+  column_->addWidget(list_);
+}
+
+void FindingsStrip::FillList(const std::vector<Finding>& findings) {
   auto* rows = new QWidget;
   auto* column = new QVBoxLayout(rows);
   column->setContentsMargins(0, 2, 0, 2);
@@ -160,8 +170,6 @@ void FindingsStrip::AddList(const std::vector<Finding>& findings) {
   // The tint is seen through both.
   rows->setAutoFillBackground(false);
   list_->viewport()->setAutoFillBackground(false);
-  list_->hide();
-  column_->addWidget(list_);
 }
 
 QToolButton* FindingsStrip::AddHelp(QHBoxLayout& row, const QString& about, const QString& place) {

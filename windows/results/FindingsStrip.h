@@ -24,7 +24,8 @@ class FindingsStrip : public NoticeFrame {
   /// A line without a list behind it.
   void AddStatement(const QString& text, std::optional<Severity> severity);
   void AddSummary(const std::vector<Finding>& findings);
-  void AddList(const std::vector<Finding>& findings);
+  void AddList();
+  void FillList(const std::vector<Finding>& findings);
   QToolButton* AddHelp(QHBoxLayout& row, const QString& about, const QString& place);
 
   QVBoxLayout* column_;

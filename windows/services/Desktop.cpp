@@ -1,10 +1,10 @@
 #include "windows/services/Desktop.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLibraryInfo>
 
 #include "platform/system/ProgramNames.h"
+#include "windows/binding/PictureIcon.h"
 
 namespace trelonit {
 
@@ -17,7 +17,7 @@ Desktop::Desktop() {
   QApplication::setApplicationVersion(QLatin1String(applicationVersion));
   QApplication::setDesktopFileName(QStringLiteral("ru.trelonit.Trelonit"));
   // Of every window, dialogue and message, whoever opens it.
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/trelonit.svg")));
+  QApplication::setWindowIcon(PictureIcon(QStringLiteral(":/pictures/trelonit.svg")));
   qApp->installEventFilter(&wheel_);
   if (buttons_.load(QStringLiteral("qtbase_ru"),
                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
