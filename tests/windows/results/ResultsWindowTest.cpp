@@ -49,7 +49,7 @@ TEST_F(ResultsWindow, ShowsTheListsOfTheForm) {
 }
 
 TEST_F(ResultsWindow, HeadsAreBoldAndFailedChecksHaveTheWarningColour) {
-  const QColor warning = WarningColor(Table().palette());
+  const QColor warningInk = WarningColor(Table().palette());
   int heads = 0;
   int failed = 0;
   int held = 0;
@@ -61,7 +61,7 @@ TEST_F(ResultsWindow, HeadsAreBoldAndFailedChecksHaveTheWarningColour) {
     for (int column = 0; column < 2; ++column) {
       const QTableWidgetItem& item = *Table().item(row, column);
       EXPECT_EQ(item.font().bold(), head || over) << row;
-      EXPECT_EQ(item.foreground().color() == warning, over) << row;
+      EXPECT_EQ(item.foreground().color() == warningInk, over) << row;
     }
   }
   EXPECT_EQ(heads, 5);
