@@ -15,7 +15,9 @@ namespace trelonit {
 class FileUpdate {
  public:
   virtual ~FileUpdate() = default;
-  /// Writes these bytes from this place on, counted from 0, and touches no other byte.
+  /// Writes these bytes from this place on, counted from 0, and touches no other byte. A copy of
+  /// the old content is kept until it is done; on a failure the old bytes are put back, and where
+  /// that fails too, the error tells where the copy is.
   virtual void WriteAt(std::uint64_t place, std::string_view bytes) = 0;
 };
 

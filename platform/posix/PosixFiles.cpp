@@ -1,9 +1,13 @@
+#include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include "platform/files/DiskAccess.h"
 #include "platform/files/FileErrors.h"
+#include "platform/files/InPlace.h"
+#include "platform/posix/ContentCopy.h"
 #include "platform/posix/Descriptor.h"
+#include "platform/posix/UnfinishedFile.h"
 
 namespace trelonit {
 
@@ -15,7 +19,7 @@ class DiskUpdate : public FileUpdate {
  public:
   // A pipe without a reader would be waited for.
   explicit DiskUpdate(const fs::path& path)
-      : file_(::open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)) {
+      : file_(::open(path.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC)) {
     if (!file_.IsOpen()) {
       throw errno == ENOENT ? MissingFileError(path)
       : errno == ENXIO      ? RuntimeError(ErrorNumber::PathFileAccess)
@@ -27,8 +31,21 @@ class DiskUpdate : public FileUpdate {
     }
   }
   void WriteAt(std::uint64_t place, std::string_view bytes) override {
-    trelonit::WriteAt(file_, static_cast<std::size_t>(place), bytes);
-    Flush(file_);
+    const std::string old = ReadAll(file_);
+    ContentCopy copy(old);
+    const HeldInterruption untilItIsWhole;
+    const auto begin = static_cast<std::size_t>(place);
+    const auto write = [&](std::string_view content) {
+      trelonit::WriteAt(file_, begin, content);
+      // What a failed write has added behind the old end goes when the old bytes come back.
+      const auto size = std::max(old.size(), content.empty() ? 0 : begin + content.size());
+      if (::ftruncate(file_.Number(), static_cast<off_t>(size)) != 0) {
+        throw FromErrno();
+      }
+      Flush(file_);
+    };
+    const std::string before = begin < old.size() ? old.substr(begin, bytes.size()) : std::string();
+    WriteInPlace(write, before, bytes, [&copy] { return copy.Keep(); });
   }
 
  private:

@@ -1,6 +1,5 @@
 #include "platform/posix/PosixReplacement.h"
 
-#include <array>
 #include <cstdlib>
 #include <fcntl.h>
 #include <optional>
@@ -12,10 +11,10 @@
 #include "platform/files/FileErrors.h"
 #include "platform/files/InPlace.h"
 #include "platform/files/UnfinishedNames.h"
+#include "platform/posix/ContentCopy.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/Leftovers.h"
 #include "platform/posix/UnfinishedFile.h"
-#include "platform/system/ProgramFolder.h"
 
 namespace trelonit {
 
@@ -135,72 +134,6 @@ bool NeedsName(int error) {
 bool StandsInTheWay(int error) {
   return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == EXDEV;
 }
-
-std::string ReadAll(const Descriptor& file) {
-  std::string content;
-  std::array<char, 65536> part{};
-  for (;;) {
-    const ssize_t count =
-        ::pread(file.Number(), part.data(), part.size(), static_cast<off_t>(content.size()));
-    if (count < 0 && errno == EINTR) {
-      continue;
-    }
-    if (count < 0) {
-      throw FromErrno();
-    }
-    if (count == 0) {
-      return content;
-    }
-    content.append(part.data(), static_cast<std::size_t>(count));
-  }
-}
-
-/// Where a copy outlives the machine's next start, otherwise where there is always room.
-fs::path FolderForCopies() {
-  fs::path own = UserDataFolder();
-  if (IsWritableFolder(own)) {
-    return own;
-  }
-  std::error_code code;
-  const fs::path folder = fs::temp_directory_path(code);
-  return code ? fs::path("/tmp") : folder;
-}
-
-/// A copy of the old content, for this user's eyes only; it goes with this object unless it is
-/// kept.
-class ContentCopy {
- public:
-  explicit ContentCopy(std::string_view content)
-      : name_((FolderForCopies() / "trelonit-copy-XXXXXX").native()),
-        file_(::mkostemp(name_.data(), O_CLOEXEC)) {
-    if (!file_.IsOpen()) {
-      throw FromErrno();
-    }
-    try {
-      WriteAt(file_, 0, content);
-      Flush(file_);
-    } catch (...) {
-      ::unlink(name_.c_str());
-      throw;
-    }
-  }
-  ContentCopy(const ContentCopy&) = delete;
-  ContentCopy& operator=(const ContentCopy&) = delete;
-  ~ContentCopy() {
-    if (!kept_) {
-      ::unlink(name_.c_str());
-    }
-  }
-  std::string Keep() {
-    kept_ = true;
-    return name_;
-  }
-
- private:
-  std::string name_;
-  Descriptor file_;
-  bool kept_ = false;
-};
 
 void WriteWhereItStands(const fs::path& target, std::string_view bytes) {
   const Descriptor file(::open(target.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));

@@ -1,9 +1,12 @@
+#include <algorithm>
 #include <cerrno>
 #include <fstream>
+#include <string>
 
 #include "platform/files/DiskAccess.h"
 #include "platform/files/FileErrors.h"
 #include "platform/win32/FileHandle.h"
+#include "platform/win32/Win32Replacement.h"
 
 namespace trelonit {
 
@@ -14,14 +17,23 @@ namespace {
 class DiskUpdate : public FileUpdate {
  public:
   explicit DiskUpdate(const fs::path& path)
-      : file_(path, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING) {
+      : file_(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+              OPEN_EXISTING) {
     if (!file_.IsOpen()) {
       throw LastFileIsMissing() ? MissingFileError(path) : FromLastFileError();
     }
   }
   void WriteAt(std::uint64_t place, std::string_view bytes) override {
-    file_.WriteAt(place, bytes);
-    file_.Flush();
+    const std::string old = file_.ReadAll();
+    const auto begin = static_cast<std::size_t>(place);
+    const auto write = [&](std::string_view content) {
+      file_.WriteAt(place, content);
+      // What a failed write has added behind the old end goes when the old bytes come back.
+      file_.EndAt(std::max(old.size(), content.empty() ? 0 : begin + content.size()));
+      file_.Flush();
+    };
+    WriteWithCopyKept(old, begin < old.size() ? old.substr(begin, bytes.size()) : std::string(),
+                      bytes, write);
   }
 
  private:

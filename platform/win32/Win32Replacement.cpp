@@ -1,3 +1,5 @@
+#include "platform/win32/Win32Replacement.h"
+
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -156,38 +158,12 @@ void WriteWhereItStands(const fs::path& target, std::string_view bytes) {
     throw FromLastFileError();
   }
   const std::string old = file.ReadAll();
-  std::random_device random;
-  const fs::path copyName = FolderForCopies() / ("trelonit-copy-" + std::to_string(random()));
-  FileHandle copy(copyName, GENERIC_WRITE | DELETE, 0, CREATE_NEW);
-  if (!copy.IsOpen()) {
-    throw FromLastFileError();
-  }
-  copy.SetGoesWithItsHandle(true);
-  copy.WriteAt(0, old);
-  copy.Flush();
-  copy.SetGoesWithItsHandle(false);
-  {
-    const HeldInterruption untilItIsWhole;
-    bool kept = false;
-    const auto write = [&file](std::string_view content) {
-      file.WriteAt(0, content);
-      file.EndAt(content.size());
-      file.Flush();
-    };
-    const auto keepCopy = [&] {
-      kept = true;
-      return FromWide(copyName.native());
-    };
-    try {
-      WriteInPlace(write, old, bytes, keepCopy);
-    } catch (...) {
-      if (!kept) {
-        copy.SetGoesWithItsHandle(true);
-      }
-      throw;
-    }
-  }
-  copy.SetGoesWithItsHandle(true);
+  const auto write = [&file](std::string_view content) {
+    file.WriteAt(0, content);
+    file.EndAt(content.size());
+    file.Flush();
+  };
+  WriteWithCopyKept(old, old, bytes, write);
 }
 
 bool HasOtherNames(const fs::path& path) {
@@ -238,6 +214,37 @@ class GrowingReplacement : public GrowingFile {
 };
 
 }  // namespace
+
+void WriteWithCopyKept(std::string_view whole, std::string_view before, std::string_view bytes,
+                       const std::function<void(std::string_view)>& write) {
+  std::random_device random;
+  const fs::path copyName = FolderForCopies() / ("trelonit-copy-" + std::to_string(random()));
+  FileHandle copy(copyName, GENERIC_WRITE | DELETE, 0, CREATE_NEW);
+  if (!copy.IsOpen()) {
+    throw FromLastFileError();
+  }
+  copy.SetGoesWithItsHandle(true);
+  copy.WriteAt(0, whole);
+  copy.Flush();
+  copy.SetGoesWithItsHandle(false);
+  {
+    const HeldInterruption untilItIsWhole;
+    bool kept = false;
+    const auto keepCopy = [&] {
+      kept = true;
+      return FromWide(copyName.native());
+    };
+    try {
+      WriteInPlace(write, before, bytes, keepCopy);
+    } catch (...) {
+      if (!kept) {
+        copy.SetGoesWithItsHandle(true);
+      }
+      throw;
+    }
+  }
+  copy.SetGoesWithItsHandle(true);
+}
 
 void ReplaceOnDisk(const fs::path& target, std::string_view bytes) {
   const fs::path whole = PlaceToWrite(target);

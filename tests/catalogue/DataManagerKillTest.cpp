@@ -1,17 +1,21 @@
 #ifndef _WIN32
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdint>
+#include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 #include <random>
 #include <stdexcept>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include "tests/catalogue/DataManagerDesk.h"
@@ -110,8 +114,39 @@ void EditForEver(const std::string& path, std::int32_t state, const Tell& tell) 
   }
 }
 
+/// A folder for the copies that killed writes leave.
+class Copies {
+ public:
+  Copies() {
+    for (const char* name : {"XDG_DATA_HOME", "TMPDIR"}) {
+      const char* value = std::getenv(name);
+      before_.emplace_back(name, value == nullptr ? std::optional<std::string>() : value);
+      ::setenv(name, folder_.In("").c_str(), 1);
+    }
+  }
+  Copies(const Copies&) = delete;
+  Copies& operator=(const Copies&) = delete;
+  ~Copies() {
+    for (const auto& [name, value] : before_) {
+      value ? ::setenv(name, value->c_str(), 1) : ::unsetenv(name);
+    }
+  }
+  std::vector<std::string> All() const {
+    std::vector<std::string> contents;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.In(""))) {
+      contents.push_back(test::ContentOf(entry.path()));
+    }
+    return contents;
+  }
+
+ private:
+  test::ScratchFolder folder_;
+  std::vector<std::pair<const char*, std::optional<std::string>>> before_;
+};
+
 TEST(DataManagerKill, LeavesEveryRecordWholeButTheOneThatIsWritten) {
   const test::ScratchFolder folder;
+  const Copies copies;
   const auto path = folder.Put("some.dat", test::NumberedFile(recordCount));
   std::string expected = test::ContentOf(path);
   std::mt19937 random(20240229);
@@ -145,6 +180,15 @@ TEST(DataManagerKill, LeavesEveryRecordWholeButTheOneThatIsWritten) {
   }
   // Otherwise it never came past its first write.
   EXPECT_GT(edits, 200U);
+  // What a kill has left is a copy of the file before the write, or the beginning of one where the
+  // file had not been touched yet.
+  const std::vector<std::string> left = copies.All();
+  EXPECT_GT(std::count_if(left.begin(), left.end(),
+                          [&](const std::string& copy) { return copy.size() == expected.size(); }),
+            0);
+  for (const std::string& copy : left) {
+    EXPECT_LE(copy.size(), expected.size());
+  }
 }
 
 /// The first byte that comes from neither of the two contents, or the size of the file.
@@ -165,6 +209,7 @@ void CheckOnDisk(const std::string& path) {
 
 TEST(DataManagerKill, LeavesTheFileOrItsCopyWholeWhenItChecks) {
   const test::ScratchFolder folder;
+  const Copies copies;
   const std::string before = test::NumberedFile(1800);
   const auto copy = folder.In("some.dat.bak");
   // A whole run first: the kills are spread over the time that it takes.

@@ -1,6 +1,7 @@
 #ifndef _WIN32
 
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
@@ -105,7 +106,47 @@ TEST_F(FileUpdatePosixTest, RaisesDiskFullWhereTheFileCannotGrow) {
     return "written";
   });
   EXPECT_EQ(answer, "error 61");
-  EXPECT_EQ(Content("file").substr(0, 3990), std::string(3990, 'o'));
+  // All of it as before: what fitted is taken back.
+  EXPECT_EQ(Content("file"), std::string(4000, 'o'));
+}
+
+/// In a child process whose copies of old contents go into a folder of their own.
+std::string InChildWithCopies(const fs::path& copies, const std::function<std::string()>& body) {
+  return InChild([&]() -> std::string {
+    ::setenv("XDG_DATA_HOME", "/nowhere", 1);
+    ::setenv("TMPDIR", copies.c_str(), 1);
+    return body();
+  });
+}
+
+TEST_F(FileUpdatePosixTest, LeavesNoCopyOfTheOldContent) {
+  Put("file", "0123", 0644);
+  fs::create_directory(In("copies"));
+  EXPECT_EQ(InChildWithCopies(In("copies"),
+                              [&]() -> std::string {
+                                files.OpenForUpdate(In("file"))->WriteAt(2, "abcd");
+                                return "written";
+                              }),
+            "written");
+  EXPECT_EQ(Content("file"), "01abcd");
+  EXPECT_TRUE(fs::is_empty(In("copies")));
+}
+
+TEST_F(FileUpdatePosixTest, TouchesNothingWhereNoCopyCanBeKept) {
+  Put("file", "0123", 0644);
+  EXPECT_EQ(InChildWithCopies(In("none"),
+                              [&]() -> std::string {
+                                // The copy, of four bytes, does not fit.
+                                const rlimit limit{2, 2};
+                                std::signal(SIGXFSZ, SIG_IGN);
+                                if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+                                  throw std::runtime_error("no limit");
+                                }
+                                files.OpenForUpdate(In("file"))->WriteAt(0, "a");
+                                return "written";
+                              }),
+            "error 61");
+  EXPECT_EQ(Content("file"), "0123");
 }
 
 TEST_F(FileUpdatePosixTest, WritesInsideAFileThatCannotGrow) {
