@@ -110,4 +110,10 @@ std::vector<Deviation> VerifyCatalogue(const ProfileTypeArray& catalogue) {
   return findings;
 }
 
+std::vector<Deviation> VerifyRecord(Long typeIdx, const ProfileRec& record) {
+  std::vector<Deviation> findings;
+  StandardCheck(typeIdx, record.Type.Trimmed(), findings).Verify(0, record);
+  return findings;
+}
+
 }  // namespace trelonit

@@ -31,4 +31,7 @@ struct Deviation {
 /// Never fails: whatever stands in the records ends as a line of the list.
 std::vector<Deviation> VerifyCatalogue(const ProfileTypeArray& catalogue);
 
+/// The same for one record of a standard.
+std::vector<Deviation> VerifyRecord(Long typeIdx, const ProfileRec& record);
+
 }  // namespace trelonit

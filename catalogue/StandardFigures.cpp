@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <limits>
 
-#include "catalogue/SectionShapes.h"
+#include "catalogue/StandardShapes.h"
 #include "platform/values/BoundedArray.h"
 
 namespace trelonit {
@@ -24,13 +24,13 @@ ExpectedFigures Angle(const ProfileRec& record) {
 ExpectedFigures ParallelChannel(const ProfileRec& record) {
   return Exactly(ChannelSection(record, 0));
 }
-/// GOST 8240-89: the published figures follow a slope of 10 %.
+/// GOST 8240-89.
 ExpectedFigures SlopedChannel(const ProfileRec& record) {
-  return Exactly(ChannelSection(record, 0.10));
+  return Exactly(ChannelSection(record, slopeOfChannels));
 }
-/// GOST 8239-89: the published figures follow a slope of 12 %.
+/// GOST 8239-89.
 ExpectedFigures SlopedI(const ProfileRec& record) {
-  return Exactly(ISection(record, 0.12));
+  return Exactly(ISection(record, slopeOfBeams));
 }
 /// GOST 26020-83.
 ExpectedFigures ParallelI(const ProfileRec& record) {
@@ -55,13 +55,12 @@ ExpectedFigures SharpTube(const ProfileRec& record) {
 
 /// Corners of concentric arcs; the outer radius is so many walls.
 SectionFigures ConcentricTube(const ProfileRec& record, double outerRadiusInWalls) {
-  const Real wall = record.s;
-  return RectangularTube(record, outerRadiusInWalls * wall, (outerRadiusInWalls - 1) * wall);
+  return FiguresOf(ConcentricTubeShape(record, outerRadiusInWalls));
 }
 
 /// GOST 12336-66: the published first rows follow corners of 3 and 2 walls.
 ExpectedFigures WideCornerTube(const ProfileRec& record) {
-  return Exactly(ConcentricTube(record, 3));
+  return Exactly(ConcentricTube(record, cornersOf12336));
 }
 
 /// GOST 30245-94. Sizes from a developed width of B + H = 400 mm up (200x200, 300x200) follow
@@ -69,7 +68,7 @@ ExpectedFigures WideCornerTube(const ProfileRec& record) {
 /// sharp ones, without a rule; so an error there is seen only when it leads out of that range.
 ExpectedFigures Tube30245of94(const ProfileRec& record) {
   constexpr double firstLargeWidth = 400;
-  const SectionFigures rounded = ConcentricTube(record, 2);
+  const SectionFigures rounded = ConcentricTube(record, cornersOf30245of94);
   if (Real(record.B) + record.H < firstLargeWidth) {
     return {rounded, RectangularTube(record, 0, 0)};
   }
@@ -80,9 +79,7 @@ ExpectedFigures Tube30245of94(const ProfileRec& record) {
 /// leave out the own inertia of the two flat walls parallel to the axis (up to 1.4 % for narrow
 /// thick sections).
 ExpectedFigures Tube30245of2003(const ProfileRec& record) {
-  constexpr double lastThinWall = 6;
-  constexpr double lastMiddleWall = 10;
-  const double radiusInWalls = record.s <= lastThinWall ? 2 : record.s <= lastMiddleWall ? 2.5 : 3;
+  const double radiusInWalls = CornersOf30245of2003(record.s);
   SectionFigures figures = ConcentricTube(record, radiusInWalls);
   const Real wall = record.s;
   const Real corners = 2 * radiusInWalls * wall;
@@ -96,10 +93,9 @@ ExpectedFigures Tube30245of2003(const ProfileRec& record) {
 /// GOST 8645-68: the table is computed for an outer radius of 1.5 walls, and its moments of inertia
 /// leave out the own inertia of the four corner rings (up to 3.8 % for narrow thick sections).
 ExpectedFigures Tube8645(const ProfileRec& record) {
-  constexpr double outerRadiusInWalls = 1.5;
-  SectionFigures figures = ConcentricTube(record, outerRadiusInWalls);
-  const Real corners = 4 * QuarterRingInertia(outerRadiusInWalls * Real(record.s),
-                                              (outerRadiusInWalls - 1) * Real(record.s));
+  SectionFigures figures = ConcentricTube(record, cornersOf8645);
+  const Real corners =
+      4 * QuarterRingInertia(cornersOf8645 * Real(record.s), (cornersOf8645 - 1) * Real(record.s));
   figures.Jy = figures.Jy - corners;
   figures.Jz = figures.Jz - corners;
   return Exactly(figures);

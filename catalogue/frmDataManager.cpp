@@ -1,10 +1,10 @@
 #include "catalogue/frmDataManager.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "catalogue/DataFile.h"
+#include "catalogue/RecordBoxes.h"
 #include "catalogue/RecordCoding.h"
 #include "platform/errors/Guard.h"
 #include "platform/files/FileBytes.h"
@@ -24,30 +24,6 @@ constexpr const char* firstReached = "Fist position reached !";
 constexpr const char* lastReached = "Last position reached !";
 constexpr const char* notChosen = "Data file has not got !";
 constexpr const char* notThere = "Data file not exists !";
-
-/// A number of the record with what stands before its box. The order of the boxes is not that of
-/// the file: H stands before B, s before t, and P last.
-struct NumberBox {
-  const char* Caption;
-  double ProfileRec::*Field;
-};
-constexpr std::array<NumberBox, 14> numberBoxes{{{"H = мм", &ProfileRec::H},
-                                                 {"B = мм", &ProfileRec::B},
-                                                 {"s =  мм", &ProfileRec::s},
-                                                 {"t = мм", &ProfileRec::t},
-                                                 {"r1 = мм", &ProfileRec::r1},
-                                                 {"r2 =  мм", &ProfileRec::r2},
-                                                 {"A =  см", &ProfileRec::A},
-                                                 {"Jy = см4", &ProfileRec::Jy},
-                                                 {"Jz  = см4", &ProfileRec::Jz},
-                                                 {"Wy = см3", &ProfileRec::Wy},
-                                                 {"Wz = см3", &ProfileRec::Wz},
-                                                 {"y0 = мм", &ProfileRec::y0},
-                                                 {"z0 = мм", &ProfileRec::z0},
-                                                 {"P =  кг/см", &ProfileRec::P}}};
-constexpr Long nameBox = 1;
-constexpr Long typeBox = 2;
-constexpr Long firstNumberBox = 3;
 
 bool IsBlank(const std::string& path) {
   return path.empty() || path == " ";
@@ -85,6 +61,9 @@ frmDataManager::frmDataManager(Services services, std::function<void()> endProgr
   for (std::size_t place = 0; place < numberBoxes.size(); ++place) {
     lblText[firstNumberBox + static_cast<Long>(place)].SetCaption(numberBoxes[place].Caption);
   }
+  for (TextBox& box : Text) {
+    box.Change = [this] { JudgeBoxes(); };
+  }
 }
 
 void frmDataManager::Form_Load() {
@@ -92,10 +71,12 @@ void frmDataManager::Form_Load() {
   CurPos = 0;
   TotalPos = 0;
   DataPath.clear();
+  lblFound.SetCaption("");
   for (TextBox& box : Text) {
     box.SetText("");
   }
   ShowCounts();
+  RecordsAreOthers();
 }
 
 std::string frmDataManager::AskForFile() {
@@ -134,6 +115,10 @@ void frmDataManager::cmdLoadDB_Click() {
     Show(notThere);
     return;
   }
+  LoadFile(path);
+}
+
+void frmDataManager::LoadFile(const std::string& path) {
   std::unique_ptr<std::istream> stream;
   if (!Open([&] { stream = services_.Files.OpenForReading(path); })) {
     return;
@@ -146,10 +131,13 @@ void frmDataManager::cmdLoadDB_Click() {
     CurPos = 1;
     ShowRecord();
     ShowCounts();
+    RecordsAreOthers();
   });
 }
 
 void frmDataManager::ShowRecord() {
+  // Judged once, and not with each of the sixteen.
+  showing_ = true;
   PassOver([&] {
     const ProfileRec& record = Records[CurPos];
     Text[nameBox].SetText(record.Name.Padded());
@@ -161,7 +149,12 @@ void frmDataManager::ShowRecord() {
           [&] { box.SetText(NumberToText(record.*numberBoxes[place].Field, services_.Locale)); });
     }
   });
+  showing_ = false;
   lblCurr.SetCaption(std::to_string(CurPos));
+  JudgeBoxes();
+  if (CurrentChanged) {
+    CurrentChanged();
+  }
 }
 
 void frmDataManager::ShowCounts() {
@@ -251,6 +244,7 @@ void frmDataManager::cmdEditCurrent_Click() {
     file->WriteAt(PlaceOfRecord(CurPos), {bytes.data(), bytes.size()});
   });
   ShowCounts();
+  RecordsAreOthers();
 }
 
 void frmDataManager::CheckueDB_Click() {
@@ -277,6 +271,7 @@ void frmDataManager::CheckueDB_Click() {
     return;
   }
   Records = std::move(repaired);
+  RecordsAreOthers();
   std::unique_ptr<FileUpdate> file;
   if (!Open([&] { file = services_.Files.OpenForUpdate(path); })) {
     return;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "catalogue/ProfileRecord.h"
 #include "platform/forms/Controls.h"
@@ -40,6 +41,18 @@ class frmDataManager {
   void CheckueDB_Click();
   void Exit_Click();
 
+  // --- beside the record (frmDataManagerBrowse.cpp)
+  /// Loads the catalogue that the program itself works with; it is unpacked where it is missing.
+  void cmdOwnCatalogue_Click();
+  /// Goes to the next record with the text of txtFind in its name, after the last one to the first.
+  void cmdFindNext_Click();
+  /// Goes to the record with the number in txtGoTo.
+  void cmdGoTo_Click();
+  /// Shows this record; nothing happens for the present one and for a number without a record.
+  void GoToRecord(Long number);
+  /// How numbers are shown.
+  const NumberLocale& Locale() const { return services_.Locale; }
+
   /// Records of the file, from 1; the number of the current one; their count; the file.
   BoundedArray<ProfileRec> Records;
   Long CurPos = 0;
@@ -52,11 +65,25 @@ class frmDataManager {
   BoundedArray<Label> lblText{1, boxCount};
   Label lblCurr;
   Label lblTotal;
+  TextBox txtFind;
+  TextBox txtGoTo;
+  /// What came of the search.
+  Label lblFound;
+  /// What the dimensions in the boxes say of A, Jy and Jz; red where they do not agree.
+  Label lblHealth;
+  /// Called after the records have become others, and after another one is shown.
+  std::function<void()> RecordsChanged;
+  std::function<void()> CurrentChanged;
   /// Unloads the window.
   std::function<void()> Unload;
 
  private:
   std::string AskForFile();
+  void LoadFile(const std::string& path);
+  void RecordsAreOthers();
+  void JudgeBoxes();
+  /// The standard with this name in the program's catalogue; 0 where there is none.
+  Long StandardOf(const FixedText<50>& name);
   void Show(const std::string& text);
   /// Runs an opening; on a failure the user is told and the whole program ends.
   bool Open(const std::function<void()>& open);
@@ -67,6 +94,9 @@ class frmDataManager {
 
   Services services_;
   std::function<void()> endProgram_;
+  bool showing_ = false;
+  // Names of the program's standards, read when they are first asked for.
+  std::vector<FixedText<50>> standards_;
 };
 
 }  // namespace trelonit

@@ -22,11 +22,11 @@ SectionFigures FiguresOf(const Outline& outline) {
 }
 
 /// Relative closeness of what is the same on paper.
-bool Same(double a, double b, double scale) {
+bool SameNumber(double a, double b, double scale) {
   return std::abs(a - b) <= 1e-9 * std::abs(scale);
 }
-bool Same(double a, double b) {
-  return Same(a, b, b);
+bool SameNumber(double a, double b) {
+  return SameNumber(a, b, b);
 }
 
 /// An angle with an obtuse corner and with arcs of both directions.
@@ -136,13 +136,13 @@ RC_GTEST_PROP(SectionGeometry, FollowsTheParallelAxisTheorem, ()) {
   const double z = *rc::gen::inRange(-300, 300);
   const AreaIntegrals home = Integrate(CrookedOutline(size));
   const AreaIntegrals away = Integrate(Moved(CrookedOutline(size), y, z));
-  RC_ASSERT(Same(away.A, home.A));
-  RC_ASSERT(Same(away.Jy, home.Jy + 2 * z * home.Sy + home.A * z * z));
-  RC_ASSERT(Same(away.Jz, home.Jz + 2 * y * home.Sz + home.A * y * y));
+  RC_ASSERT(SameNumber(away.A, home.A));
+  RC_ASSERT(SameNumber(away.Jy, home.Jy + 2 * z * home.Sy + home.A * z * z));
+  RC_ASSERT(SameNumber(away.Jz, home.Jz + 2 * y * home.Sz + home.A * y * y));
   const SectionFigures before = CentroidalFigures(home);
   const SectionFigures after = CentroidalFigures(away);
-  RC_ASSERT(Same(after.Jy, before.Jy, away.Jy / 1e4));
-  RC_ASSERT(Same(after.Jz, before.Jz, away.Jz / 1e4));
+  RC_ASSERT(SameNumber(after.Jy, before.Jy, away.Jy / 1e4));
+  RC_ASSERT(SameNumber(after.Jz, before.Jz, away.Jz / 1e4));
 }
 
 RC_GTEST_PROP(SectionGeometry, ChangesTheAxesWithAQuarterTurn, ()) {
@@ -153,9 +153,9 @@ RC_GTEST_PROP(SectionGeometry, ChangesTheAxesWithAQuarterTurn, ()) {
   }
   const SectionFigures before = FiguresOf(CrookedOutline(size));
   const SectionFigures after = FiguresOf(turned);
-  RC_ASSERT(Same(after.A, before.A));
-  RC_ASSERT(Same(after.Jy, before.Jz));
-  RC_ASSERT(Same(after.Jz, before.Jy));
+  RC_ASSERT(SameNumber(after.A, before.A));
+  RC_ASSERT(SameNumber(after.Jy, before.Jz));
+  RC_ASSERT(SameNumber(after.Jz, before.Jy));
 }
 
 RC_GTEST_PROP(SectionGeometry, KeepsTheFiguresOfAMirroredSection, ()) {
@@ -167,10 +167,10 @@ RC_GTEST_PROP(SectionGeometry, KeepsTheFiguresOfAMirroredSection, ()) {
   }
   const SectionFigures before = FiguresOf(outline);
   const SectionFigures after = FiguresOf(mirrored);
-  RC_ASSERT(Same(after.A, before.A));
-  RC_ASSERT(Same(after.Jy, before.Jy));
-  RC_ASSERT(Same(after.Jz, before.Jz));
-  RC_ASSERT(Same(after.y0, -before.y0));
+  RC_ASSERT(SameNumber(after.A, before.A));
+  RC_ASSERT(SameNumber(after.Jy, before.Jy));
+  RC_ASSERT(SameNumber(after.Jz, before.Jz));
+  RC_ASSERT(SameNumber(after.y0, -before.y0));
 }
 
 TEST(SectionGeometry, RefusesWhatCannotBeDrawn) {
