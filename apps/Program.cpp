@@ -49,6 +49,7 @@ Program::Program(const Services& services, Windows windows)
                         .txtUsloviyaRabot = main_.txtUsloviyaRabot}),
       paramerty_(services, main_.Steel) {
   RestoreAppendix();
+  OfferTableFiles();
   if (windows_.Associations != nullptr) {
     assoc_.emplace(*windows_.Associations, services_.Messages);
   }
@@ -62,6 +63,15 @@ void Program::RestoreAppendix() {
     main_.ReportAppendix = on;
     services_.Settings.Set(reportSection, appendixKey, BooleanToText(on));
   };
+}
+
+void Program::OfferTableFiles() {
+  const auto asSpreadsheet = [this](const ResultTable& table) {
+    SaveAsSpreadsheet(table, windows_.WriteSpreadsheet, services_);
+  };
+  koeffOfUse_.SetTableFiles(
+      [this](const ResultTable& table) { SaveAsCsv(table, services_); },
+      windows_.WriteSpreadsheet ? asSpreadsheet : std::function<void(const ResultTable&)>());
 }
 
 frmMain::Openers Program::MakeOpeners() {

@@ -16,6 +16,7 @@
 #include "workstation/dialogs/frmKoeffOfUse.h"
 #include "workstation/dialogs/frmSearch.h"
 #include "workstation/main/frmMain.h"
+#include "workstation/results/TableFile.h"
 
 namespace trelonit {
 
@@ -39,6 +40,8 @@ class Program {
     std::function<void(frmFind&)> ShowFind;
     std::function<void(frmDate&)> ShowDate;
     std::function<void(frmAssoc&)> ShowAssoc;
+    /// Null where the program writes no spreadsheets.
+    SpreadsheetWriter WriteSpreadsheet;
     /// After a drawing has been made: shows what the built-in drawing host holds.
     std::function<void()> ShowDrawings;
     /// The bytes of a PDF file with the document and the drawings of the design.
@@ -69,6 +72,7 @@ class Program {
   frmMain::Openers MakeOpeners();
   /// Whether reports end with the second opinion is kept between runs.
   void RestoreAppendix();
+  void OfferTableFiles();
   std::optional<SelectionProposal> OpenSearch(const SelectionOffer& offer);
   /// A document window as it opens, with an empty document.
   frmOtchetMain& NewOtchet(const std::string& commandLine);

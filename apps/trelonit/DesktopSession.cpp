@@ -16,6 +16,7 @@
 #include "windows/main/DocumentDesk.h"
 #include "windows/office/OfficeWorkFolder.h"
 #include "windows/results/KoeffOfUseWindow.h"
+#include "workstation/results/XlsxTable.h"
 
 namespace trelonit {
 
@@ -38,6 +39,7 @@ Program::Windows DesktopSession::MakeWindows() {
       .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
       .ShowDate = ModalOverDocument<DateWindow, frmDate>(help_place::Date),
       .ShowAssoc = ModalOverDocument<AssocWindow, frmAssoc>(help_place::Assoc),
+      .WriteSpreadsheet = XlsxWriter(),
       .ShowDrawings = [this] { drawings_.ShowDrawings(otchet_.get()); },
       .PdfWithDrawings =
           [this](const RichTextBox& document, const std::string& title, const DrawnDesign& design) {

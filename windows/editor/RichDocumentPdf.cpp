@@ -9,6 +9,7 @@
 #include <QPdfWriter>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <functional>
 
 #include "platform/errors/RuntimeError.h"
 #include "windows/binding/Binding.h"
@@ -108,38 +109,20 @@ void PaintPage(QPainter& painter, QTextDocument& text, const QSizeF& size, int p
   painter.restore();
 }
 
-}  // namespace
-
-QPageLayout PaperLayout() {
-  return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
-          QMarginsF(filedMargin, otherMargin, otherMargin, otherMargin), QPageLayout::Millimeter};
+/// What pages leave for the text over their foot.
+QSizeF TextSize(QPagedPaintDevice& device, const Foot& foot) {
+  return {static_cast<double>(device.width()), device.height() - foot.Height()};
 }
 
-int PaintDocument(const RichDocument& document, QPagedPaintDevice& device) {
-  QPainter painter;
-  if (!painter.begin(&device)) {
-    throw RuntimeError(ErrorNumber::DeviceIoError);
-  }
-  const int count = PaintDocument(document, device, painter);
-  if (!painter.end()) {
-    throw RuntimeError(ErrorNumber::DeviceIoError);
-  }
-  return count;
-}
-
-int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPainter& painter) {
-  const Foot foot(device);
-  const QRectF page(0, 0, device.width(), device.height());
-  const QSizeF size(page.width(), page.height() - foot.Height());
-  QTextDocument text;
-  FillDocument(text, document);
-  text.setDefaultFont(FontFor({}));
+void LayOut(QTextDocument& text, QPagedPaintDevice& device) {
   text.setDocumentMargin(0);
   text.documentLayout()->setPaintDevice(&device);
-  text.setPageSize(size);
-  KeepHeadingsWithTheirText(text);
-  // From the beginning once more, the breaks being known.
-  text.setPageSize(size);
+  text.setPageSize(TextSize(device, Foot(device)));
+}
+
+int PaintLaidOut(QTextDocument& text, QPagedPaintDevice& device, QPainter& painter) {
+  const Foot foot(device);
+  const QRectF page(0, 0, device.width(), device.height());
   const int count = text.pageCount();
   const QPageRanges ranges = device.pageRanges();
   bool painted = false;
@@ -151,10 +134,51 @@ int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPain
       throw RuntimeError(ErrorNumber::DeviceIoError);
     }
     painted = true;
-    PaintPage(painter, text, size, number - 1);
+    PaintPage(painter, text, TextSize(device, foot), number - 1);
     foot.Paint(painter, page, number, count);
   }
   return count;
+}
+
+/// Runs the painting with a painter of its own on the device.
+int Painted(QPagedPaintDevice& device, const std::function<int(QPainter&)>& paint) {
+  QPainter painter;
+  if (!painter.begin(&device)) {
+    throw RuntimeError(ErrorNumber::DeviceIoError);
+  }
+  const int count = paint(painter);
+  if (!painter.end()) {
+    throw RuntimeError(ErrorNumber::DeviceIoError);
+  }
+  return count;
+}
+
+}  // namespace
+
+QPageLayout PaperLayout() {
+  return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
+          QMarginsF(filedMargin, otherMargin, otherMargin, otherMargin), QPageLayout::Millimeter};
+}
+
+int PaintDocument(const RichDocument& document, QPagedPaintDevice& device) {
+  return Painted(device,
+                 [&](QPainter& painter) { return PaintDocument(document, device, painter); });
+}
+
+int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPainter& painter) {
+  QTextDocument text;
+  FillDocument(text, document);
+  text.setDefaultFont(FontFor({}));
+  LayOut(text, device);
+  KeepHeadingsWithTheirText(text);
+  // From the beginning once more, the breaks being known.
+  text.setPageSize(text.pageSize());
+  return PaintLaidOut(text, device, painter);
+}
+
+int PaintPages(QTextDocument& text, QPagedPaintDevice& device) {
+  LayOut(text, device);
+  return Painted(device, [&](QPainter& painter) { return PaintLaidOut(text, device, painter); });
 }
 
 std::string WritePdf(const RichDocument& document, const std::string& title,

@@ -7,6 +7,8 @@
 
 #include "editor/document/RichDocument.h"
 
+class QTextDocument;
+
 namespace trelonit {
 
 // Documents on paper. Needs no widgets, only an application with fonts (QGuiApplication).
@@ -21,6 +23,10 @@ int PaintDocument(const RichDocument& document, QPagedPaintDevice& device);
 
 /// The same with a painter that has begun on the device and goes on with it.
 int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPainter& painter);
+
+/// The same of a text that is filled already, which takes the size of the pages and breaks where it
+/// happens to.
+int PaintPages(QTextDocument& text, QPagedPaintDevice& device);
 
 /// The bytes of a PDF file. Raises 57 like the painting.
 std::string WritePdf(const RichDocument& document, const std::string& title,

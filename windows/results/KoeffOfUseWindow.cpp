@@ -6,14 +6,18 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
+#include <QTabBar>
+#include <QTabWidget>
 #include <algorithm>
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
+#include "windows/results/BarTableView.h"
 #include "windows/results/CopyAction.h"
 #include "windows/results/ExplanationView.h"
 #include "windows/results/FindingsStrip.h"
 #include "windows/results/ResultViews.h"
+#include "windows/results/TablePrint.h"
 #include "windows/results/UseGrid.h"
 #include "workstation/design/ElementGroups.h"
 #include "workstation/report/ReportAppendix.h"
@@ -77,13 +81,13 @@ KoeffOfUseWindow::KoeffOfUseWindow(frmKoeffOfUse& form, QWidget* parent)
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   resize(usualSize.boundedTo(screen()->availableSize() * 9 / 10));
   auto* column = new QVBoxLayout(this);
-  AddMenu(column);
   column->addWidget(new FindingsStrip(form_.Opinion));
   QWidget* lists = NewLists();
   QWidget* pictures = NewPictures();
   QWidget* upper = NewSplitter(Qt::Horizontal, lists, pictures, gridShare);
-  column->addWidget(NewSplitter(Qt::Vertical, upper, NewExplanation(), listShare), 1);
+  column->addWidget(NewSplitter(Qt::Vertical, upper, NewPages(), listShare), 1);
   AddButtons(column);
+  AddMenu(column);
   ShowRow(nullptr);
 }
 
@@ -96,13 +100,38 @@ void KoeffOfUseWindow::AddMenu(QVBoxLayout* column) {
   appendix->setCheckable(true);
   Bind(form_.mnuAppendix, appendix);
   QObject::connect(appendix, &QAction::triggered, this, [this] { form_.mnuAppendix_Click(); });
+  AddTableMenu(bar);
+}
+
+void KoeffOfUseWindow::AddTableMenu(QMenuBar* bar) {
+  QMenu* menu = bar->addMenu(QStringLiteral("&Таблица"));
+  const auto add = [&](const char* name, const QString& caption, const QKeySequence& key,
+                       std::function<void()> click) {
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    QObject::connect(action, &QAction::triggered, this, std::move(click));
+    return action;
+  };
+  add("mnuShowBars", QStringLiteral("Стержни"), QKeySequence(Qt::CTRL | Qt::Key_T), [this] {
+    pages_->setCurrentWidget(bars_->parentWidget());
+    bars_->setFocus();
+  });
+  menu->addSeparator();
+  add("mnuCopyTable", QStringLiteral("Копировать"), {}, [this] { bars_->Copy(); });
+  Bind(form_.mnuSaveCsv, add("mnuSaveCsv", ToQt(form_.mnuSaveCsv.Caption()), QKeySequence::Save,
+                             [this] { form_.mnuSaveCsv_Click(bars_->Shown()); }));
+  Bind(form_.mnuSaveXlsx, add("mnuSaveXlsx", ToQt(form_.mnuSaveXlsx.Caption()), {},
+                              [this] { form_.mnuSaveXlsx_Click(bars_->Shown()); }));
+  add("mnuPrintTable", QStringLiteral("Печать..."), QKeySequence::Print,
+      [this] { PreviewTable(bars_->Shown(), form_.Locale, this); });
 }
 
 QWidget* KoeffOfUseWindow::NewLists() {
   const Side side;
-  auto* grid = new UseGrid(form_);
-  grid->Chosen = [this](const ResultRow* row) { ShowRow(row); };
-  AddGroup<QVBoxLayout>(side.Column, ToQt(form_.framKoef.Caption()), 1)->addWidget(grid);
+  grid_ = new UseGrid(form_);
+  grid_->Chosen = [this](const ResultRow* row) { ShowRow(row); };
+  AddGroup<QVBoxLayout>(side.Column, ToQt(form_.framKoef.Caption()), 1)->addWidget(grid_);
   return side.Widget;
 }
 
@@ -111,6 +140,7 @@ QWidget* KoeffOfUseWindow::NewPictures() {
   truss_ = new TrussView(form_.Picture.Bars);
   truss_->setObjectName(QStringLiteral("TrussView"));
   truss_->setAccessibleName(QStringLiteral("Ферма с усилиями в стержнях"));
+  truss_->Picked = [this](const MarkedBar& bar) { ShowBar(bar); };
   AddGroup<QVBoxLayout>(side.Column, QStringLiteral("Ферма"), 3)->addWidget(truss_);
   auto* row = new QHBoxLayout;
   side.Column->addLayout(row, 2);
@@ -122,13 +152,39 @@ QWidget* KoeffOfUseWindow::NewPictures() {
   return side.Widget;
 }
 
+QWidget* KoeffOfUseWindow::NewPages() {
+  pages_ = new QTabWidget;
+  pages_->setObjectName(QStringLiteral("Pages"));
+  pages_->tabBar()->setAccessibleName(QStringLiteral("Объяснение и таблица стержней"));
+  QWidget* explanation = NewExplanation();
+  pages_->addTab(explanation, explanation_->accessibleName());
+  pages_->addTab(NewBars(), QStringLiteral("Стержни"));
+  return pages_;
+}
+
+QWidget* KoeffOfUseWindow::NewBars() {
+  auto* page = new QWidget;
+  auto* column = new QVBoxLayout(page);
+  bars_ = new BarTableView(form_.Bars, form_.Locale);
+  bars_->Chosen = [this](std::optional<MarkedBar> bar) {
+    // One choice at a time: the mark is that of the last one.
+    if (bar) {
+      grid_->clearSelection();
+    }
+    truss_->Mark(bar);
+  };
+  column->addWidget(bars_);
+  return page;
+}
+
 QWidget* KoeffOfUseWindow::NewExplanation() {
-  const Side side;
+  auto* page = new QWidget;
+  auto* column = new QVBoxLayout(page);
   explanation_ = new ExplanationView(form_.Locale);
   explanation_->setObjectName(QStringLiteral("Explanation"));
   explanation_->setAccessibleName(QStringLiteral("Как получен коэффициент"));
-  AddGroup<QVBoxLayout>(side.Column, explanation_->accessibleName(), 1)->addWidget(explanation_);
-  return side.Widget;
+  column->addWidget(explanation_);
+  return page;
 }
 
 void KoeffOfUseWindow::AddButtons(QVBoxLayout* column) {
@@ -144,6 +200,11 @@ void KoeffOfUseWindow::AddButtons(QVBoxLayout* column) {
   close->setFocus();
 }
 
+void KoeffOfUseWindow::ShowBar(const MarkedBar& bar) {
+  pages_->setCurrentWidget(bars_->parentWidget());
+  bars_->Choose(bar);
+}
+
 void KoeffOfUseWindow::ShowRow(const ResultRow* row) {
   const SecondOpinion& opinion = form_.Opinion;
   if (row == nullptr || row->Checks.empty()) {
@@ -155,6 +216,8 @@ void KoeffOfUseWindow::ShowRow(const ResultRow* row) {
         {{.Told = opinion.FindExplanation(ExplanationSource::Told, std::nullopt, "Progib")}});
     return;
   }
+  pages_->setCurrentWidget(explanation_->parentWidget());
+  bars_->clearSelection();
   truss_->Mark(row->Bar ? std::optional(MarkedBar{OptionOf(row->Group), *row->Bar}) : std::nullopt);
   std::vector<ExplainedCheck> checks;
   for (const std::string& check : row->Checks) {

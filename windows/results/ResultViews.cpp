@@ -2,6 +2,7 @@
 
 #include <QHelpEvent>
 #include <QLocale>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
@@ -46,6 +47,7 @@ QString BarHint(const PictureBar& bar) {
 TrussView::TrussView(std::vector<PictureBar> bars, QWidget* parent)
     : QWidget(parent), bars_(std::move(bars)) {
   setMinimumSize(320, 90);
+  setMouseTracking(true);
   double left = 0;
   double right = 0;
   double top = 0;
@@ -147,24 +149,42 @@ void TrussView::DrawLegend(QPainter& painter) const {
                        .arg(QLocale().toString(greatest_, 'f', forceDecimals)));
 }
 
-bool TrussView::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) {
-    return QWidget::event(event);
-  }
-  const auto* help = static_cast<QHelpEvent*>(event);
+const PictureBar* TrussView::BarAt(QPointF point) const {
   const QTransform place = Placing();
   const PictureBar* nearest = nullptr;
   double distance = hintDistance;
   for (const PictureBar& bar : bars_) {
-    const double away = DistanceToBar(help->pos(), place.map(QPointF(bar.X1, bar.Y1)),
+    const double away = DistanceToBar(point, place.map(QPointF(bar.X1, bar.Y1)),
                                       place.map(QPointF(bar.X2, bar.Y2)));
     if (away < distance) {
       distance = away;
       nearest = &bar;
     }
   }
-  if (nearest != nullptr) {
-    QToolTip::showText(help->globalPos(), BarHint(*nearest), this);
+  return nearest;
+}
+
+void TrussView::mousePressEvent(QMouseEvent* event) {
+  const PictureBar* bar = BarAt(event->position());
+  if (event->button() != Qt::LeftButton || bar == nullptr || !Picked) {
+    QWidget::mousePressEvent(event);
+    return;
+  }
+  Picked({bar->Group, bar->Number});
+}
+
+void TrussView::mouseMoveEvent(QMouseEvent* event) {
+  setCursor(Picked && BarAt(event->position()) != nullptr ? Qt::PointingHandCursor
+                                                          : Qt::ArrowCursor);
+}
+
+bool TrussView::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) {
+    return QWidget::event(event);
+  }
+  const auto* help = static_cast<QHelpEvent*>(event);
+  if (const PictureBar* bar = BarAt(help->pos())) {
+    QToolTip::showText(help->globalPos(), BarHint(*bar), this);
   } else {
     QToolTip::hideText();
   }

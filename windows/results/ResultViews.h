@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -8,16 +9,8 @@
 
 namespace trelonit {
 
-/// A bar by the numbers of the picture.
-struct MarkedBar {
-  GroupOption Group = optionUpPoyas;
-  Long Number = 0;
-
-  friend bool operator==(const MarkedBar&, const MarkedBar&) = default;
-};
-
 /// The truss with bars coloured by the sign of their force and as thick as it is large. A hint over
-/// a bar tells its name and force.
+/// a bar tells its name and force, a press on it picks it.
 class TrussView : public QWidget {
  public:
   explicit TrussView(std::vector<PictureBar> bars, QWidget* parent = nullptr);
@@ -27,8 +20,13 @@ class TrussView : public QWidget {
   void Mark(std::optional<MarkedBar> bar);
   const std::optional<MarkedBar>& Marked() const { return marked_; }
 
+  /// Called with the bar that the user presses.
+  std::function<void(const MarkedBar&)> Picked;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
@@ -37,6 +35,8 @@ class TrussView : public QWidget {
   void DrawMark(QPainter& painter, const QTransform& place) const;
   void DrawLegend(QPainter& painter) const;
   const PictureBar* FindMarked() const;
+  /// The bar that a place on the widget means; null away from all of them.
+  const PictureBar* BarAt(QPointF place) const;
 
   std::vector<PictureBar> bars_;
   QRectF bounds_;

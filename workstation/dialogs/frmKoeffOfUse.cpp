@@ -1,5 +1,7 @@
 #include "workstation/dialogs/frmKoeffOfUse.h"
 
+#include <utility>
+
 namespace trelonit {
 
 frmKoeffOfUse::frmKoeffOfUse() {
@@ -8,6 +10,9 @@ frmKoeffOfUse::frmKoeffOfUse() {
   framForces.SetCaption("Усилия в стержнях фермы и реакции опор :");
   cmdClose.SetCaption("Close");
   mnuAppendix.SetCaption("Приложение «Второе мнение» в отчете");
+  mnuSaveCsv.SetCaption("Сохранить в CSV...");
+  mnuSaveXlsx.SetCaption("Сохранить в XLSX...");
+  SetTableFiles(nullptr, nullptr);
 }
 
 void frmKoeffOfUse::Fill(const ResultLists& lists) {
@@ -18,6 +23,7 @@ void frmKoeffOfUse::Fill(const ResultLists& lists) {
   Picture = lists.Picture;
   Opinion = lists.Opinion;
   Rows = lists.Rows;
+  Bars = BuildBarTable(lists.Of, lists.Opinion.Figures);
   Locale = lists.Locale;
 }
 
@@ -25,6 +31,26 @@ void frmKoeffOfUse::mnuAppendix_Click() {
   mnuAppendix.SetChecked(!mnuAppendix.Checked());
   if (AppendixChanged) {
     AppendixChanged(mnuAppendix.Checked());
+  }
+}
+
+void frmKoeffOfUse::SetTableFiles(std::function<void(const ResultTable&)> saveCsv,
+                                  std::function<void(const ResultTable&)> saveXlsx) {
+  saveCsv_ = std::move(saveCsv);
+  saveXlsx_ = std::move(saveXlsx);
+  mnuSaveCsv.SetEnabled(static_cast<bool>(saveCsv_));
+  mnuSaveXlsx.SetEnabled(static_cast<bool>(saveXlsx_));
+}
+
+void frmKoeffOfUse::mnuSaveCsv_Click(const ResultTable& table) {
+  if (saveCsv_) {
+    saveCsv_(table);
+  }
+}
+
+void frmKoeffOfUse::mnuSaveXlsx_Click(const ResultTable& table) {
+  if (saveXlsx_) {
+    saveXlsx_(table);
   }
 }
 

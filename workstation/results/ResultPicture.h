@@ -17,6 +17,14 @@ struct PictureBar {
   double Force = 0;
 };
 
+/// A bar by the numbers of the picture.
+struct MarkedBar {
+  GroupOption Group = optionUpPoyas;
+  Long Number = 0;
+
+  friend bool operator==(const MarkedBar&, const MarkedBar&) = default;
+};
+
 /// The largest coefficient of a group.
 struct GroupUse {
   GroupOption Group = optionUpPoyas;

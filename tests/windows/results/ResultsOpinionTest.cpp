@@ -233,7 +233,7 @@ TEST_F(ResultsOpinion, AppendixIsOffAndSwitchedByItsEntry) {
 TEST_F(ResultsOpinion, AppendixStandsInTheMenuOfTheWindow) {
   auto* bar = Window->findChild<QMenuBar*>();
   ASSERT_NE(bar, nullptr);
-  ASSERT_EQ(bar->actions().size(), 1);
+  ASSERT_EQ(bar->actions().size(), 2);
   EXPECT_EQ(FromQt(bar->actions()[0]->text()), "&Вид");
   EXPECT_EQ(bar->actions()[0]->menu()->actions()[0]->objectName(), "mnuAppendix");
 }

@@ -1,0 +1,9 @@
+#include "workstation/results/XlsxTable.h"
+
+namespace trelonit {
+
+SpreadsheetWriter XlsxWriter() {
+  return {};
+}
+
+}  // namespace trelonit
