@@ -14,14 +14,33 @@ namespace {
 
 constexpr QSize pictureSize{56, 56};
 
+/// Over the columns of the sizes and their coefficients.
+void AddHeads(QGridLayout* rows) {
+  int column = 2;
+  for (const char* caption : {"Было", "Коэффициент", "Стало", "Коэффициент"}) {
+    auto* head = new QLabel(QString::fromUtf8(caption));
+    head->setForegroundRole(QPalette::PlaceholderText);
+    rows->addWidget(head, 0, column++);
+  }
+}
+
+/// What stands in one of these columns.
+QLabel* NewFigure(Label& state, const char* name, Long option) {
+  auto* label = new QLabel;
+  label->setObjectName(QLatin1String(name) + QString::number(option));
+  Follow(state, label, [&state, label] { ShowColoured(state, label); });
+  return label;
+}
+
 }  // namespace
 
 SearchWindow::SearchWindow(frmSearch& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent) {
   auto* column = new QVBoxLayout(this);
   auto* rows = AddGroup<QGridLayout>(column, QStringLiteral("Подобранные профили"), 1);
+  AddHeads(rows);
   for (Long option = 1; option <= groupCount; ++option) {
-    const int row = static_cast<int>(option) - 1;
+    const int row = static_cast<int>(option);
     auto* name = new QLabel;
     auto* picture = new PictureView(pictureSize);
     picture->setFixedSize(pictureSize);
@@ -32,8 +51,11 @@ SearchWindow::SearchWindow(frmSearch& form, QWidget* parent)
     worry->setMinimumWidth(150);
     rows->addWidget(name, row, 0);
     rows->addWidget(picture, row, 1);
-    rows->addWidget(size, row, 2);
-    rows->addWidget(worry, row, 3);
+    rows->addWidget(NewFigure(form.lblSizeBefore[option], "lblSizeBefore", option), row, 2);
+    rows->addWidget(NewFigure(form.lblUseBefore[option], "lblUseBefore", option), row, 3);
+    rows->addWidget(size, row, 4);
+    rows->addWidget(NewFigure(form.lblUse[option], "lblUse", option), row, 5);
+    rows->addWidget(worry, row, 6);
     Bind(form.lblName[option - 1], name);
     Bind(form.imgProfileSec[option], picture);
     Follow(form.lblProfilName[option], size,
@@ -41,7 +63,18 @@ SearchWindow::SearchWindow(frmSearch& form, QWidget* parent)
     Bind(form.lblWorry[option], worry);
     picture->setAccessibleName(name->text() + QStringLiteral(": сечение"));
   }
-  rows->setColumnStretch(2, 1);
+  rows->setColumnStretch(4, 1);
+  rows->setHorizontalSpacing(14);
+  auto* mass = new QLabel;
+  mass->setObjectName(QStringLiteral("lblMass"));
+  Bind(form.lblMass, mass);
+  column->addWidget(mass);
+  auto* repeat = new QCheckBox(QStringLiteral("повторить до &неизменности"));
+  repeat->setObjectName(QStringLiteral("chkRepeat"));
+  SetHint(repeat, QStringLiteral("Рассчитать с подобранными профилями, подобрать снова и так, пока "
+                                 "ни один типоразмер не меняется"));
+  Bind(form.chkRepeat, repeat);
+  column->addWidget(repeat);
   auto* opinion = new QCheckBox(QStringLiteral("и по &СНиП без отступлений"));
   opinion->setObjectName(QStringLiteral("chkOpinion"));
   SetHint(opinion,

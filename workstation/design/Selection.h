@@ -8,6 +8,7 @@
 #include "catalogue/ProfileRecord.h"
 #include "catalogue/SectionRecord.h"
 #include "platform/errors/Message.h"
+#include "platform/text/NumberText.h"
 #include "workstation/design/Calculation.h"
 #include "workstation/design/ElementGroups.h"
 
@@ -19,10 +20,12 @@ struct SelectionProposal {
   CheckResult Check;
   /// Groups of which no size of the standard passes; they have the last one tried.
   std::set<GroupOption> Impossible;
-  /// Of a selection by both, which repeats itself: how often it searched. 0 for the usual one.
+  /// Of a selection that repeats itself: how often it searched. 0 for the usual one.
   int Rounds = 0;
-  /// Of a selection by both: the design with these sections, calculated.
+  /// Of a selection that repeats itself: the design with these sections, calculated.
   std::optional<Calculation> Settled;
+  /// Whether the repeating came round in a circle of sizes instead of to an end.
+  bool Circles = false;
 };
 
 /// What the user chooses from.
@@ -31,6 +34,12 @@ struct SelectionOffer {
   /// Selects by the program's own checks and the second opinion; nothing where there is no opinion,
   /// which has been shown then.
   std::function<std::optional<SelectionProposal>()> ByOpinion;
+  /// Selects, calculates and selects again until nothing changes.
+  std::function<SelectionProposal()> Repeated;
+  /// The design as it is; nothing where there is none to compare with.
+  std::optional<Calculation> Before;
+  /// How the figures are written.
+  NumberLocale Locale;
 };
 
 /// Walks each group through the sizes of its standard, in the order of the catalogue, up to the

@@ -19,10 +19,14 @@ class frmSearch {
   /// red where no size passes. Scheme 3 has no verticals.
   void Fill(const SelectionOffer& offer, const BoundedArray<Image>& layoutPictures, Long treloType);
   /// The proposal that is shown.
-  const SelectionProposal& Shown() const { return byOpinion_ ? *byOpinion_ : offer_.Proposal; }
+  const SelectionProposal& Shown() const {
+    return byOpinion_ ? *byOpinion_ : repeated_ ? *repeated_ : offer_.Proposal;
+  }
   void cmdApply_Click();
   /// Set: selects by the program's own checks and the second opinion, and shows that.
   void chkOpinion_Click();
+  /// Set: selects until nothing changes, and shows that. The selection by both repeats anyway.
+  void chkRepeat_Click();
   void tmrTimer_Timer();
 
   /// Whether the user has taken the proposal that was shown last.
@@ -34,8 +38,16 @@ class frmSearch {
   BoundedArray<Label> lblWorry{1, groupCount};
   /// Names of the groups; unlike the other rows they are counted from 0.
   BoundedArray<Label> lblName{0, groupCount - 1};
+  /// What the groups have before, and the greatest coefficients before and with the proposal; empty
+  /// where there is nothing to compare with.
+  BoundedArray<Label> lblSizeBefore{1, groupCount};
+  BoundedArray<Label> lblUseBefore{1, groupCount};
+  BoundedArray<Label> lblUse{1, groupCount};
+  /// The mass of the truss before and after.
+  Label lblMass;
   CheckBox chkOpinion;
-  /// How many rounds a selection by both took.
+  CheckBox chkRepeat;
+  /// How many rounds a selection that repeats itself took.
   Label lblRounds;
   Timer tmrTimer;
   /// Unloads the window.
@@ -43,10 +55,13 @@ class frmSearch {
 
  private:
   void ShowSizes();
+  void ShowComparison();
+  void ShowUse(Label& label, const std::optional<double>& use) const;
 
   Long waitCounter_ = 1;
   SelectionOffer offer_;
   std::optional<SelectionProposal> byOpinion_;
+  std::optional<SelectionProposal> repeated_;
 };
 
 }  // namespace trelonit

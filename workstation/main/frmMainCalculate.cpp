@@ -4,6 +4,7 @@
 #include "platform/errors/Guard.h"
 #include "workstation/design/OpinionSelection.h"
 #include "workstation/design/OwnWeight.h"
+#include "workstation/design/RepeatedSelection.h"
 #include "workstation/main/frmMain.h"
 #include "workstation/report/ReportAppendix.h"
 
@@ -30,7 +31,14 @@ void frmMain::cmdCalcAndSelect_Click() {
         .Proposal = ShowTold(
             services_.Messages,
             [&](Messages& told) { return SelectSections(Model.Last, Model.ProfileTypes, told); }),
-        .ByOpinion = [this] { return ProposeByOpinion(); }};
+        .ByOpinion = [this] { return ProposeByOpinion(); },
+        .Repeated =
+            [this] {
+              return SelectUntilSettled(Model.ToCalculate(), Model.ProfileTypes, Model.Last.Numbers,
+                                        Model.Inputs.OwnWeightOn != 0);
+            },
+        .Before = Model.Last,
+        .Locale = services_.Locale};
     if (openers_.ShowSearch) {
       if (const std::optional<SelectionProposal> taken = openers_.ShowSearch(offer)) {
         TakeProposal(*taken);
