@@ -46,7 +46,7 @@ QColor ByRole(const PictureColor& color, const QPalette& palette, bool enabled) 
     case PictureRole::Load:
       return LoadColor(palette);
     case PictureRole::Section:
-      return ByTheme(palette, "#9db4cc", "#4d6a88");
+      return SteelColor(palette);
     case PictureRole::Quiet:
       return QuietColor(palette);
     case PictureRole::Warning:
@@ -124,6 +124,10 @@ QColor LoadColor(const QPalette& palette) {
 
 QColor PassedColor(const QPalette& palette) {
   return ByTheme(palette, "#2e7d32", "#66bb6a");
+}
+
+QColor SteelColor(const QPalette& palette) {
+  return ByTheme(palette, "#9db4cc", "#4d6a88");
 }
 
 QColor AsideColor(const QPalette& palette) {

@@ -37,6 +37,8 @@ QColor CompressionColor(const QPalette& palette);
 QColor LoadColor(const QPalette& palette);
 /// What keeps its limit.
 QColor PassedColor(const QPalette& palette);
+/// What is cut through in the drawing of a section, as in the pictures.
+QColor SteelColor(const QPalette& palette);
 /// Words aside: paler than the others and still to be read.
 QColor AsideColor(const QPalette& palette);
 /// Axes, dimensions and bars without force.

@@ -12,6 +12,7 @@
 #include "windows/binding/OneTabStop.h"
 #include "windows/binding/PictureWidgets.h"
 #include "windows/main/NoticeViews.h"
+#include "windows/main/SectionPanel.h"
 #include "windows/main/SmallSchemeView.h"
 #include "workstation/results/ResultPicture.h"
 
@@ -64,6 +65,8 @@ void SectionTab::AddGroups(QBoxLayout* column) {
   }
   new OneTabStop(this, options, OneTabStop::Arrows::Choose);
   rows->setColumnStretch(2, 1);
+  rows->addWidget(NewCopySectionButton(form_), static_cast<int>(groupCount), 0, 1, 3,
+                  Qt::AlignRight);
   auto* scheme = AddGroup<QVBoxLayout>(column, QStringLiteral("Текущая группа на схеме"));
   auto* view = new SmallSchemeView(form_);
   view->setObjectName(QStringLiteral("imgPrevSchem"));
@@ -110,7 +113,11 @@ void SectionTab::AddLists(QBoxLayout* column) {
   view->setObjectName(QStringLiteral("imgProfView"));
   view->setAccessibleName(QStringLiteral("Выбранная компоновка сечения"));
   Bind(form_.imgProfView, view);
-  box->addWidget(view, 2);
+  auto* pictures = new QVBoxLayout;
+  box->addLayout(pictures, 2);
+  pictures->addWidget(view, 1);
+  auto* panel = new SectionPanel(form_);
+  pictures->addWidget(panel, 4);
 
   auto* rows = new QFormLayout;
   rows->setRowWrapPolicy(QFormLayout::WrapAllRows);
@@ -131,6 +138,7 @@ void SectionTab::AddLists(QBoxLayout* column) {
   list(form_.cmbKatalog, "cmbKatalog", QStringLiteral("&Каталог металлопроката"));
   list(form_.cmbTypeProfile, "cmbTypeProfile", QStringLiteral("&Тип и стандарт металлопроката"));
   list(form_.cmbSectType, "cmbSectType", QStringLiteral("Типо&размер металлопроката"));
+  rows->addRow(NewSizeSearch(form_));
   auto* source = new NoticeLine(Severity::Warning);
   source->setObjectName(QStringLiteral("lblSectionSource"));
   Bind(form_.lblSectionSource, source);
@@ -138,6 +146,7 @@ void SectionTab::AddLists(QBoxLayout* column) {
   SetHint(list(form_.cmbGdist, "cmbGdist", QStringLiteral("&Зазор между профилями, мм"), true),
           QStringLiteral("Растояние между спаренными профилями - Не ограничивается програмой !!! "
                          "Контролируйте правильность выбора!"));
+  rows->addRow(panel->Facts());
 }
 
 }  // namespace trelonit

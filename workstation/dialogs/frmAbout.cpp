@@ -14,7 +14,7 @@ namespace trelonit {
 namespace {
 
 constexpr std::size_t registryBuffer = 1024;
-constexpr Integer aboutString = 101;
+constexpr Integer aboutResource = 101;
 
 std::string Hexadecimal(std::uint32_t value) {
   std::array<char, 8> digits{};
@@ -57,7 +57,7 @@ void frmAbout::Form_Load() {
   Form.SetCaption(std::string("About ") + applicationTitle);
   lblTitle.SetCaption(applicationTitle);
   lblVersion.SetCaption(std::string("Версия ") + applicationVersion);
-  PassOver([&] { lblDescription.SetCaption(services_.Resources.String(aboutString)); });
+  PassOver([&] { lblDescription.SetCaption(services_.Resources.String(aboutResource)); });
 }
 
 void frmAbout::cmdOK_Click() {

@@ -278,6 +278,8 @@ void frmMain::mnuProfile_Click() {
 
 void frmMain::optio_Click() {
   Open(openers_.ShowParamerty);
+  // The mass of a section goes by the density.
+  ShowSectionOf(shownGroup_);
   TouchDesign();
 }
 

@@ -13,6 +13,7 @@
 #include "workstation/design/DesignState.h"
 #include "workstation/design/ElementGroups.h"
 #include "workstation/design/ProjectFile.h"
+#include "workstation/design/SectionSummary.h"
 #include "workstation/design/Selection.h"
 #include "workstation/live/GeometryFaults.h"
 #include "workstation/live/LiveResult.h"
@@ -113,6 +114,26 @@ class frmMain {
   void cmbSectType_Click();
   void cmbGdist_Click();
   void FillProfileLists(Long layout);
+
+  // --- beside the sections (frmMainSectionView.cpp)
+  /// The section of the group whose lists are shown.
+  struct ShownSection {
+    GroupOption Group = optionUpPoyas;
+    /// Nothing where the dimensions of the record make no section.
+    std::optional<SectionDrawing> Drawing;
+    /// Its figures; none for a section without an area.
+    std::vector<SectionFact> Facts;
+    NumberLocale Locale;
+  };
+  ShownSection DescribeSection();
+  /// Called after the shown section may have become another one.
+  std::function<void()> SectionChanged;
+  /// Gives other groups the section of the chosen one.
+  void cmdCopySection_Click(const std::vector<GroupOption>& to);
+  /// The groups that may be given it: all others that the scheme has.
+  std::vector<GroupOption> CopyTargets() const;
+  /// Places in the list of the sizes that a typed text finds, the best first.
+  std::vector<Long> FindSizes(const std::string& query) const;
   /// Subscript of the last size with this name; 1 after a warning where there is none.
   Long FindSizeIndex(Long typeIdx, const std::string& name);
 
@@ -300,6 +321,8 @@ class frmMain {
   void RefreshGeometry();
   void RefreshBracingLengths();
   void RefreshSectionSource(const SectionRec& section);
+  /// The lists show the section of this group now.
+  void ShowSectionOf(Long option);
   /// Looks for it in the loads as they stand.
   void FindOwnWeightInside();
   void SetOwnWeightInside(std::optional<double> perMetre);
@@ -365,6 +388,8 @@ class frmMain {
   // While a state is shown the events of the controls are nobody's work.
   bool showing_ = false;
   Long loadsLost_ = 0;
+  // The group whose section the lists show; after a restore it need not be the chosen one.
+  Long shownGroup_ = optionUpPoyas;
   // Own weight that the loads of the restored project seem to hold, until the user has decided.
   std::optional<double> ownWeightInside_;
   // The sections of the last proposal that was taken over.

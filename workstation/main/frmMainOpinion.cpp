@@ -60,6 +60,7 @@ void frmMain::RefreshSectionSource(const SectionRec& section) {
   const std::string text = ProvenanceText(section.Profile);
   lblSectionSource.SetCaption(text);
   lblSectionSource.SetVisible(!text.empty());
+  ShowSectionOf(SelectedGroup());
 }
 
 void frmMain::RefreshOwnWeightTwice() {

@@ -98,6 +98,7 @@ void frmMain::optElementSection_Click(Long option) {
     cmbTypeProfile.SetText(Model.ProfileTypes[section.TypeIdx].Name.Trimmed());
     cmbSectType.SetText(Model.ProfileTypes[section.TypeIdx].Rec[section.SizeIdx].Name.Trimmed());
     RefreshSectionSource(section);
+    ShowSectionOf(option);
   });
 }
 
@@ -166,6 +167,7 @@ void frmMain::cmbSectType_Click() {
 void frmMain::cmbGdist_Click() {
   Guard(services_.Messages, "cmbGdist_Click",
         [&] { SelectedSection().Gdist = TextToNumber(cmbGdist.Text(), services_.Locale); });
+  ShowSectionOf(SelectedGroup());
 }
 
 void frmMain::WithdrawOwnWeightOfOldSection() {

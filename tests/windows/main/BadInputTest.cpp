@@ -1,3 +1,4 @@
+#include <QPushButton>
 #include <gtest/gtest.h>
 
 #include "tests/windows/main/Screen.h"
@@ -148,9 +149,20 @@ TEST(BadGeometry, IsToldByItsMessage) {
   }
 }
 
+/// The buttons of the tabs. One that opens a menu waits for the user's choice.
+QList<QAbstractButton*> ButtonsOf(const QTabWidget& tabs) {
+  QList<QAbstractButton*> buttons;
+  for (QAbstractButton* button : tabs.findChildren<QAbstractButton*>()) {
+    const auto* push = qobject_cast<QPushButton*>(button);
+    if (push == nullptr || push->menu() == nullptr) {
+      buttons.append(button);
+    }
+  }
+  return buttons;
+}
+
 void PressEverything(const QWidget& window) {
-  for (QAbstractButton* button :
-       Find<QTabWidget>(window, "tabMain").findChildren<QAbstractButton*>()) {
+  for (QAbstractButton* button : ButtonsOf(Find<QTabWidget>(window, "tabMain"))) {
     Click(*button);
   }
 }
@@ -199,7 +211,7 @@ TEST(RandomPresses, NeitherStopTheWindowNorItsForm) {
     seed = seed * 1664525U + 1013904223U;
     return static_cast<std::size_t>(seed >> 8U) % count;
   };
-  const auto buttons = screen.Tabs().findChildren<QAbstractButton*>();
+  const auto buttons = ButtonsOf(screen.Tabs());
   const auto combos = screen.Tabs().findChildren<QComboBox*>();
   for (int press = 0; press < 250; ++press) {
     screen.GoTo(static_cast<int>(next(3)));

@@ -142,11 +142,11 @@ TEST_F(LoadScreen, ChangesTheChord) {
 }
 
 TEST_F(LoadScreen, ListsTheJointsAndPanelsOfEveryScheme) {
-  struct Counts {
+  struct LastOnes {
     int Scheme, UpperJoints, LowerJoints;
   };
-  for (const Counts& counts :
-       {Counts{1, 12, 12}, Counts{2, 12, 10}, Counts{3, 12, 11}, Counts{4, 12, 5}}) {
+  for (const LastOnes& counts :
+       {LastOnes{1, 12, 12}, LastOnes{2, 12, 10}, LastOnes{3, 12, 11}, LastOnes{4, 12, 5}}) {
     GoTo(0);
     Press("imgTreloType" + std::to_string(counts.Scheme));
     PickIn("cmbPanelNum", "12");
