@@ -6,9 +6,11 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSplitter>
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
+#include "windows/dialogs/RecordTable.h"
 
 namespace trelonit {
 
@@ -33,11 +35,85 @@ class RecordBox : public QLineEdit {
 
 DataManagerWindow::DataManagerWindow(frmDataManager& form, QWidget* parent)
     : FormDialog(form.Form, form.Unload, parent), form_(form) {
-  ResizeWithinScreen(*this, {760, 480});
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  ResizeWithinScreen(*this, {1360, 660});
   auto* column = new QVBoxLayout(this);
   AddMenu(column);
-  AddRecord(column);
-  AddCommands(column);
+  auto* sides = new QSplitter;
+  sides->setChildrenCollapsible(false);
+  column->addWidget(sides, 1);
+  const auto newSide = [sides](int share) {
+    auto* side = new QWidget;
+    sides->addWidget(side);
+    sides->setStretchFactor(sides->count() - 1, share);
+    auto* layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return layout;
+  };
+  QBoxLayout* left = newSide(0);
+  AddRecord(left);
+  AddCommands(left);
+  AddTable(newSide(1));
+}
+
+void DataManagerWindow::AddTable(QBoxLayout* column) {
+  AddSearch(column);
+  column->addWidget(new RecordTable(form_), 1);
+  auto* found = new QLabel;
+  found->setObjectName(QStringLiteral("lblFound"));
+  Bind(form_.lblFound, found);
+  column->addWidget(found);
+}
+
+void DataManagerWindow::AddSearch(QBoxLayout* column) {
+  auto* row = new QHBoxLayout;
+  column->addLayout(row);
+  const auto button = [&](const char* name, const QString& caption, const QString& hint,
+                          const QKeySequence& key, void (frmDataManager::*click)()) {
+    auto* push = new QPushButton(caption);
+    push->setObjectName(QLatin1String(name));
+    push->setAutoDefault(false);
+    SetHint(push, key.isEmpty() ? hint
+                                : hint + QStringLiteral(" (") +
+                                      key.toString(QKeySequence::NativeText) + QStringLiteral(")"));
+    push->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
+    QObject::connect(push, &QPushButton::clicked, this, [this, click] { (form_.*click)(); });
+    if (!key.isEmpty()) {
+      QObject::connect(new QShortcut(key, this), &QShortcut::activated, this,
+                       [this, click] { (form_.*click)(); });
+    }
+    row->addWidget(push);
+  };
+  const auto box = [&](TextBox& state, const char* name, const QString& caption, int letters,
+                       const QKeySequence& key, void (frmDataManager::*enter)()) {
+    auto* edit = new RecordBox;
+    edit->setObjectName(QLatin1String(name));
+    edit->setMinimumWidth(letters * edit->fontMetrics().averageCharWidth());
+    edit->setToolTip(key.toString(QKeySequence::NativeText));
+    Bind(state, edit);
+    row->addWidget(LabelFor(edit, caption));
+    row->addWidget(edit, letters);
+    QObject::connect(edit, &QLineEdit::returnPressed, this, [this, enter] { (form_.*enter)(); });
+    QObject::connect(new QShortcut(key, this), &QShortcut::activated, edit, [edit] {
+      edit->setFocus();
+      edit->selectAll();
+    });
+  };
+  button("cmdOwnCatalogue", QStringLiteral("&Каталог программы"),
+         QStringLiteral("Загрузить каталог, с которым работает программа"), {},
+         &frmDataManager::cmdOwnCatalogue_Click);
+  row->addStretch();
+  row = new QHBoxLayout;
+  column->addLayout(row);
+  box(form_.txtFind, "txtFind", QStringLiteral("&Обозначение"), 16, QKeySequence::Find,
+      &frmDataManager::cmdFindNext_Click);
+  button("cmdFindNext", QStringLiteral("&Найти"),
+         QStringLiteral("Следующая запись, в обозначении которой есть этот текст"),
+         QKeySequence::FindNext, &frmDataManager::cmdFindNext_Click);
+  box(form_.txtGoTo, "txtGoTo", QStringLiteral("З&апись"), 10, QKeySequence(Qt::CTRL | Qt::Key_G),
+      &frmDataManager::cmdGoTo_Click);
+  button("cmdGoTo", QStringLiteral("Пере&йти"), QStringLiteral("Показать запись с этим номером"),
+         {}, &frmDataManager::cmdGoTo_Click);
 }
 
 void DataManagerWindow::AddMenu(QBoxLayout* column) {
@@ -79,6 +155,13 @@ void DataManagerWindow::AddRecord(QBoxLayout* column) {
     grid->addWidget(label, row, side);
     grid->addWidget(edit, row, side + 1);
   }
+  auto* health = new QLabel;
+  health->setObjectName(QStringLiteral("lblHealth"));
+  health->setWordWrap(true);
+  health->setMinimumHeight(3 * health->fontMetrics().lineSpacing());
+  health->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  Follow(form_.lblHealth, health, [this, health] { ShowColoured(form_.lblHealth, health); });
+  column->addWidget(health);
 }
 
 void DataManagerWindow::AddCommands(QBoxLayout* column) {

@@ -16,6 +16,9 @@ class DataManagerWindow : public FormDialog {
   void AddMenu(QBoxLayout* column);
   void AddRecord(QBoxLayout* column);
   void AddCommands(QBoxLayout* column);
+  /// The table of all records with the search over it.
+  void AddTable(QBoxLayout* column);
+  void AddSearch(QBoxLayout* column);
 
   frmDataManager& form_;
 };

@@ -2,13 +2,13 @@
 
 #include <QPrintPreviewDialog>
 #include <QPrinter>
-#include <QScreen>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
 
 #include "platform/errors/Guard.h"
 #include "windows/binding/Binding.h"
+#include "windows/binding/Layouts.h"
 #include "windows/editor/RichDocumentPdf.h"
 #include "windows/services/DesktopServices.h"
 
@@ -83,8 +83,7 @@ void PreviewTable(const ResultTable& table, const NumberLocale& locale, QWidget*
   printer.setDocName(ToQt(table.Title));
   QPrintPreviewDialog dialog(&printer, parent);
   dialog.setWindowTitle(QStringLiteral("Печать таблицы - ") + ToQt(table.Title));
-  constexpr QSize usual{1000, 760};
-  dialog.resize(usual.boundedTo(dialog.screen()->availableSize() * 9 / 10));
+  ResizeWithinScreen(dialog, {1000, 760});
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* target) {
     DesktopMessages messages;
     Guard(messages, "mnuPrintTable_Click", [&] { PaintTable(table, locale, *target); });

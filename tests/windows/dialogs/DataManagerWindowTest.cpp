@@ -6,8 +6,8 @@
 namespace trelonit::test {
 namespace {
 
-const Texts first{"Fist position reached !"};
-const Texts last{"Last position reached !"};
+const Texts firstTold{"Fist position reached !"};
+const Texts lastTold{"Last position reached !"};
 
 TEST(DataManagerWindowTexts, HasItsTitle) {
   ManagerScreen screen;
@@ -152,18 +152,18 @@ struct Step {
   Texts Told;
 };
 const std::vector<Step> pagesWalk{
-    {"cmdPrew", Qt::Key_PageUp, Qt::NoModifier, 1, first},
+    {"cmdPrew", Qt::Key_PageUp, Qt::NoModifier, 1, firstTold},
     {"cmdForv", Qt::Key_PageDown, Qt::NoModifier, 2, {}},
     {"cmdPrew", Qt::Key_PageUp, Qt::NoModifier, 1, {}},
     {"cmdForv100", Qt::Key_PageDown, Qt::ControlModifier, 101, {}},
-    {"cmdPrew100", Qt::Key_PageUp, Qt::ControlModifier, 1, first},
+    {"cmdPrew100", Qt::Key_PageUp, Qt::ControlModifier, 1, firstTold},
     {"cmdForv100", Qt::Key_PageDown, Qt::ControlModifier, 101, {}},
     {"cmdForv", Qt::Key_PageDown, Qt::NoModifier, 102, {}},
     {"cmdPrew100", Qt::Key_PageUp, Qt::ControlModifier, 2, {}},
     {"cmdLastpoz", Qt::Key_End, Qt::ControlModifier, 250, {}},
-    {"cmdForv", Qt::Key_PageDown, Qt::NoModifier, 250, last},
+    {"cmdForv", Qt::Key_PageDown, Qt::NoModifier, 250, lastTold},
     {"cmdPrew100", Qt::Key_PageUp, Qt::ControlModifier, 150, {}},
-    {"cmdForv100", Qt::Key_PageDown, Qt::ControlModifier, 250, last},
+    {"cmdForv100", Qt::Key_PageDown, Qt::ControlModifier, 250, lastTold},
     {"cmdFirst", Qt::Key_Home, Qt::ControlModifier, 1, {}},
 };
 
@@ -225,9 +225,9 @@ TEST(DataManagerWindowWalk, ShowsTheRecordBeforeItTellsTheEnd) {
 TEST(DataManagerWindowWalk, TellsTheEndsWithNothingLoaded) {
   ManagerScreen screen;
   screen.Click("cmdPrew");
-  EXPECT_EQ(screen.Told(), first);
+  EXPECT_EQ(screen.Told(), firstTold);
   screen.Click("cmdForv");
-  EXPECT_EQ(screen.Told(), last);
+  EXPECT_EQ(screen.Told(), lastTold);
   screen.Click("cmdEditCurrent");
   EXPECT_EQ(screen.Told(), Texts{"Не загружена база данных !"});
 }
