@@ -7,6 +7,7 @@
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
 #include "windows/binding/PictureWidgets.h"
+#include "windows/binding/Pictures.h"
 
 namespace trelonit {
 
@@ -19,7 +20,9 @@ void AddHeads(QGridLayout* rows) {
   int column = 2;
   for (const char* caption : {"Было", "Коэффициент", "Стало", "Коэффициент"}) {
     auto* head = new QLabel(QString::fromUtf8(caption));
-    head->setForegroundRole(QPalette::PlaceholderText);
+    QPalette pale = head->palette();
+    pale.setColor(QPalette::WindowText, AsideColor(pale));
+    head->setPalette(pale);
     rows->addWidget(head, 0, column++);
   }
 }

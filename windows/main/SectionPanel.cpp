@@ -10,6 +10,7 @@
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Layouts.h"
+#include "windows/binding/Pictures.h"
 #include "windows/main/SectionFigure.h"
 #include "workstation/results/ResultPicture.h"
 
@@ -89,6 +90,9 @@ QLineEdit* NewSizeSearch(frmMain& form) {
   auto* edit = new QLineEdit;
   edit->setObjectName(QStringLiteral("txtFindSize"));
   edit->setPlaceholderText(QStringLiteral("найти: 100x10"));
+  QPalette pale = edit->palette();
+  pale.setColor(QPalette::PlaceholderText, AsideColor(pale));
+  edit->setPalette(pale);
   edit->setClearButtonEnabled(true);
   edit->setAccessibleName(QStringLiteral("Поиск типоразмера"));
   SetHint(edit,

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QPushButton>
 #include <QRadioButton>
 
 #include "catalogue/SectionLayouts.h"
