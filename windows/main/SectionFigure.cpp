@@ -239,7 +239,7 @@ class FigurePainter {
 }  // namespace
 
 SectionFigure::SectionFigure(QWidget* parent) : QWidget(parent) {
-  setMinimumSize(160, 140);
+  setMinimumSize(200, 170);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -139,9 +139,9 @@ TEST(SectionFigures, ArePaintedForEveryLayoutInEveryRoom) {
     desk.Main.imgProfileSecSelect_Click(layout);
     SectionFigure figure;
     figure.Show(desk.Main.DescribeSection().Drawing, CommaLocale());
-    for (const QSize size : {QSize(160, 140), QSize(600, 200), QSize(200, 600)}) {
+    for (const QSize size : {QSize(240, 210), QSize(600, 220), QSize(220, 600)}) {
       figure.resize(size);
-      EXPECT_GT(CountPixels(figure, SteelColor(figure.palette())), 40)
+      EXPECT_GT(CountPixels(figure, SteelColor(figure.palette())), 20)
           << layout << ' ' << size.width();
       // Nothing of it is cut off: the outermost pixels are ground.
       const QImage image = figure.grab().toImage();
