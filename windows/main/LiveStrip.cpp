@@ -196,7 +196,7 @@ bool LiveStrip::event(QEvent* event) {
 }
 
 void AddViewMenu(QMenuBar& bar, LiveStrip& strip, SettingsService& settings) {
-  QAction* shown = bar.addMenu(QStringLiteral("В&ид"))->addAction(strip.accessibleName());
+  QAction* shown = bar.addMenu(QStringLiteral("Вид"))->addAction(strip.accessibleName());
   shown->setObjectName(QStringLiteral("mnuLiveStrip"));
   shown->setCheckable(true);
   shown->setChecked(settings.Get(stripSection, stripKey, BooleanToText(true)) !=

@@ -217,8 +217,12 @@ ExplanationView::ExplanationView(NumberLocale locale, QWidget* parent)
 void ExplanationView::Show(QStringList remarks, std::vector<ExplainedCheck> checks) {
   remarks_ = std::move(remarks);
   checks_ = std::move(checks);
-  Rebuild();
-  moveCursor(QTextCursor::Start);
+  if (isVisible()) {
+    Rebuild();
+    moveCursor(QTextCursor::Start);
+  } else {
+    builtWide_.reset();
+  }
 }
 
 bool ExplanationView::IsWide() const {
@@ -226,7 +230,8 @@ bool ExplanationView::IsWide() const {
 }
 
 void ExplanationView::Rebuild() {
-  builtWide_ = IsWide();
+  const bool wide = IsWide();
+  builtWide_ = wide;
   const int place = verticalScrollBar()->value();
   clear();
   QTextCursor edit(document());
@@ -236,22 +241,32 @@ void ExplanationView::Rebuild() {
     writer.Remark(remark);
   }
   for (const ExplainedCheck& check : checks_) {
-    writer.Check(check, builtWide_);
+    writer.Check(check, wide);
   }
   edit.endEditBlock();
   verticalScrollBar()->setValue(place);
 }
 
+void ExplanationView::showEvent(QShowEvent* event) {
+  FormulaView::showEvent(event);
+  if (!builtWide_) {
+    Rebuild();
+    moveCursor(QTextCursor::Start);
+  }
+}
+
 void ExplanationView::resizeEvent(QResizeEvent* event) {
   FormulaView::resizeEvent(event);
-  if (IsWide() != builtWide_) {
+  if (builtWide_ && *builtWide_ != IsWide()) {
     Rebuild();
   }
 }
 
 void ExplanationView::changeEvent(QEvent* event) {
   FormulaView::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+  const bool looksOtherwise =
+      event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
+  if (builtWide_ && looksOtherwise) {
     Rebuild();
   }
 }

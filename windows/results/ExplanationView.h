@@ -31,6 +31,7 @@ class ExplanationView : public FormulaView {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
@@ -39,7 +40,8 @@ class ExplanationView : public FormulaView {
   NumberLocale locale_;
   QStringList remarks_;
   std::vector<ExplainedCheck> checks_;
-  bool builtWide_ = false;
+  /// How it was built; not yet before it is shown, when its width is not known.
+  std::optional<bool> builtWide_;
 };
 
 }  // namespace trelonit

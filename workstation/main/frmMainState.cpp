@@ -66,7 +66,8 @@ void frmMain::ShowState(const DesignState& state, const DesignPlace& place) {
   txtProgib.SetText("");
   chkProgib_Click();
   RefreshHopt();
-  RefreshBracingLengths();
+  RefreshGeometry();
+  TouchDesign();
   SetOwnWeightInside(state.OwnWeightInside);
 }
 

@@ -107,9 +107,10 @@ void ExpectSamePixels(const QPalette& palette,
     for (const int side : {24, 160}) {
       const QImage reference = Reference(name, side, palette, colors);
       const Difference difference = Compare(Compiled(name, side, palette), reference);
-      // Letters are painted as outlines here and as glyphs there.
+      // Letters are painted as outlines here and as glyphs there; the other painter rounds the
+      // radius of a corner to whole percents.
       const bool letters = HasLetters(name);
-      EXPECT_LE(difference.Mean, letters ? 1.5 : 0.05) << name.toStdString() << " at " << side;
+      EXPECT_LE(difference.Mean, letters ? 1.5 : 0.2) << name.toStdString() << " at " << side;
       EXPECT_LE(difference.Greatest, letters ? 255 : 24) << name.toStdString() << " at " << side;
       EXPECT_GT(Compare(reference, BlankPaper(side, palette)).Greatest, 60) << name.toStdString();
     }

@@ -199,7 +199,7 @@ TEST_F(Captions, OfTheMenusStandInTheirOrder) {
                                           "&Помощь",
                                           "  About \"&О программе...\"",
                                           "  UserHelp \"Справка\"",
-                                          "В&ид",
+                                          "Вид",
                                           "  mnuLiveStrip \"Живой расчет\""};
   EXPECT_EQ(lines, expected);
 }
