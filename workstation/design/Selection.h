@@ -50,9 +50,9 @@ struct SelectionOffer {
 SelectionProposal SelectSections(const Calculation& calculation, const ProfileTypeArray& catalogue,
                                  Messages& told);
 
-/// Where a selection is repeated until nothing changes, no group becomes smaller from this round on:
-/// sizes of the catalogue are not in the order of their weight, and two of them could take turns
-/// for ever.
+/// Where a selection is repeated until nothing changes, no group becomes smaller from this round
+/// on: sizes of the catalogue are not in the order of their weight, and two of them could take
+/// turns for ever.
 constexpr int lastFreeRound = 10;
 
 /// The gap of a paired section with a profile of this web thickness, millimetres: it stays while it
