@@ -23,7 +23,7 @@ QPen PenOfInk(SketchInk ink, const QPalette& palette) {
       return QPen(text, 1);
     case SketchInk::Support:
       return QPen(QuietColor(palette), 1.6);
-    case SketchInk::Outline:
+    case SketchInk::Edge:
       return QPen(QuietColor(palette), 1, Qt::DashLine);
     case SketchInk::Dimension:
       return QPen(QuietColor(palette), 1);

@@ -10,7 +10,7 @@ namespace trelonit {
 // screen, lengths are points of the canvas.
 
 /// What a mark stands for; the window gives each its colour and width.
-enum class SketchInk { Chord, Web, Joint, Support, Outline, Dimension, Text, Caution, Fault };
+enum class SketchInk { Chord, Web, Joint, Support, Edge, Dimension, Text, Caution, Fault };
 
 struct SketchPoint {
   double X = 0;

@@ -242,7 +242,7 @@ class SketchBuilder {
     const std::array<SketchPoint, 4> corners{
         {{left_, base_}, {right, base_}, {right, top}, {left_, top}}};
     for (std::size_t side = 0; side < corners.size(); ++side) {
-      lines_.Line(corners[side], corners[(side + 1) % corners.size()], SketchInk::Outline);
+      lines_.Line(corners[side], corners[(side + 1) % corners.size()], SketchInk::Edge);
     }
     int row = 0;
     if (atEnds) {

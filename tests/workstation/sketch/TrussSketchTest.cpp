@@ -168,7 +168,7 @@ TEST(TrussSketch, ShowsWhatIsWrongInItsPlace) {
   EXPECT_EQ(FiguresOf(ends, SketchInk::Fault), (Figures{"12", "12", tooLong}));
   EXPECT_EQ(FiguresOf(ends, SketchInk::Text), (Figures{"24", "3"}));
   EXPECT_TRUE(StrokesOf(ends, SketchInk::Chord).empty());
-  EXPECT_EQ(StrokesOf(ends, SketchInk::Outline).size(), 4U);
+  EXPECT_EQ(StrokesOf(ends, SketchInk::Edge).size(), 4U);
 
   const TrussSketch flat = DrawnOf(SizesOf(1, 24, 0, 3, 8));
   EXPECT_EQ(FiguresOf(flat, SketchInk::Fault),
