@@ -51,7 +51,7 @@ TEST(DataManagerLoad, AsksForADataFile) {
 TEST(DataManagerLoad, AsksInTheFolderOfTheCatalogue) {
   MemoryDesk desk;
   desk.Desk.Load("");
-  desk.Desk.World.Files.Content["/другая/a.dat"] = NumberedFile(1);
+  desk.Files.Content["/другая/a.dat"] = NumberedFile(1);
   desk.Desk.Load("/другая/a.dat");
   desk.Check();
   const auto& asked = desk.Desk.World.Dialogs.Requests;

@@ -64,11 +64,15 @@ std::set<std::string> LatinWords(const std::string& text) {
 /// Names that stand in the help as they are typed or as the code has them.
 const std::set<std::string>& LatinNames() {
   static const std::set<std::string> names{
-      "trelonit", "cli",       "new",  "calc",     "audit",  "strict", "opinion", "appendix",
-      "select",   "catalogue", "list", "show",     "verify", "h",      "help",    "o",
-      "version",  "output",    "f",    "force",    "json",   "bar",    "tsav",    "FILE",
-      "JSON",     "STANDARD",  "SIZE", "BarForce", "report", "txt",    "rtf",     "pdf",
-      "html",     "A",         "Jy",   "Jz",       "draw",   "dxf",    "svg",     "png"};
+      "trelonit", "cli",       "new",    "calc",     "audit",  "strict", "opinion", "appendix",
+      "select",   "catalogue", "list",   "show",     "verify", "h",      "help",    "o",
+      "version",  "output",    "f",      "force",    "json",   "bar",    "tsav",    "FILE",
+      "JSON",     "STANDARD",  "SIZE",   "BarForce", "report", "txt",    "rtf",     "pdf",
+      "html",     "A",         "Jy",     "Jz",       "draw",   "dxf",    "svg",     "png",
+      "variants", "csv",       "a",      "b",        "c",      "K",      "N",       "Ry",
+      "scheme",   "span",      "height", "end",      "panels", "upper",  "lower",   "diagonals",
+      "support",  "posts",     "gap",    "steel",    "best",   "front",  "progib",  "jobs",
+      "shard"};
   return names;
 }
 
