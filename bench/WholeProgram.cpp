@@ -144,7 +144,7 @@ void CalculateAll(const QWidget& window) {
 int main(int argc, char** argv) {
   FontsAhead fonts;
   QApplication application(argc, argv);
-  fonts.TakeOver();
+  const FontsAhead::Taken untilItEnds(fonts);
   const Desktop desktop;
   DesktopSession session;
   const bool calculate = argc > 1 && std::string_view(argv[1]) == "calculate";

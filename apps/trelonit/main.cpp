@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
   try {
     trelonit::FontsAhead fonts;
     trelonit::GuardedApplication application(argc, argv);
-    fonts.TakeOver();
+    const trelonit::FontsAhead::Taken untilItEnds(fonts);
     application.Tell = Tell;
     const std::optional<std::string> file = trelonit::HandedFile(QApplication::arguments());
     if (!file) {

@@ -34,16 +34,30 @@ FontsAhead::FontsAhead() {
   });
 }
 
-void FontsAhead::TakeOver() {
-  ready_.set_value(true);
-  told_ = true;
+FontsAhead::~FontsAhead() {
+  TellReady(false);
+  Wait();
 }
 
-FontsAhead::~FontsAhead() {
+void FontsAhead::TellReady(bool ready) {
   if (!told_) {
-    ready_.set_value(false);
+    told_ = true;
+    ready_.set_value(ready);
   }
-  reading_.join();
+}
+
+void FontsAhead::Wait() {
+  if (reading_.joinable()) {
+    reading_.join();
+  }
+}
+
+FontsAhead::Taken::Taken(FontsAhead& fonts) : fonts_(fonts) {
+  fonts_.TellReady(true);
+}
+
+FontsAhead::Taken::~Taken() {
+  fonts_.Wait();
 }
 
 }  // namespace trelonit

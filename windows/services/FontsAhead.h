@@ -16,10 +16,23 @@ class FontsAhead {
   FontsAhead& operator=(const FontsAhead&) = delete;
   ~FontsAhead();
 
-  /// Once there is one: the toolkit takes the list over.
-  void TakeOver();
+  /// The toolkit takes the list over. Made once there is an application, and gone before it: the
+  /// reading ends with this, if not before.
+  class Taken {
+   public:
+    explicit Taken(FontsAhead& fonts);
+    Taken(const Taken&) = delete;
+    Taken& operator=(const Taken&) = delete;
+    ~Taken();
+
+   private:
+    FontsAhead& fonts_;
+  };
 
  private:
+  void TellReady(bool ready);
+  void Wait();
+
   /// Whether the toolkit is there; a start that ends before has none.
   std::promise<bool> ready_;
   bool told_ = false;
