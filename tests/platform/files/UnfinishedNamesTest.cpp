@@ -20,10 +20,10 @@ TEST(UnfinishedNames, AreNewEachTime) {
 }
 
 TEST(UnfinishedNames, AreNotThoseOfTheUser) {
-  for (const char* name : {"", "roof.tsav", ".trelonit-new", ".trelonit-new-", ".trelonit-new-12",
-                           ".trelonit-new-draft", ".trelonit-new-12a-3", ".trelonit-new--3-4",
-                           ".trelonit-new-0-1-2", ".trelonit-new-99999999999-1-2",
-                           "x.trelonit-new-12-3-4", ".TRELONIT-NEW-12-3-4"}) {
+  for (const char* name :
+       {"", "roof.tsav", ".trelonit-new", ".trelonit-new-", ".trelonit-new-12",
+        ".trelonit-new-draft", ".trelonit-new-12a-3", ".trelonit-new--3-4", ".trelonit-new-0-1-2",
+        ".trelonit-new-99999999999-1-2", "x.trelonit-new-12-3-4", ".TRELONIT-NEW-12-3-4"}) {
     EXPECT_EQ(ProcessOfUnfinished(name), std::nullopt) << name;
   }
 }
