@@ -9,9 +9,9 @@
 #include "checks/ElementGroups.h"
 #include "opinion/Opinion.h"
 #include "platform/errors/Guard.h"
-#include "platform/values/Arithmetic.h"
 #include "variants/LoadsElsewhere.h"
 #include "variants/Refusal.h"
+#include "workstation/design/EnteredDesign.h"
 #include "workstation/design/OpinionSelection.h"
 #include "workstation/design/OwnWeight.h"
 #include "workstation/design/ProgibResult.h"
@@ -23,22 +23,6 @@
 namespace trelonit {
 
 namespace {
-
-/// The analysis input of these inputs, with the end panels that the scheme asks for.
-TreloData DataOf(const DesignInputs& inputs) {
-  TreloData data;
-  static_cast<LoadArrays&>(data) = inputs.Loads;
-  data.TreloType = inputs.TreloType;
-  data.UpPoyasBrace = inputs.UpPoyasBrace;
-  data.DownPoyasBrace = inputs.DownPoyasBrace;
-  data.LengthF = inputs.LengthF;
-  data.Hight = inputs.Hight;
-  data.PanelNum = inputs.PanelNum;
-  const Scheme* scheme = FindScheme(inputs.TreloType);
-  const bool own = scheme != nullptr && scheme->OwnEndPanels && inputs.LenOporn > 0;
-  data.LenOporn = own ? Real(inputs.LenOporn) : Real(inputs.LengthF) / inputs.PanelNum;
-  return data;
-}
 
 /// What makes a truss of four sizes.
 void RequireGeometry(const DesignInputs& inputs) {
@@ -84,16 +68,15 @@ class Making {
 
  private:
   void BringLoads(const DesignInputs& base) {
-    const TreloData from = DataOf(base);
-    const TreloData to = DataOf(inputs_);
+    const TreloData from = DesignOf(base, {}).TreloData;
+    const TreloData to = DesignNow().TreloData;
     if (!SameTruss(from, to)) {
       inputs_.Loads = LoadsElsewhere(from, to);
     }
   }
 
-  Design DesignNow() const {
-    return {.TreloData = DataOf(inputs_), .ElementSection = inputs_.ElementSection};
-  }
+  /// With the user's loads alone: own weight comes with each calculation.
+  Design DesignNow() const { return DesignOf(inputs_, {}); }
 
   void CalculateNow() {
     const CheckNumbers numbers = CheckNumbersOf(inputs_);
