@@ -13,10 +13,9 @@
 #include "variants/Refusal.h"
 #include "workstation/design/EnteredDesign.h"
 #include "workstation/design/OpinionSelection.h"
-#include "workstation/design/OwnWeight.h"
 #include "workstation/design/ProgibResult.h"
+#include "workstation/design/RepeatedSelection.h"
 #include "workstation/design/SecondOpinion.h"
-#include "workstation/design/Selection.h"
 #include "workstation/design/modHelper.h"
 #include "workstation/results/ResultPicture.h"
 
@@ -59,11 +58,17 @@ class Making {
   void Run(const DesignInputs& base) {
     RequireGeometry(inputs_);
     BringLoads(base);
-    const SelectionProposal last = rules_.ByOpinion ? SelectByBoth() : SelectUntilNothingChanges();
+    RequireCalculation();
+    const bool ownWeight = inputs_.OwnWeightOn != 0;
+    const SelectionProposal settled = (rules_.ByOpinion ? SelectByOpinion : SelectUntilSettled)(
+        DesignNow(), catalogue_, CheckNumbersOf(inputs_), ownWeight);
+    variant_.Rounds = settled.Rounds;
+    inputs_.ElementSection = settled.Sections;
+    calculation_ = *settled.Settled;
     variant_.Mass = calculation_.CheckData.Mass;
     PutUse();
     PutProgib();
-    Judge(last);
+    Judge(settled);
   }
 
  private:
@@ -78,53 +83,12 @@ class Making {
   /// With the user's loads alone: own weight comes with each calculation.
   Design DesignNow() const { return DesignOf(inputs_, {}); }
 
-  void CalculateNow() {
-    const CheckNumbers numbers = CheckNumbersOf(inputs_);
-    Outcome<Calculation> outcome = Calculate(DesignNow(), numbers);
-    if (!outcome.Told.empty()) {
-      Refuse(outcome.Told.front().Text);
+  /// The selections tell nothing of what keeps a design from being calculated.
+  void RequireCalculation() const {
+    const Messages told = Calculate(DesignNow(), CheckNumbersOf(inputs_)).Told;
+    if (!told.empty()) {
+      Refuse(told.front().Text);
     }
-    calculation_ = std::move(outcome.Value);
-    if (inputs_.OwnWeightOn != 0) {
-      calculation_ = CalculateWithOwnWeight(DesignNow(), numbers);
-    }
-  }
-
-  SelectionProposal SelectUntilNothingChanges() {
-    for (;;) {
-      ++variant_.Rounds;
-      CalculateNow();
-      Messages told;
-      SelectionProposal proposal = SelectSections(calculation_, catalogue_, told);
-      if (!told.empty()) {
-        Refuse(told.front().Text);
-      }
-      if (variant_.Rounds >= lastFreeRound) {
-        KeepFromShrinking(proposal.Sections);
-      }
-      if (proposal.Sections == inputs_.ElementSection) {
-        return proposal;
-      }
-      inputs_.ElementSection = proposal.Sections;
-    }
-  }
-
-  void KeepFromShrinking(SectionArray& sections) const {
-    for (Long place = 1; place <= sectionCount; ++place) {
-      const SectionRec& before = inputs_.ElementSection[place];
-      if (sections[place].SizeIdx <= before.SizeIdx) {
-        sections[place] = before;
-      }
-    }
-  }
-
-  SelectionProposal SelectByBoth() {
-    SelectionProposal proposal =
-        SelectByOpinion(DesignNow(), catalogue_, CheckNumbersOf(inputs_), inputs_.OwnWeightOn != 0);
-    variant_.Rounds = proposal.Rounds;
-    inputs_.ElementSection = proposal.Sections;
-    calculation_ = *proposal.Settled;
-    return proposal;
   }
 
   void PutUse() {
@@ -173,6 +137,10 @@ class Making {
       variant_.Reason = "прогиб больше предельного";
     } else {
       variant_.Verdict = VariantVerdict::Passes;
+    }
+    if (proposal.Circles) {
+      variant_.Reason += (variant_.Reason.empty() ? "" : "; ") +
+                         std::string("размеры чередуются, взят лучший из кругов подбора");
     }
   }
 

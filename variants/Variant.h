@@ -22,7 +22,8 @@ struct Variant {
   /// project it is calculated to these figures.
   DesignInputs Inputs;
   VariantVerdict Verdict = VariantVerdict::Impossible;
-  /// Why it does not pass, for the user.
+  /// Why it does not pass, for the user; and whether its sizes are the best of some that
+  /// take turns.
   std::string Reason;
   // All 0 where it is impossible.
   double Mass = 0;  ///< tonnes

@@ -3,16 +3,9 @@
 #include "catalogue/ProfileRecord.h"
 #include "workstation/design/Calculation.h"
 #include "workstation/design/DesignInputs.h"
+#include "workstation/design/EnteredDesign.h"
 
 namespace trelonit {
-
-/// The sizes that the geometry check last let through; what is calculated has them.
-struct AcceptedGeometry {
-  double LengthF = 0;
-  double Hight = 0;
-  double LenOporn = 0;
-  Long PanelNum = 0;
-};
 
 /// The design that the program holds, its last calculation, and the catalogue.
 struct DesignModel {

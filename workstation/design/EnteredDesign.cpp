@@ -22,18 +22,28 @@ bool HasSteepDiagonals(const DesignInputs& inputs) {
              : slope > 2.2 || H / EndPanelOf(inputs) > 2.2;
 }
 
-Design DesignOf(const DesignInputs& inputs, const OwnWeightState& ownWeight) {
+Design DesignOf(const DesignInputs& inputs, const AcceptedGeometry& sizes,
+                const OwnWeightState& ownWeight) {
   Design design{.ElementSection = inputs.ElementSection, .OwnWeight = ownWeight};
   TreloData& data = design.TreloData;
   static_cast<LoadArrays&>(data) = inputs.Loads;
   data.TreloType = inputs.TreloType;
   data.UpPoyasBrace = inputs.UpPoyasBrace;
   data.DownPoyasBrace = inputs.DownPoyasBrace;
-  data.LengthF = inputs.LengthF;
-  data.Hight = inputs.Hight;
-  data.PanelNum = inputs.PanelNum;
-  data.LenOporn = EndPanelOf(inputs);
+  data.LengthF = sizes.LengthF;
+  data.Hight = sizes.Hight;
+  data.LenOporn = sizes.LenOporn;
+  data.PanelNum = sizes.PanelNum;
   return design;
+}
+
+Design DesignOf(const DesignInputs& inputs, const OwnWeightState& ownWeight) {
+  return DesignOf(inputs,
+                  {.LengthF = inputs.LengthF,
+                   .Hight = inputs.Hight,
+                   .LenOporn = EndPanelOf(inputs),
+                   .PanelNum = inputs.PanelNum},
+                  ownWeight);
 }
 
 }  // namespace trelonit

@@ -5,6 +5,19 @@
 
 namespace trelonit {
 
+/// The sizes that the geometry check last let through; what is calculated has them.
+struct AcceptedGeometry {
+  double LengthF = 0;
+  double Hight = 0;
+  double LenOporn = 0;
+  Long PanelNum = 0;
+};
+
+/// The truss of these sizes that has everything else as the inputs have it. The state is that of
+/// their loads.
+Design DesignOf(const DesignInputs& inputs, const AcceptedGeometry& sizes,
+                const OwnWeightState& ownWeight);
+
 // The truss that inputs describe as they stand, whatever the geometry check would say of them.
 
 /// The length of an end panel: the entered one where the scheme has its own and one is given,

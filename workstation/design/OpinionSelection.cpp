@@ -14,6 +14,10 @@ namespace trelonit {
 
 namespace {
 
+/// From this round on no group becomes smaller: sizes of the catalogue are not in the order of
+/// their weight, and two of them could take turns for ever.
+constexpr int lastFreeRound = 10;
+
 class SearchByBoth {
  public:
   SearchByBoth(const Design& design, const ProfileTypeArray& catalogue, const CheckNumbers& numbers,

@@ -50,11 +50,6 @@ struct SelectionOffer {
 SelectionProposal SelectSections(const Calculation& calculation, const ProfileTypeArray& catalogue,
                                  Messages& told);
 
-/// Where a selection is repeated until nothing changes, no group becomes smaller from this round
-/// on: sizes of the catalogue are not in the order of their weight, and two of them could take
-/// turns for ever.
-constexpr int lastFreeRound = 10;
-
 /// The gap of a paired section with a profile of this web thickness, millimetres: it stays while it
 /// is within a fifth of the thickness, otherwise it becomes the thickness.
 double GapForThickness(double gap, double thickness);

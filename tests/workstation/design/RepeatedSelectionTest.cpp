@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/workstation/design/SelectionLadder.h"
-#include "tests/workstation/main/Desk.h"
+#include "tests/workstation/design/SelectionTruss.h"
 #include "workstation/design/RepeatedSelection.h"
 
 namespace trelonit::test {
@@ -61,23 +61,10 @@ class RepeatedSelectionOfATruss : public ::testing::Test {
  protected:
   RepeatedSelectionOfATruss() {
     form.Form_Load();
-    form.txtLengthF.SetText("24");
-    form.txtHight.SetText("2.8");
-    form.txtLenOporn.SetText("3");
-    Choose(form.cmbPanelNum, "8");
-    for (Long option = 1; option <= groupCount; ++option) {
-      form.optElementSection.Select(option);
-      form.imgProfileSecSelect_Click(2);
-      Choose(form.cmbTypeProfile, StandardName(form, 2));
+    EnterTrussOfAngles(form, [this] {
       // Heavy ones at first, so that own weight falls a good deal.
       form.cmbSectType.Select(static_cast<Long>(form.cmbSectType.List().size()) - 1);
-    }
-    form.tabMain.SetTab(2);
-    form.imgDistForce_Click();
-    form.chkAllPanels.SetChecked(true);
-    form.txtForceVal.SetText("1.68");
-    form.cmdAddForce_Click();
-    form.chkOwnWeight.SetChecked(true);
+    });
   }
 
   PartialResources resources;

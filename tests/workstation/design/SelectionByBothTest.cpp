@@ -6,14 +6,12 @@
 
 #include "catalogue/SectionComposition.h"
 #include "checks/ElementGroups.h"
-#include "tests/workstation/main/Desk.h"
+#include "tests/workstation/design/SelectionTruss.h"
 #include "workstation/design/OpinionSelection.h"
 #include "workstation/design/modHelper.h"
 
 namespace trelonit::test {
 namespace {
-
-constexpr Long equalAngles = 2;
 
 /// The main form with a user who asks for sizes that pass the norm too, and takes them. 24 m in 8
 /// panels, 2.8 m high, two equal angles for every group, half of the upper chord between held
@@ -22,22 +20,7 @@ class SelectionByBoth : public ::testing::Test {
  protected:
   SelectionByBoth() {
     form.Form_Load();
-    form.txtLengthF.SetText("24");
-    form.txtHight.SetText("2.8");
-    form.txtLenOporn.SetText("3");
-    Choose(form.cmbPanelNum, "8");
-    for (Long option = 1; option <= groupCount; ++option) {
-      form.optElementSection.Select(option);
-      form.imgProfileSecSelect_Click(2);
-      Choose(form.cmbTypeProfile, StandardName(form, equalAngles));
-      Choose(form.cmbGdist, "10");
-    }
-    form.tabMain.SetTab(2);
-    form.imgDistForce_Click();
-    form.chkAllPanels.SetChecked(true);
-    form.txtForceVal.SetText("1.68");
-    form.cmdAddForce_Click();
-    form.chkOwnWeight.SetChecked(true);
+    EnterTrussOfAngles(form, [this] { Choose(form.cmbGdist, "10"); });
     outside.Messages.Shown.clear();
   }
 
