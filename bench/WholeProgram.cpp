@@ -155,7 +155,8 @@ int main(int argc, char** argv) {
         if (calculate) {
           CalculateAll(window);
         }
-        QApplication::quit();
+        // Quitting would ask whether the truss is to be stored.
+        QApplication::exit();
       });
   QTimer::singleShot(patience, [] { qFatal("the measurement hangs"); });
   session.Start({});

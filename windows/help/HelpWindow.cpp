@@ -20,6 +20,7 @@
 #include <QWindow>
 
 #include "platform/system/ProgramNames.h"
+#include "windows/binding/ClearButton.h"
 #include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/binding/Units.h"
@@ -125,7 +126,7 @@ void HelpWindow::AddFindBar() {
   find_->setObjectName(QStringLiteral("FindText"));
   find_->setAccessibleName(QStringLiteral("Найти на странице"));
   find_->setPlaceholderText(find_->accessibleName());
-  find_->setClearButtonEnabled(true);
+  AddClearButton(*find_);
   findBar_->addWidget(find_);
   const auto add = [this](const char* name, const char* text, const QKeySequence& key,
                           std::function<void()> act) {
@@ -196,7 +197,7 @@ QWidget* HelpWindow::AddIndex() {
   term_->setObjectName(QStringLiteral("Term"));
   term_->setAccessibleName(QStringLiteral("Термин"));
   term_->setPlaceholderText(term_->accessibleName());
-  term_->setClearButtonEnabled(true);
+  AddClearButton(*term_);
   column->addWidget(term_);
   terms_ = new QListWidget;
   terms_->setObjectName(QStringLiteral("Terms"));
@@ -244,7 +245,7 @@ QWidget* HelpWindow::AddSearch() {
   words_->setToolTip(
       QStringLiteral("Находятся страницы со всеми словами; «слова в кавычках» "
                      "ищутся подряд"));
-  words_->setClearButtonEnabled(true);
+  AddClearButton(*words_);
   row->addWidget(words_);
   auto* search = new QPushButton(QStringLiteral("Найти"));
   search->setObjectName(QStringLiteral("Search"));

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "windows/binding/Binding.h"
+#include "windows/binding/ClearButton.h"
 #include "windows/binding/Layouts.h"
 #include "windows/binding/Pictures.h"
 #include "windows/main/SectionFigure.h"
@@ -93,7 +94,7 @@ QLineEdit* NewSizeSearch(frmMain& form) {
   QPalette pale = edit->palette();
   pale.setColor(QPalette::PlaceholderText, AsideColor(pale));
   edit->setPalette(pale);
-  edit->setClearButtonEnabled(true);
+  AddClearButton(*edit);
   edit->setAccessibleName(QStringLiteral("Поиск типоразмера"));
   SetHint(edit,
           QStringLiteral("Наберите часть обозначения и выберите типоразмер; Enter берет первый "
