@@ -1,8 +1,13 @@
 #include "analysis/modMaxProgib.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <numeric>
+#include <vector>
 
 #include "analysis/Scheme.h"
+#include "analysis/TransposedWalk.h"
 #include "analysis/modTrelo.h"
 #include "platform/errors/Guard.h"
 #include "platform/values/Arithmetic.h"
@@ -79,6 +84,89 @@ Real Deflection(const TreloData& data, const TreloResult& real, const CheckResul
          term(real.LenOpornRaskos, check.OpornRaskos.Area, sums.SupportDiagonals);
 }
 
+/// A bar's share in the deflection for a unit force in it, end bars and the others apart, as
+/// Deflection has them.
+std::vector<double> Weights(const BoundedArray<double>& real, double endSlack, double slack) {
+  std::vector<double> weights(real.begin(), real.end());
+  for (std::size_t bar = 0; bar < weights.size(); ++bar) {
+    weights[bar] *= bar == 0 || bar + 1 == weights.size() ? endSlack : slack;
+  }
+  return weights;
+}
+
+BarWeights WeightsOf(const Scheme& scheme, const TreloData& data, const TreloResult& real,
+                     const CheckResult& check, double E) {
+  const auto slack = [E](double length, const GroupCheck& group) {
+    return static_cast<double>(megapascals) * length / (group.Area * E);
+  };
+  const double lower = slack(real.LenPanel, check.DwnPoyas);
+  const double vertical = slack(data.Hight, check.Stoyka);
+  return {.U = Weights(real.UpPoyasForce, slack(data.LenOporn, check.UpPoyas),
+                       slack(real.LenPanel, check.UpPoyas)),
+          .D = Weights(real.DwnPoyasForce,
+                       scheme.LowerEndPanels ? slack(data.LenOporn, check.DwnPoyas) : lower, lower),
+          .R = Weights(real.RaskosForce, slack(real.LenOpornRaskos, check.OpornRaskos),
+                       slack(real.LenRaskos, check.Raskos)),
+          .V = Weights(real.StoykaForce, vertical, vertical)};
+}
+
+/// Nothing in it comes near a division by zero or the range of Double, so that no walk can fail.
+bool IsOrdinary(const Scheme& scheme, const TreloData& data, const CheckResult& check, double E) {
+  const auto ordinary = [](double value) { return 1e-6 <= value && value <= 1e12; };
+  const double panels = scheme.OwnEndPanels ? data.LengthF - 2 * data.LenOporn : data.LengthF;
+  return ordinary(data.LengthF) && ordinary(data.Hight) && ordinary(data.LenOporn) &&
+         ordinary(panels) && ordinary(E) && ordinary(check.UpPoyas.Area) &&
+         ordinary(check.DwnPoyas.Area) && ordinary(check.Stoyka.Area) &&
+         ordinary(check.Raskos.Area) && ordinary(check.OpornRaskos.Area);
+}
+
+/// Whether the forces are those of a truss with these joints.
+bool HasForcesOf(const Scheme& scheme, const TreloData& data, const TreloResult& real) {
+  const Long n = data.PanelNum;
+  const Long lower = scheme.LastLowerJoint(n);
+  const auto has = [](const BoundedArray<double>& forces, Long count) {
+    return forces.end() - forces.begin() == count;
+  };
+  return has(real.UpPoyasForce, n) && has(real.DwnPoyasForce, lower) &&
+         has(real.RaskosForce, scheme.HasVerticals ? n : 2 * n) &&
+         has(real.StoykaForce, scheme.HasVerticals ? lower + 1 : n);
+}
+
+double SumOfMagnitudes(const std::vector<double>& values) {
+  return std::accumulate(values.begin(), values.end(), 0.0,
+                         [](double sum, double value) { return sum + std::abs(value); });
+}
+
+/// The joints of a chord, 0 to last, that can have the greatest deflection: where one walk the
+/// other way round tells the others to stay well below it, they need no unit run. All of them where
+/// anything is out of the ordinary.
+std::vector<Long> JointsToRun(const TreloData& data, const TreloResult& real,
+                              const CheckResult& check, Chord chord, double E, Long last) {
+  std::vector<Long> joints(static_cast<std::size_t>(last) + 1);
+  std::iota(joints.begin(), joints.end(), 0);
+  const Scheme* scheme = FindScheme(data.TreloType);
+  if (scheme == nullptr || scheme->Reserved || !scheme->HasPanelNum(data.PanelNum) ||
+      !IsOrdinary(*scheme, data, check, E) || !HasForcesOf(*scheme, data, real)) {
+    return joints;
+  }
+  BarWeights weights = WeightsOf(*scheme, data, real, check, E);
+  // No unit force is greater than about the span over the height or over a panel, and a walk drops
+  // what is below 1e-11 of the greatest: the estimates are a hundred times better than this.
+  const double greatestForce =
+      1 + data.LengthF / data.Hight + std::abs(real.LenOpornRaskos + real.LenRaskos) / data.Hight;
+  const double uncertainty = 1e-9 * greatestForce *
+                             (SumOfMagnitudes(weights.U) + SumOfMagnitudes(weights.D) +
+                              SumOfMagnitudes(weights.R) + SumOfMagnitudes(weights.V));
+  const std::vector<double> estimates = WeightedUnitForces(data, chord, std::move(weights));
+  const double least = *std::max_element(estimates.begin(), estimates.end()) - uncertainty;
+  // Written so that a NaN keeps its joint.
+  const auto isBelow = [&](Long joint) {
+    return estimates[static_cast<std::size_t>(joint)] < least;
+  };
+  joints.erase(std::remove_if(joints.begin(), joints.end(), isBelow), joints.end());
+  return joints;
+}
+
 }  // namespace
 
 Outcome<double> CalcProgib(const TreloData& data, const TreloResult& res, const CheckResult& check,
@@ -91,14 +179,16 @@ Outcome<double> CalcProgib(const TreloData& data, const TreloResult& res, const 
   }
   BoundedArray<double>& pointLoads = upChord ? unitData.UpPForce : unitData.DwnPForce;
 
+  const std::vector<Long> joints = JointsToRun(
+      data, res, check, upChord ? Chord::Upper : Chord::Lower, E, pointLoads.UpperBound());
   double& greatest = progib.Value;
-  for (Long joint = pointLoads.LowerBound(); joint <= pointLoads.UpperBound(); ++joint) {
+  for (const Long joint : joints) {
     pointLoads[joint] = 1;
     const TreloResult unit = TakeValue(CalcTrelo(unitData), progib.Told);
     const WorkSums sums = SumWork(data, res, unit);
     double deflection = 0;
     PassOver([&] { deflection = Deflection(data, res, check, sums, E); });
-    greatest = joint == pointLoads.LowerBound() ? deflection : std::max(greatest, deflection);
+    greatest = joint == joints.front() ? deflection : std::max(greatest, deflection);
     pointLoads[joint] = 0;
   }
   return progib;
