@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "catalogue/SectionComposition.h"
+#include "checks/ElementGroups.h"
 #include "platform/system/ProgramNames.h"
 #include "platform/values/Arithmetic.h"
 #include "platform/values/Units.h"
@@ -73,16 +74,22 @@ Outcome<LimitFlex> CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len
   return outcome;
 }
 
-double CalcMass(const TreloResult& Res, double Density, const SectionArray& Sections) {
-  const auto area = [&Sections](SectionPlace place) {
-    return Real(ComposeSection(Sections[place]).Area);
-  };
+double CalcMass(const TreloResult& Res, double Density, const CheckResult& Areas) {
   const Real mass =
-      (area(sectionUpPoyas) * Res.SumLenUpPoyas + area(sectionDwnPoyas) * Res.SumLenDwnPoyas +
-       area(sectionRaskos) * Res.SumLenRaskos + area(sectionOpornRaskos) * Res.SumLenOpornRaskos +
-       area(sectionStoyka) * Res.SumLenStoyka) *
+      (Real(Areas.UpPoyas.Area) * Res.SumLenUpPoyas +
+       Real(Areas.DwnPoyas.Area) * Res.SumLenDwnPoyas + Real(Areas.Raskos.Area) * Res.SumLenRaskos +
+       Real(Areas.OpornRaskos.Area) * Res.SumLenOpornRaskos +
+       Real(Areas.Stoyka.Area) * Res.SumLenStoyka) *
       Density / 10000;
   return mass > 0.0 ? mass : Real(0);
+}
+
+double CalcMass(const TreloResult& Res, double Density, const SectionArray& Sections) {
+  CheckResult areas;
+  for (const ElementGroupRow& group : elementGroups) {
+    (areas.*group.Block).Area = ComposeSection(Sections[group.Place]).Area;
+  }
+  return CalcMass(Res, Density, areas);
 }
 
 ForceExtreme MaxAbsForce(const BoundedArray<double>& Forces) {

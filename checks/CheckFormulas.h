@@ -48,6 +48,8 @@ Outcome<LimitFlex> CalcLimitFlex(const SectionRec& Sec, double Alpha, double Len
 /// Mass of the truss, tonnes: composed areas by the length totals of the groups and the density in
 /// t/m3; geometry, no norm. A result that is not positive is returned as 0.
 double CalcMass(const TreloResult& Res, double Density, const SectionArray& Sections);
+/// The same with the areas of a check.
+double CalcMass(const TreloResult& Res, double Density, const CheckResult& Areas);
 
 /// The force of greatest magnitude, as its magnitude; the first of equals. Subscripts from 1.
 ForceExtreme MaxAbsForce(const BoundedArray<double>& Forces);

@@ -17,40 +17,59 @@ namespace {
 class Check {
  public:
   Check(const TreloData& data, const TreloResult& res, const CheckNumbers& numbers,
-        const SectionArray& sections, Messages& told)
-      : data_(data), res_(res), numbers_(numbers), sections_(sections), told_(told) {}
+        const SectionArray& sections, CheckResult& check, Messages& told)
+      : data_(data),
+        res_(res),
+        numbers_(numbers),
+        sections_(sections),
+        check_(check),
+        told_(told) {}
 
-  const CheckResult& Run() {
-    Compose();
+  // Step by step over all groups: messages and errors appear in this order.
+  void Run() {
+    ForAll(&Check::Compose);
     PutMass();
     PutForces();
-    PutStrength();
+    ForAll(&Check::PutStrength);
     PutEffectiveLengths(check_, data_, res_);
-    PutSlenderness();
-    PutAlpha();
-    PutLimits();
-    PutUtilisation();
-    return check_;
+    ForAll(&Check::PutSlenderness);
+    ForAll(&Check::PutAlpha);
+    ForAll(&Check::PutLimits);
+    ForAll(&Check::PutUtilisation);
+  }
+
+  /// Forces and lengths are there already: they do not hang on the sections.
+  void Run(const ElementGroupRow& group) {
+    Compose(group);
+    PutMass();
+    PutStrength(group);
+    PutSlenderness(group);
+    PutAlpha(group);
+    PutLimits(group);
+    PutUtilisation(group);
   }
 
  private:
+  void ForAll(void (Check::*step)(const ElementGroupRow&)) {
+    for (const ElementGroupRow& group : elementGroups) {
+      (this->*step)(group);
+    }
+  }
   bool HasVerticals() const { return trelonit::HasVerticals(data_.TreloType); }
   bool IsAbsent(const ElementGroupRow& group) const {
     return group.Group == ElementGroup::Stoyka && !HasVerticals();
   }
 
-  void Compose() {
-    for (const ElementGroupRow& group : elementGroups) {
-      const SectionProps props = ComposeSection(sections_[group.Place]);
-      GroupCheck& block = check_.*group.Block;
-      block.Area = props.Area;
-      block.Jin = props.Jin;
-      block.Jout = props.Jout;
-    }
+  void Compose(const ElementGroupRow& group) {
+    const SectionProps props = ComposeSection(sections_[group.Place]);
+    GroupCheck& block = check_.*group.Block;
+    block.Area = props.Area;
+    block.Jin = props.Jin;
+    block.Jout = props.Jout;
   }
 
   void PutMass() {
-    check_.Mass = CalcMass(res_, numbers_.Density, sections_);
+    check_.Mass = CalcMass(res_, numbers_.Density, check_);
     if (!(check_.Mass > 0)) {
       told_.push_back({.Title = warningTitle,
                        .Text = "Не правильно расчитана масса фермы !",
@@ -76,30 +95,26 @@ class Check {
     PutExtremes(check_.OpornRaskos, res_.RaskosForce);
   }
 
-  void PutStrength() {
-    for (const ElementGroupRow& group : elementGroups) {
-      GroupCheck& block = check_.*group.Block;
-      if (!IsAbsent(group)) {
-        block.KStrength =
-            CalcStrength(block.NMax.Value, block.Area, numbers_.Ry, numbers_.Yc, numbers_.Gn);
-      }
+  void PutStrength(const ElementGroupRow& group) {
+    GroupCheck& block = check_.*group.Block;
+    if (!IsAbsent(group)) {
+      block.KStrength =
+          CalcStrength(block.NMax.Value, block.Area, numbers_.Ry, numbers_.Yc, numbers_.Gn);
     }
   }
 
-  void PutSlenderness() {
+  void PutSlenderness(const ElementGroupRow& group) {
     // The program's own rule: the lengths are effective ones already, whatever table 11 has.
     constexpr double Mu = 1;
-    for (const ElementGroupRow& group : elementGroups) {
-      GroupCheck& block = check_.*group.Block;
-      if (!IsAbsent(group)) {
-        block.FlexX = CalcFlex(block.LenX, block.Area, block.Jin, Mu);
-        block.FlexY = CalcFlex(block.LenY, block.Area, block.Jout, Mu);
-      }
-      block.FlexBarX = CalcFlexBar(block.FlexX, numbers_.Ry, numbers_.E);
-      block.FlexBarY = CalcFlexBar(block.FlexY, numbers_.Ry, numbers_.E);
-      block.PhiX = CalcPhi(block.FlexBarX, numbers_.Ry, numbers_.E);
-      block.PhiY = CalcPhi(block.FlexBarY, numbers_.Ry, numbers_.E);
+    GroupCheck& block = check_.*group.Block;
+    if (!IsAbsent(group)) {
+      block.FlexX = CalcFlex(block.LenX, block.Area, block.Jin, Mu);
+      block.FlexY = CalcFlex(block.LenY, block.Area, block.Jout, Mu);
     }
+    block.FlexBarX = CalcFlexBar(block.FlexX, numbers_.Ry, numbers_.E);
+    block.FlexBarY = CalcFlexBar(block.FlexY, numbers_.Ry, numbers_.E);
+    block.PhiX = CalcPhi(block.FlexBarX, numbers_.Ry, numbers_.E);
+    block.PhiY = CalcPhi(block.FlexBarY, numbers_.Ry, numbers_.E);
   }
 
   /// Without a phi there is no alpha of table 19*; 0 is the program's own rule then.
@@ -110,26 +125,22 @@ class Check {
     return CalcAlpha(std::abs(block.NComp.Value), numbers_.Ry, block.Area, phi, numbers_.Yc);
   }
 
-  void PutAlpha() {
-    for (const ElementGroupRow& group : elementGroups) {
-      GroupCheck& block = check_.*group.Block;
-      block.AlphaX = Alpha(block, block.PhiX);
-      block.AlphaY = Alpha(block, block.PhiY);
-    }
+  void PutAlpha(const ElementGroupRow& group) {
+    GroupCheck& block = check_.*group.Block;
+    block.AlphaX = Alpha(block, block.PhiX);
+    block.AlphaY = Alpha(block, block.PhiY);
   }
 
-  void PutLimits() {
+  void PutLimits(const ElementGroupRow& group) {
     // Without verticals their length 0 brings the message of the limit up twice in each run, once
     // a plane; that is intended.
-    for (const ElementGroupRow& group : elementGroups) {
-      GroupCheck& block = check_.*group.Block;
-      const SectionRec& section = sections_[group.Place];
-      const auto limit = [&](double alpha, double length) {
-        return TakeValue(CalcLimitFlex(section, alpha, length, numbers_.Dynamic), told_);
-      };
-      block.LimitX = limit(block.AlphaX, block.LenX);
-      block.LimitY = limit(block.AlphaY, block.LenY);
-    }
+    GroupCheck& block = check_.*group.Block;
+    const SectionRec& section = sections_[group.Place];
+    const auto limit = [&](double alpha, double length) {
+      return TakeValue(CalcLimitFlex(section, alpha, length, numbers_.Dynamic), told_);
+    };
+    block.LimitX = limit(block.AlphaX, block.LenX);
+    block.LimitY = limit(block.AlphaY, block.LenY);
   }
 
   double Stability(const GroupCheck& block, double phi) const {
@@ -137,30 +148,26 @@ class Check {
                          numbers_.Gn);
   }
 
-  void PutUtilisation() {
-    for (const ElementGroupRow& group : elementGroups) {
-      GroupCheck& block = check_.*group.Block;
-      const bool compressed = block.NComp.Value < 0;
-      if (compressed) {
-        block.KStabX = Stability(block, block.PhiX);
-        block.KStabY = Stability(block, block.PhiY);
-      }
-      block.KFlexX =
-          Real(block.FlexX) / (compressed ? block.LimitX.Compress : block.LimitX.Tension);
-      block.KFlexY =
-          Real(block.FlexY) / (compressed ? block.LimitY.Compress : block.LimitY.Tension);
-      // The user's limit is the program's own check.
-      block.KUserX = Real(block.FlexX) / numbers_.LimitUser;
-      block.KUserY = Real(block.FlexY) / numbers_.LimitUser;
+  void PutUtilisation(const ElementGroupRow& group) {
+    GroupCheck& block = check_.*group.Block;
+    const bool compressed = block.NComp.Value < 0;
+    if (compressed) {
+      block.KStabX = Stability(block, block.PhiX);
+      block.KStabY = Stability(block, block.PhiY);
     }
+    block.KFlexX = Real(block.FlexX) / (compressed ? block.LimitX.Compress : block.LimitX.Tension);
+    block.KFlexY = Real(block.FlexY) / (compressed ? block.LimitY.Compress : block.LimitY.Tension);
+    // The user's limit is the program's own check.
+    block.KUserX = Real(block.FlexX) / numbers_.LimitUser;
+    block.KUserY = Real(block.FlexY) / numbers_.LimitUser;
   }
 
   const TreloData& data_;
   const TreloResult& res_;
   const CheckNumbers& numbers_;
   const SectionArray& sections_;
+  CheckResult& check_;
   Messages& told_;
-  CheckResult check_;
 };
 
 }  // namespace
@@ -168,8 +175,23 @@ class Check {
 Outcome<CheckResult> CheckueStress(const TreloData& data, const TreloResult& res,
                                    const CheckNumbers& numbers, const SectionArray& sections) {
   return Attempt<CheckResult>(warningTitle, [&](Outcome<CheckResult>& outcome) {
-    outcome.Value = Check(data, res, numbers, sections, outcome.Told).Run();
+    CheckResult check;
+    Check(data, res, numbers, sections, check, outcome.Told).Run();
+    outcome.Value = check;
   });
+}
+
+bool RecheckGroup(CheckResult& check, ElementGroup group, const TreloData& data,
+                  const TreloResult& res, const CheckNumbers& numbers,
+                  const SectionArray& sections) {
+  const ElementGroupRow& row = RowOf(group);
+  // A check that failed is empty: no force has been found.
+  if ((check.*row.Block).NMax.Index == 0) {
+    return false;
+  }
+  Messages told;
+  return PassOver([&] { Check(data, res, numbers, sections, check, told).Run(row); }) &&
+         told.empty();
 }
 
 }  // namespace trelonit

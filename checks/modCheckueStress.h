@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/CheckRecord.h"
+#include "analysis/ElementGroup.h"
 #include "analysis/modDatatypes.h"
 #include "catalogue/SectionRecord.h"
 #include "checks/CheckNumbers.h"
@@ -14,5 +15,12 @@ namespace trelonit {
 /// not positive do not stop the run.
 Outcome<CheckResult> CheckueStress(const TreloData& data, const TreloResult& res,
                                    const CheckNumbers& numbers, const SectionArray& sections);
+
+/// Brings a whole check of the same truss up to date after the section of one group has changed;
+/// the other blocks stay. False where an error or a message came up, or where the check had failed:
+/// it is then to be made anew, so that these appear as they always do.
+bool RecheckGroup(CheckResult& check, ElementGroup group, const TreloData& data,
+                  const TreloResult& res, const CheckNumbers& numbers,
+                  const SectionArray& sections);
 
 }  // namespace trelonit

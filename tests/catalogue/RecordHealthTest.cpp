@@ -13,7 +13,8 @@ namespace {
 /// L50x5 of GOST 8509-93, as the catalogue has it.
 ProfileRec EqualAngle() {
   test::CatalogueWorld world;
-  for (const ProfileRec& record : world.Load()[2].Rec) {
+  const ProfileTypeArray catalogue = world.Load();
+  for (const ProfileRec& record : catalogue[2].Rec) {
     if (record.Name.Trimmed() == "L50x5") {
       return record;
     }

@@ -10,13 +10,6 @@ namespace trelonit::test {
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__)
-// Shadow memory and quarantine.
-constexpr std::uint64_t mostMemory = 600U << 20U;
-#else
-constexpr std::uint64_t mostMemory = 40U << 20U;
-#endif
-
 constexpr std::uint64_t megabyte = 1U << 20U;
 constexpr std::uint64_t hundredMegabytes = 100 * megabyte;
 
@@ -28,7 +21,7 @@ class HugeInput : public CliTest {
     launch.TimeLimit = std::chrono::seconds(120);
     const Outcome outcome = RunProgram(launch);
     EXPECT_FALSE(outcome.TimedOut);
-    EXPECT_LE(outcome.PeakMemory, mostMemory);
+    EXPECT_LE(outcome.PeakMemory, MemoryLimit(40));
     return outcome;
   }
 

@@ -9,6 +9,8 @@
 #include <sys/types.h>
 #include <vector>
 
+#include "tests/support/Sanitized.h"
+
 namespace trelonit::test {
 
 /// A program to start directly, without a shell.
@@ -39,6 +41,12 @@ struct Outcome {
   std::string Err;
   std::uint64_t PeakMemory = 0;  ///< bytes resident at most
 };
+
+/// The bytes that a started program may hold at most. Under the sanitizers there are shadow memory
+/// and quarantine, and what this program holds counts for one that it starts.
+constexpr std::uint64_t MemoryLimit(unsigned megabytes) {
+  return std::uint64_t{sanitized ? 800 : megabytes} << 20U;
+}
 
 /// A started program. It is killed when nobody has waited for it.
 class Subprocess {

@@ -188,7 +188,7 @@ TEST_F(VerifyFile, TellsAFileWithMoreRecordsThanACatalogueHolds) {
   ExpectFailure(outcome,
                 "trelonit-cli: файл «huge.dat» не прочитан: записей больше 32767, столько каталог "
                 "не вмещает\n");
-  EXPECT_LT(outcome.PeakMemory, std::uint64_t{100} << 20U);
+  EXPECT_LT(outcome.PeakMemory, MemoryLimit(100));
 }
 
 TEST_F(VerifyFile, TakesAsManyRecordsAsACatalogueHolds) {

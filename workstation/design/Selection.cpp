@@ -1,6 +1,7 @@
 #include "workstation/design/Selection.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "analysis/Scheme.h"
@@ -43,15 +44,21 @@ class Search {
     section.Profile = catalogue_[section.TypeIdx].Rec[size];
   }
 
-  void Try(SectionRec& section, Long size) {
+  void Try(GroupOption group, SectionRec& section, Long size) {
     PutRecord(section, size);
     if (section.Paired) {
       section.Gdist = GapForThickness(section.Gdist, section.Profile.s);
+    }
+    if (checked_ == group &&
+        RecheckGroup(proposal_.Check, GroupOfOption(group), calculation_.TreloData,
+                     calculation_.TreloResult, calculation_.Numbers, proposal_.Sections)) {
+      return;
     }
     Outcome<CheckResult> check = CheckueStress(calculation_.TreloData, calculation_.TreloResult,
                                                calculation_.Numbers, proposal_.Sections);
     proposal_.Check = check.Value;
     TellOnce(check.Told);
+    checked_ = group;
   }
 
   /// A search tries hundreds of sizes, and what is wrong with the truss is wrong at each of them.
@@ -75,7 +82,7 @@ class Search {
   void WalkUp(GroupOption group, SectionRec& section) {
     const Long last = catalogue_[section.TypeIdx].Rec.UpperBound();
     while (Use(group) > 1 && section.SizeIdx < last) {
-      Try(section, section.SizeIdx + 1);
+      Try(group, section, section.SizeIdx + 1);
     }
     if (Use(group) > 1) {
       proposal_.Impossible.insert(group);
@@ -87,7 +94,7 @@ class Search {
   // passed; and the step back is plain, so that gap and figures stay as the last try left them.
   void WalkDown(GroupOption group, SectionRec& section) {
     while (Use(group) < 1 && section.SizeIdx > 1) {
-      Try(section, section.SizeIdx - 1);
+      Try(group, section, section.SizeIdx - 1);
     }
     if (section.SizeIdx > 1) {
       // Above the last size, where only exactly 1 leads, there is none.
@@ -100,6 +107,9 @@ class Search {
   const ProfileTypeArray& catalogue_;
   Messages& told_;
   SelectionProposal proposal_;
+  /// The group since whose first try the check has been made with the sections as they are: the
+  /// other groups' figures need not be found again. A step back at a walk's end ends this.
+  std::optional<GroupOption> checked_;
 };
 
 }  // namespace

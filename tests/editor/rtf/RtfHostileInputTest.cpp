@@ -4,6 +4,7 @@
 
 #include "editor/rtf/RtfWriter.h"
 #include "tests/editor/rtf/RtfTexts.h"
+#include "tests/support/Sanitized.h"
 
 namespace trelonit::test {
 namespace {
@@ -31,11 +32,12 @@ double SecondsToRead(std::string_view body) {
 
 constexpr std::size_t fiveMegabytes = 5 * 1024 * 1024;
 
-#if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
-constexpr double slowness = 20;  // instrumented or unoptimised
+#ifdef NDEBUG
+constexpr bool optimised = true;
 #else
-constexpr double slowness = 1;
+constexpr bool optimised = false;
 #endif
+constexpr double slowness = sanitized || !optimised ? 20 : 1;
 constexpr double bound = 1 * slowness;  // seconds
 
 TEST(RtfHostileInput, AHundredThousandLevelsAreRead) {
