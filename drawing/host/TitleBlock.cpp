@@ -142,7 +142,7 @@ class TitleForm {
   }
 
   std::string StyleOf(double width) {
-    const std::string name = "Block " + NumberToText(width, {});
+    std::string name = "Block " + NumberToText(width, {});
     if (FindTextStyle(picture_, name) == nullptr) {
       picture_.TextStyles.push_back({.Name = name, .ObliqueAngle = letterSlope, .Width = width});
     }

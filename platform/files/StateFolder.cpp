@@ -26,6 +26,7 @@ std::vector<std::string> StateFolder::Names(const std::string& ending) const {
   }
   std::sort(found.rbegin(), found.rend());
   std::vector<std::string> names;
+  names.reserve(found.size());
   for (auto& [time, name] : found) {
     names.push_back(std::move(name));
   }

@@ -69,7 +69,7 @@ class TagReader {
     }
   }
   std::string Word(std::string_view ends) {
-    const std::string word(rest_.substr(0, rest_.find_first_of(ends)));
+    std::string word(rest_.substr(0, rest_.find_first_of(ends)));
     rest_.remove_prefix(word.size());
     return word;
   }

@@ -53,7 +53,7 @@ SelectionProposal SelectUntilSettled(const Design& design, const ProfileTypeArra
   // There are only so many sizes, so that one of the rounds has to come again.
   for (;;) {
     SelectionProposal found = SelectSections(rounds.back().Of, catalogue, untold);
-    Design next = rounds.back().Of;
+    Design next = static_cast<const Design&>(rounds.back().Of);
     next.ElementSection = std::move(found.Sections);
     const auto again = std::find_if(rounds.begin(), rounds.end(), [&](const Round& round) {
       return round.Of.ElementSection == next.ElementSection;

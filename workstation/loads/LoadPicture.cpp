@@ -253,7 +253,7 @@ class LoadDrawing {
     const double top = outward < 0 ? edge - bandHeight : edge;
     for (Long panel = first; panel < end; ++panel) {
       const double left = X(*chord.Joints[static_cast<std::size_t>(panel)]);
-      const double right = X(*chord.Joints[static_cast<std::size_t>(panel + 1)]);
+      const double right = X(*chord.Joints[static_cast<std::size_t>(panel) + 1]);
       picture_.Bands.push_back({left, top, right - left, bandHeight, LoadInk::Load});
     }
     const std::string text = NumberToText(load, locale_);

@@ -135,7 +135,7 @@ void frmMain::TakeProposal(const SelectionProposal& proposal) {
   if (proposal.Settled) {
     Model.Last = *proposal.Settled;
     Model.Inputs.ElementSection = Model.Last.ElementSection;
-    Model.Inputs.Loads = Model.Last.TreloData;
+    Model.Inputs.Loads = static_cast<const LoadArrays&>(Model.Last.TreloData);
     Model.OwnWeight = Model.Last.OwnWeight;
     RefreshLoadPreview();
   } else {

@@ -60,7 +60,8 @@ void frmMain::ShowState(const DesignState& state, const DesignPlace& place) {
     ShowSectionsOf(place.Option != 0 ? place.Option : optElementSection.Selected());
     ShowLoadsAgain();
     PassOver([&] { taken = TakeGeometry(); });
-    tabMain.SetTab(taken ? place.Tab : 0);
+    constexpr Integer first = 0;
+    tabMain.SetTab(taken ? place.Tab : first);
   }
   loadsLost_ = 0;
   txtProgib.SetText("");
