@@ -6,6 +6,7 @@
 
 #include "analysis/ElementGroup.h"
 #include "catalogue/SectionDrawing.h"
+#include "platform/text/NumberText.h"
 #include "workstation/design/Design.h"
 
 namespace trelonit {
