@@ -13,6 +13,7 @@
 #include "platform/files/UnfinishedNames.h"
 #include "platform/posix/ContentCopy.h"
 #include "platform/posix/Descriptor.h"
+#include "platform/posix/FileAttributes.h"
 #include "platform/posix/Leftovers.h"
 #include "platform/posix/UnfinishedFile.h"
 
@@ -87,10 +88,10 @@ class FileBeside {
   Descriptor file_;
 };
 
-/// Before the first byte is in it. False where the group cannot be kept: its rights would be those
-/// of another one then. Another owner is none the worse for a file that he may read and write by
-/// its group or as anybody, as he let this user do.
-bool GiveRightsOf(const FileStatus& before, const Descriptor& file) {
+/// Before the first byte is in it. False where group or access list cannot be kept: the rights
+/// would be those of others then. Another owner is none the worse for a file that he may read and
+/// write by its group or as anybody, as he let this user do.
+bool GiveRightsOf(const fs::path& target, const FileStatus& before, const Descriptor& file) {
   FileStatus now{};
   if (::fstat(file.Number(), &now) != 0 ||
       (now.st_gid != before.st_gid &&
@@ -102,7 +103,7 @@ bool GiveRightsOf(const FileStatus& before, const Descriptor& file) {
     static_cast<void>(::fchown(file.Number(), before.st_uid, static_cast<gid_t>(-1)));
   }
   static_cast<void>(::fchmod(file.Number(), before.st_mode & permissionBits));
-  return true;
+  return GiveAttributesOf(target, file);
 }
 
 /// Writes the new file and puts it in the place of the old one. 0, or the system's error where that
@@ -113,7 +114,7 @@ int PutBeside(const fs::path& target, const std::optional<FileStatus>& before,
   if (!beside.File().IsOpen()) {
     return errno;
   }
-  if (before && !GiveRightsOf(*before, beside.File())) {
+  if (before && !GiveRightsOf(target, *before, beside.File())) {
     return EPERM;
   }
   WriteAt(beside.File(), 0, bytes);
@@ -184,7 +185,7 @@ class GrowingReplacement : public GrowingFile {
     if (!beside_.File().IsOpen()) {
       throw errno == ENOENT ? RuntimeError(ErrorNumber::PathNotFound) : FromErrno();
     }
-    if (before_ && !GiveRightsOf(*before_, beside_.File())) {
+    if (before_ && !GiveRightsOf(target_, *before_, beside_.File())) {
       throw RuntimeError(ErrorNumber::PermissionDenied);
     }
   }
