@@ -22,12 +22,18 @@ PictureView::PictureView(QSize preferred, QWidget* parent)
 }
 
 void PictureView::SetFile(const QString& file) {
+  if (file_ == file) {
+    return;
+  }
   file_ = file;
   drawing_.Forget();
   update();
 }
 
 void PictureView::SetWarning(bool warning) {
+  if (warning_ == warning) {
+    return;
+  }
   warning_ = warning;
   update();
 }
@@ -54,12 +60,18 @@ PictureButton::PictureButton(QSize preferred, QWidget* parent)
 }
 
 void PictureButton::SetFile(const QString& file) {
+  if (file_ == file) {
+    return;
+  }
   file_ = file;
   drawing_.Forget();
   update();
 }
 
 void PictureButton::SetPale(bool pale) {
+  if (pale_ == pale) {
+    return;
+  }
   pale_ = pale;
   drawing_.Forget();
   update();

@@ -212,16 +212,21 @@ class Writer {
 }  // namespace
 
 ExplanationView::ExplanationView(NumberLocale locale, QWidget* parent)
-    : FormulaView(parent), locale_(std::move(locale)) {}
+    : FormulaView(parent), locale_(std::move(locale)), build_([this] { Build(); }) {}
 
 void ExplanationView::Show(QStringList remarks, std::vector<ExplainedCheck> checks) {
   remarks_ = std::move(remarks);
   checks_ = std::move(checks);
+  builtWide_.reset();
   if (isVisible()) {
+    Build();
+  }
+}
+
+void ExplanationView::Build() {
+  if (!builtWide_ && isVisible()) {
     Rebuild();
     moveCursor(QTextCursor::Start);
-  } else {
-    builtWide_.reset();
   }
 }
 
@@ -249,10 +254,7 @@ void ExplanationView::Rebuild() {
 
 void ExplanationView::showEvent(QShowEvent* event) {
   FormulaView::showEvent(event);
-  if (!builtWide_) {
-    Rebuild();
-    moveCursor(QTextCursor::Start);
-  }
+  build_.Ask();
 }
 
 void ExplanationView::resizeEvent(QResizeEvent* event) {

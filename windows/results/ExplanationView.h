@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "opinion/Explanation.h"
+#include "windows/binding/OnceSettled.h"
 #include "windows/results/FormulaView.h"
 
 namespace trelonit {
@@ -36,12 +37,15 @@ class ExplanationView : public FormulaView {
 
  private:
   void Rebuild();
+  /// The first time that it is seen, and then from its beginning.
+  void Build();
 
   NumberLocale locale_;
   QStringList remarks_;
   std::vector<ExplainedCheck> checks_;
   /// How it was built; not yet before it is shown, when its width is not known.
   std::optional<bool> builtWide_;
+  OnceSettled build_;
 };
 
 }  // namespace trelonit

@@ -114,17 +114,17 @@ void KoeffOfUseWindow::AddTableMenu(QMenuBar* bar) {
     return action;
   };
   add("mnuShowBars", QStringLiteral("Стержни"), QKeySequence(Qt::CTRL | Qt::Key_T), [this] {
-    pages_->setCurrentWidget(bars_->parentWidget());
-    bars_->setFocus();
+    pages_->setCurrentWidget(barPage_);
+    Bars().setFocus();
   });
   menu->addSeparator();
-  add("mnuCopyTable", QStringLiteral("Копировать"), {}, [this] { bars_->Copy(); });
+  add("mnuCopyTable", QStringLiteral("Копировать"), {}, [this] { Bars().Copy(); });
   Bind(form_.mnuSaveCsv, add("mnuSaveCsv", ToQt(form_.mnuSaveCsv.Caption()), QKeySequence::Save,
-                             [this] { form_.mnuSaveCsv_Click(bars_->Shown()); }));
+                             [this] { form_.mnuSaveCsv_Click(Bars().Shown()); }));
   Bind(form_.mnuSaveXlsx, add("mnuSaveXlsx", ToQt(form_.mnuSaveXlsx.Caption()), {},
-                              [this] { form_.mnuSaveXlsx_Click(bars_->Shown()); }));
+                              [this] { form_.mnuSaveXlsx_Click(Bars().Shown()); }));
   add("mnuPrintTable", QStringLiteral("Печать..."), QKeySequence::Print,
-      [this] { PreviewTable(bars_->Shown(), form_.Locale, this); });
+      [this] { PreviewTable(Bars().Shown(), form_.Locale, this); });
 }
 
 QWidget* KoeffOfUseWindow::NewLists() {
@@ -158,13 +158,21 @@ QWidget* KoeffOfUseWindow::NewPages() {
   pages_->tabBar()->setAccessibleName(QStringLiteral("Объяснение и таблица стержней"));
   QWidget* explanation = NewExplanation();
   pages_->addTab(explanation, explanation_->accessibleName());
-  pages_->addTab(NewBars(), QStringLiteral("Стержни"));
+  barPage_ = new QWidget;
+  new QVBoxLayout(barPage_);
+  pages_->addTab(barPage_, QStringLiteral("Стержни"));
+  QObject::connect(pages_, &QTabWidget::currentChanged, this, [this] {
+    if (pages_->currentWidget() == barPage_) {
+      Bars();
+    }
+  });
   return pages_;
 }
 
-QWidget* KoeffOfUseWindow::NewBars() {
-  auto* page = new QWidget;
-  auto* column = new QVBoxLayout(page);
+BarTableView& KoeffOfUseWindow::Bars() {
+  if (bars_ != nullptr) {
+    return *bars_;
+  }
   bars_ = new BarTableView(form_.Bars, form_.Locale);
   bars_->Chosen = [this](std::optional<MarkedBar> bar) {
     // One choice at a time: the mark is that of the last one.
@@ -173,8 +181,12 @@ QWidget* KoeffOfUseWindow::NewBars() {
     }
     truss_->Mark(bar);
   };
-  column->addWidget(bars_);
-  return page;
+  barPage_->layout()->addWidget(bars_);
+  // On a page that is shown already it would come with the next event only.
+  barPage_->layout()->activate();
+  bars_->show();
+  QWidget::setTabOrder(explanation_, bars_);
+  return *bars_;
 }
 
 QWidget* KoeffOfUseWindow::NewExplanation() {
@@ -201,8 +213,8 @@ void KoeffOfUseWindow::AddButtons(QVBoxLayout* column) {
 }
 
 void KoeffOfUseWindow::ShowBar(const MarkedBar& bar) {
-  pages_->setCurrentWidget(bars_->parentWidget());
-  bars_->Choose(bar);
+  pages_->setCurrentWidget(barPage_);
+  Bars().Choose(bar);
 }
 
 void KoeffOfUseWindow::ShowRow(const ResultRow* row) {
@@ -217,7 +229,9 @@ void KoeffOfUseWindow::ShowRow(const ResultRow* row) {
     return;
   }
   pages_->setCurrentWidget(explanation_->parentWidget());
-  bars_->clearSelection();
+  if (bars_ != nullptr) {
+    bars_->clearSelection();
+  }
   truss_->Mark(row->Bar ? std::optional(MarkedBar{OptionOf(row->Group), *row->Bar}) : std::nullopt);
   std::vector<ExplainedCheck> checks;
   for (const std::string& check : row->Checks) {

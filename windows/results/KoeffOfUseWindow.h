@@ -27,7 +27,9 @@ class KoeffOfUseWindow : public FormDialog {
   /// Under the lists: the explanation and the table of the bars, one behind the other.
   QWidget* NewPages();
   QWidget* NewExplanation();
-  QWidget* NewBars();
+  /// The table of the bars, made the first time that it is shown or asked for: most users close the
+  /// window before.
+  BarTableView& Bars();
   void AddTableMenu(QMenuBar* bar);
   void AddButtons(QVBoxLayout* column);
   /// The row's explanation and its bar; without a row what holds for all of them.
@@ -38,6 +40,7 @@ class KoeffOfUseWindow : public FormDialog {
   UseGrid* grid_ = nullptr;
   TrussView* truss_ = nullptr;
   ExplanationView* explanation_ = nullptr;
+  QWidget* barPage_ = nullptr;
   BarTableView* bars_ = nullptr;
   QTabWidget* pages_ = nullptr;
 };

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QEvent>
 #include <QHeaderView>
+#include <algorithm>
 
 #include "opinion/Opinion.h"
 #include "windows/binding/Binding.h"
@@ -14,6 +16,7 @@ namespace trelonit {
 namespace {
 
 constexpr int toldColumns = 2;
+constexpr int checkColumn = 0;
 constexpr int opinionColumn = 2;
 /// Narrower, the names of the checks would fall to pieces.
 constexpr int narrowestLetters = 54;
@@ -27,7 +30,8 @@ void MakeBold(QTableWidgetItem& item) {
 
 }  // namespace
 
-UseGrid::UseGrid(frmKoeffOfUse& form, QWidget* parent) : QTableWidget(parent), form_(form) {
+UseGrid::UseGrid(frmKoeffOfUse& form, QWidget* parent)
+    : QTableWidget(parent), form_(form), rows_([this] { FitRows(); }) {
   setObjectName(QStringLiteral("MSFlexGKoefUse"));
   setAccessibleName(ToQt(form_.framKoef.Caption()));
   setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -40,17 +44,44 @@ UseGrid::UseGrid(frmKoeffOfUse& form, QWidget* parent) : QTableWidget(parent), f
   Emphasise();
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setMinimumSectionSize(narrowestColumn);
-  horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-  // The longest checks take two lines in a narrow window.
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  horizontalHeader()->setSectionResizeMode(checkColumn, QHeaderView::Stretch);
   verticalHeader()->setMinimumSectionSize(22);
-  verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  FitFigures();
+  // The longest checks take two lines in a narrow window.
+  rows_.Ask();
+  QObject::connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+    if (column == checkColumn) {
+      rows_.Ask();
+    }
+  });
   AddCopy(this, [this] { Copy(); });
   QObject::connect(this, &QTableWidget::itemSelectionChanged, this, [this] {
     if (Chosen) {
       Chosen(ChosenRow());
     }
   });
+}
+
+void UseGrid::changeEvent(QEvent* event) {
+  QTableWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+    FitFigures();
+    rows_.Ask();
+  }
+}
+
+void UseGrid::FitFigures() {
+  for (int column = checkColumn + 1; column < columnCount(); ++column) {
+    resizeColumnToContents(column);
+  }
+}
+
+void UseGrid::FitRows() {
+  for (int row = 0; row < rowCount(); ++row) {
+    setRowHeight(row, std::max(sizeHintForRow(row), verticalHeader()->sectionSizeHint(row)));
+  }
 }
 
 void UseGrid::AddOpinion() {

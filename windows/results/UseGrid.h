@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 
+#include "windows/binding/OnceSettled.h"
 #include "workstation/dialogs/frmKoeffOfUse.h"
 
 namespace trelonit {
@@ -17,14 +18,22 @@ class UseGrid : public QTableWidget {
   /// Called with the chosen row, or with nothing.
   std::function<void(const ResultRow* row)> Chosen;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void AddOpinion();
   /// Heads of groups stand out, and so does what exceeds the limit.
   void Emphasise();
+  /// The checks take what room the figures leave, in as many lines as they need there. The
+  /// toolkit's own fitting would measure every cell anew whenever the grid takes another size.
+  void FitFigures();
+  void FitRows();
   void Copy() const;
   const ResultRow* ChosenRow() const;
 
   frmKoeffOfUse& form_;
+  OnceSettled rows_;
 };
 
 }  // namespace trelonit

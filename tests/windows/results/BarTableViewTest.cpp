@@ -209,6 +209,61 @@ TEST_F(ResultsBars, ShowWhatExceedsTheLimitInRedAndForcesByTheirSign) {
   EXPECT_EQ(ink("Нижний пояс").value<QColor>(), TensionColor(Table().palette()));
 }
 
+/// The window as it opens: nobody has been on the page of the bars.
+class ResultsBarsUnseen : public ::testing::Test, public FilledResults {
+ protected:
+  ResultsBarsUnseen() { Open(); }
+  void Trigger(const char* entry) { Window->findChild<QAction*>(QLatin1String(entry))->trigger(); }
+};
+
+TEST_F(ResultsBarsUnseen, AreNotMadeBeforeTheyAreNeeded) {
+  EXPECT_EQ(Window->findChild<QWidget*>(QStringLiteral("BarTable")), nullptr);
+  Find<QTabWidget>(*Window, "Pages").setCurrentIndex(1);
+  EXPECT_TRUE(Find<QWidget>(*Window, "BarTable").isVisible());
+}
+
+TEST_F(ResultsBarsUnseen, AreCopied) {
+  QApplication::clipboard()->clear();
+  Trigger("mnuCopyTable");
+  EXPECT_EQ(FromQt(QApplication::clipboard()->text()),
+            TabSeparated(Form.Bars.Table, PointLocale()));
+  EXPECT_EQ(Find<QTabWidget>(*Window, "Pages").currentIndex(), 0);
+}
+
+TEST_F(ResultsBarsUnseen, AreStored) {
+  ResultTable csv;
+  ResultTable xlsx;
+  Form.SetTableFiles([&](const ResultTable& table) { csv = table; },
+                     [&](const ResultTable& table) { xlsx = table; });
+  Trigger("mnuSaveCsv");
+  Trigger("mnuSaveXlsx");
+  EXPECT_EQ(csv.Rows, Form.Bars.Table.Rows);
+  EXPECT_EQ(xlsx.Rows, Form.Bars.Table.Rows);
+}
+
+TEST_F(ResultsBarsUnseen, AreFoundByAPressOnTheirBarInThePicture) {
+  auto& truss = dynamic_cast<TrussView&>(Find<QWidget>(*Window, "TrussView"));
+  for (int x = 0; x < truss.width() && !truss.Marked(); ++x) {
+    QTest::mouseClick(&truss, Qt::LeftButton, {}, {x, truss.height() / 2});
+  }
+  ASSERT_TRUE(truss.Marked());
+  EXPECT_EQ(Find<QTabWidget>(*Window, "Pages").currentIndex(), 1);
+  auto& table = Find<QTableView>(*Window, "BarTable");
+  const QModelIndexList chosen = table.selectionModel()->selectedRows();
+  ASSERT_EQ(chosen.size(), 1);
+  EXPECT_EQ(FromQt(chosen.front().siblingAtColumn(groupColumn).data().toString()),
+            GroupName(truss.Marked()->Group));
+  EXPECT_TRUE(table.viewport()->rect().intersects(table.visualRect(chosen.front())));
+}
+
+TEST_F(ResultsBarsUnseen, ComeAfterTheExplanationByTab) {
+  Trigger("mnuShowBars");
+  auto& table = Find<QWidget>(*Window, "BarTable");
+  EXPECT_EQ(Window->focusWidget(), &table);
+  QTest::keyClick(&table, Qt::Key_Tab);
+  EXPECT_EQ(Window->focusWidget(), &Find<QWidget>(*Window, "cmdClose"));
+}
+
 TEST_F(ResultsBars, OpenByTheirKey) {
   Pages().setCurrentIndex(0);
   EXPECT_EQ(Entry("mnuShowBars").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_T));

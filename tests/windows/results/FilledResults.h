@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <memory>
 
 #include "tests/windows/Hands.h"
@@ -28,6 +29,8 @@ struct FilledResults {
     Window.reset();
     Window = std::make_unique<KoeffOfUseWindow>(Form, nullptr);
     Window->show();
+    // What the window lays out once its size is settled.
+    QCoreApplication::sendPostedEvents();
     return *Window;
   }
 
