@@ -1,6 +1,7 @@
 #include "windows/binding/FormDialog.h"
 
 #include "windows/binding/Binding.h"
+#include "windows/binding/PaintedFirst.h"
 
 namespace trelonit {
 
@@ -8,6 +9,7 @@ FormDialog::FormDialog(Label& title, std::function<void()>& unload, QWidget* par
     : QDialog(parent), unload_(unload) {
   Follow(title, this, [this, &title] { setWindowTitle(ToQt(title.Caption())); });
   unload_ = [this] { accept(); };
+  new PaintedFirst(this);
 }
 
 FormDialog::~FormDialog() {

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QEvent>
 #include <QHeaderView>
 #include <algorithm>
 #include <array>
@@ -86,7 +87,7 @@ bool LoadTableModel::setData(const QModelIndex& index, const QVariant& value, in
 }
 
 LoadTableView::LoadTableView(LoadEditor& editor, QWidget* parent)
-    : QTableView(parent), editor_(editor), model_(editor) {
+    : QTableView(parent), editor_(editor), model_(editor), columns_([this] { FitColumns(); }) {
   setModel(&model_);
   setAccessibleName(QStringLiteral("Нагрузки таблицей"));
   setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -95,8 +96,11 @@ LoadTableView::LoadTableView(LoadEditor& editor, QWidget* parent)
   setTabKeyNavigation(false);
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-  horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setStretchLastSection(true);
+  QObject::connect(&model_, &QAbstractItemModel::modelReset, this, [this] { columns_.Ask(); });
+  QObject::connect(&model_, &QAbstractItemModel::dataChanged, this, [this] { columns_.Ask(); });
+  columns_.Ask();
   setContextMenuPolicy(Qt::ActionsContextMenu);
   AddCommand(QStringLiteral("Копировать"), QKeySequence::Copy, "mnuLoadCopy",
              [this] { QApplication::clipboard()->setText(ToQt(editor_.Copy(SelectedRows()))); });
@@ -109,6 +113,19 @@ LoadTableView::LoadTableView(LoadEditor& editor, QWidget* parent)
   AddCommand(QStringLiteral("Заполнить вниз"), QKeySequence(Qt::CTRL | Qt::Key_D), "mnuLoadFill",
              [this] { editor_.FillDown(SelectedRows()); });
   Refresh();
+}
+
+void LoadTableView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+    columns_.Ask();
+  }
+}
+
+void LoadTableView::FitColumns() {
+  for (int column = 0; column + 1 < model_.columnCount(); ++column) {
+    resizeColumnToContents(column);
+  }
 }
 
 void LoadTableView::AddCommand(const QString& caption, const QKeySequence& key, const char* name,

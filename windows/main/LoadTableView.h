@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "windows/binding/OnceSettled.h"
 #include "workstation/loads/LoadEditor.h"
 
 namespace trelonit {
@@ -42,16 +43,21 @@ class LoadTableView : public QTableView {
  protected:
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void AddCommand(const QString& caption, const QKeySequence& key, const char* name,
                   std::function<void()> run);
   std::vector<std::size_t> SelectedRows() const;
+  /// As wide as heads and cells need. The toolkit's own fitting would measure every cell anew
+  /// whenever the table is shown.
+  void FitColumns();
 
   LoadEditor& editor_;
   LoadTableModel model_;
   // While the table follows the load tool, it does not lead it.
   bool following_ = false;
+  OnceSettled columns_;
 };
 
 }  // namespace trelonit

@@ -7,7 +7,7 @@ namespace trelonit::test {
 namespace {
 
 /// A caption without the marks of its access keys.
-std::string Plain(QString caption) {
+std::string WithoutMnemonics(QString caption) {
   return FromQt(caption.remove(QLatin1Char('&')));
 }
 
@@ -20,7 +20,7 @@ class Captions : public ::testing::Test, public Screen {
   std::string LabelOf(const std::string& name) {
     for (const QLabel* label : Window.findChildren<QLabel*>()) {
       if (label->buddy() != nullptr && FromQt(label->buddy()->objectName()) == name) {
-        return Plain(label->text());
+        return WithoutMnemonics(label->text());
       }
     }
     return {};
@@ -91,7 +91,7 @@ TEST_F(Captions, StandOnTheButtons) {
       {"optElementSection5", "Опорные раскосы"},
   };
   for (const auto& [name, caption] : expected) {
-    EXPECT_EQ(Plain(Button(name).text()), caption) << name;
+    EXPECT_EQ(WithoutMnemonics(Button(name).text()), caption) << name;
   }
 }
 
