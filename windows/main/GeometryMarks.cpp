@@ -69,7 +69,8 @@ void GeometryMarks::Refresh() {
     Show(box, found);
   }
   if (faults.empty()) {
-    words_->clear();
+    // Clearing it would lay out and paint the whole page again with every key, empty or not.
+    words_->setText({});
     words_->setToolTip({});
     return;
   }

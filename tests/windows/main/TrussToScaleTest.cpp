@@ -53,6 +53,33 @@ TEST_F(TrussToScale, FollowsEveryKey) {
   EXPECT_EQ(Words(), "Схема 5 не рассчитывается");
 }
 
+/// Counts the paint events of a widget.
+class PaintCount : public QObject {
+ public:
+  explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    Painted += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+  int Painted = 0;
+};
+
+TEST_F(TrussToScale, IsPaintedAloneWithItsBoxWhileOneTypes) {
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&Window));
+  QTest::qWait(100);
+  QLineEdit& height = Edit("txtHight");
+  height.setFocus();
+  QTest::qWait(100);
+  const PaintCount truss(View());
+  const PaintCount scheme(Find<PictureView>(Window, "imgMain"));
+  const PaintCount other(Edit("txtLenOporn"));
+  QTest::keyClicks(&height, "1");
+  QTest::qWait(100);
+  EXPECT_GT(truss.Painted, 0);
+  EXPECT_EQ(scheme.Painted, 0);
+  EXPECT_EQ(other.Painted, 0);
+}
+
 TEST_F(TrussToScale, IsPaintedAnew) {
   const QImage before = View().grab().toImage();
   TypeInto("txtHight", "3");
