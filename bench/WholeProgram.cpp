@@ -159,6 +159,6 @@ int main(int argc, char** argv) {
         QApplication::exit();
       });
   QTimer::singleShot(patience, [] { qFatal("the measurement hangs"); });
-  session.Start({});
+  session.Start({}, [&fonts] { fonts.WaitForList(); });
   return QApplication::exec();
 }

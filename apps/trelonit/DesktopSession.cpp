@@ -78,9 +78,11 @@ QWidget* DesktopSession::Parent() const {
   return window_ && window_->isVisible() ? window_.get() : nullptr;
 }
 
-void DesktopSession::Start(const std::string& commandLine) {
+void DesktopSession::Start(const std::string& commandLine,
+                           const std::function<void()>& beforeWindows) {
   program_.Main().Form_Load();
   document_.emplace(program_.Main(), Bundle(), StateFolder(UserStateFolder()));
+  beforeWindows();
   window_ = std::make_unique<MainWindow>(program_.Main(), settings_);
   new DocumentDesk(*document_, *window_, settings_);
   window_->show();

@@ -26,7 +26,8 @@ class DesktopSession {
 
   /// Loads the form (catalogue, defaults) and shows the main window; then opens the project or the
   /// document that the command line names, if any.
-  void Start(const std::string& commandLine);
+  void Start(
+      const std::string& commandLine, const std::function<void()>& beforeWindows = [] {});
 
  private:
   Services Bundle();

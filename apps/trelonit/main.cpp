@@ -61,7 +61,7 @@ int main(int argc, char** argv) {
     }
     const trelonit::Desktop desktop;
     trelonit::DesktopSession session;
-    session.Start(*file);
+    session.Start(*file, [&fonts] { fonts.WaitForList(); });
     return QApplication::exec();
   } catch (const std::exception& error) {
     std::fprintf(stderr, "trelonit: %s\n", error.what());

@@ -24,10 +24,11 @@ FontsAhead::FontsAhead() {
   // The application would set the locale while the list is being read.
   std::setlocale(LC_ALL, "");
   // The first thread that asks the toolkit for anything counts as its main one: this asks here.
-  reading_ = std::thread([read = FindReading(), ready = ready_.get_future()]() mutable {
+  reading_ = std::thread([this, read = FindReading(), ready = ready_.get_future()]() mutable {
     if (read != nullptr) {
       read();
     }
+    listRead_.set_value();
     if (ready.get()) {
       QFontDatabase::families();
     }
@@ -50,6 +51,10 @@ void FontsAhead::Wait() {
   if (reading_.joinable()) {
     reading_.join();
   }
+}
+
+void FontsAhead::WaitForList() {
+  listRead_.get_future().wait();
 }
 
 FontsAhead::Taken::Taken(FontsAhead& fonts) : fonts_(fonts) {

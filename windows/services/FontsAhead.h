@@ -6,8 +6,7 @@
 namespace trelonit {
 
 /// Reads the list of the system's fonts, the longest part of a start, beside the others: while the
-/// application reaches the display, and while the forms are loaded. Who needs a font before that is
-/// done waits as usual.
+/// application reaches the display, and while the forms are loaded.
 class FontsAhead {
  public:
   /// Before there is an application.
@@ -15,6 +14,9 @@ class FontsAhead {
   FontsAhead(const FontsAhead&) = delete;
   FontsAhead& operator=(const FontsAhead&) = delete;
   ~FontsAhead();
+
+  /// Until the list has been read. Who asks for a font before reads it all once more.
+  void WaitForList();
 
   /// The toolkit takes the list over. Made once there is an application, and gone before it: the
   /// reading ends with this, if not before.
@@ -36,6 +38,7 @@ class FontsAhead {
   /// Whether the toolkit is there; a start that ends before has none.
   std::promise<bool> ready_;
   bool told_ = false;
+  std::promise<void> listRead_;
   std::thread reading_;
 };
 
