@@ -47,7 +47,8 @@ Program::Program(const Services& services, Windows windows)
                         .txtRy = main_.txtRy,
                         .txtNadegnost = main_.txtNadegnost,
                         .txtUsloviyaRabot = main_.txtUsloviyaRabot}),
-      paramerty_(services, main_.Steel) {
+      paramerty_(services, main_.Steel),
+      variants_(services, main_) {
   RestoreAppendix();
   OfferTableFiles();
   if (windows_.Associations != nullptr) {
@@ -99,6 +100,14 @@ frmMain::Openers Program::MakeOpeners() {
       otchet_->AppendReport(LookOf(piece));
     };
     openers.ShowOtchet = [this] { ShowOtchet(); };
+  }
+  if (windows_.ShowVariants) {
+    openers.ShowVariants = [this] {
+      if (variants_.Form_Load()) {
+        windows_.ShowVariants(variants_);
+        variants_.Form_Unload();
+      }
+    };
   }
   openers.EndProgram = windows_.EndProgram;
   return openers;

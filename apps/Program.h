@@ -12,6 +12,7 @@
 #include "editor/associations/frmAssoc.h"
 #include "editor/document/frmOtchetMain.h"
 #include "platform/system/Services.h"
+#include "variants/frmVariants.h"
 #include "workstation/dialogs/frmAbout.h"
 #include "workstation/dialogs/frmKoeffOfUse.h"
 #include "workstation/dialogs/frmSearch.h"
@@ -36,6 +37,7 @@ class Program {
     std::function<void(frmParamerty&)> ShowParamerty;
     std::function<void(frmDataManager&)> ShowDataManager;
     std::function<void(frmOtchetMain&)> ShowOtchet;
+    std::function<void(frmVariants&)> ShowVariants;
     /// Beside the document window, which goes on.
     std::function<void(frmFind&)> ShowFind;
     std::function<void(frmDate&)> ShowDate;
@@ -59,6 +61,7 @@ class Program {
   Program(const Services& services, Windows windows);
 
   frmMain& Main() { return main_; }
+  frmVariants& Variants() { return variants_; }
   /// The results of the last Calculate that came to its end; nothing before one did.
   const std::optional<ResultLists>& LastResults() const { return lastResults_; }
   /// What automatic selection proposed last; nothing before it did.
@@ -102,6 +105,8 @@ class Program {
   // These two write to controls of the main form.
   frmSteel steel_;
   frmParamerty paramerty_;
+  // Takes the project from the main form and gives it another one.
+  frmVariants variants_;
 };
 
 }  // namespace trelonit

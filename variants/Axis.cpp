@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "platform/text/NumberText.h"
 #include "platform/text/Text.h"
 #include "variants/Refusal.h"
 
@@ -33,8 +34,12 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
   }
 }
 
+std::string Grouped(double whole) {
+  return FormatShown(whole, 0, {.GroupSeparator = " "});
+}
+
 void AddRange(std::vector<double>& values, const std::string& text,
-              const std::vector<std::string_view>& parts) {
+              const std::vector<std::string_view>& parts, double most) {
   const double from = Number(parts[0]);
   const double to = Number(parts[1]);
   const double step = Number(parts[2]);
@@ -47,8 +52,8 @@ void AddRange(std::vector<double>& values, const std::string& text,
   // A step of a tenth is none in binary, and the end of a range belongs to it.
   constexpr double rounding = 1e-9;
   const double steps = std::floor((to - from) / step + rounding);
-  if (steps >= mostVariants) {
-    Refuse("в диапазоне «" + text + "» больше 100 000 000 значений");
+  if (steps >= most) {
+    Refuse("в диапазоне «" + text + "» больше " + Grouped(most) + " значений");
   }
   for (double place = 0; place <= steps; ++place) {
     // The nearest number to the one that stands on paper.
@@ -70,14 +75,14 @@ std::vector<std::string> ParseList(std::string_view text) {
   return list;
 }
 
-std::vector<double> ParseNumbers(std::string_view text) {
+std::vector<double> ParseNumbers(std::string_view text, double most) {
   std::vector<double> values;
   for (const std::string& part : ParseList(text)) {
     const std::vector<std::string_view> range = Split(part, ':');
     if (range.size() == 1) {
       values.push_back(Number(part));
     } else if (range.size() == 3) {
-      AddRange(values, part, range);
+      AddRange(values, part, range, most);
     } else {
       Refuse("диапазон «" + part + "» записывается как от:до:шаг");
     }
@@ -85,9 +90,9 @@ std::vector<double> ParseNumbers(std::string_view text) {
   return values;
 }
 
-std::vector<Long> ParseWholeNumbers(std::string_view text) {
+std::vector<Long> ParseWholeNumbers(std::string_view text, double most) {
   std::vector<Long> whole;
-  for (const double value : ParseNumbers(text)) {
+  for (const double value : ParseNumbers(text, most)) {
     constexpr double greatest = 1e9;
     if (value != std::floor(value) || std::abs(value) > greatest) {
       Refuse("в «" + std::string(text) + "» не все числа целые");
@@ -95,6 +100,45 @@ std::vector<Long> ParseWholeNumbers(std::string_view text) {
     whole.push_back(static_cast<Long>(value));
   }
   return whole;
+}
+
+std::pair<std::string, std::string> Halves(const std::string& text, char sign,
+                                           const std::string& form) {
+  const std::size_t place = text.find(sign);
+  if (place == std::string::npos) {
+    Refuse("«" + text + "» записывается как " + form);
+  }
+  return {text.substr(0, place), text.substr(place + 1)};
+}
+
+Long ParseOneWhole(const std::string& text) {
+  const std::vector<Long> numbers = ParseWholeNumbers(text);
+  if (numbers.size() != 1) {
+    Refuse("«" + text + "» не одно число");
+  }
+  return numbers.front();
+}
+
+std::vector<SectionKind> ParseKinds(std::string_view text) {
+  std::vector<SectionKind> kinds;
+  for (const std::string& part : ParseList(text)) {
+    const auto [layout, standard] = Halves(part, '/', "расположение/сортамент");
+    kinds.push_back({.Layout = ParseOneWhole(layout), .Standard = ParseOneWhole(standard)});
+  }
+  return kinds;
+}
+
+std::vector<SteelKind> ParseSteels(std::string_view text) {
+  std::vector<SteelKind> steels;
+  for (const std::string& part : ParseList(text)) {
+    const auto [name, strength] = Halves(part, ':', "марка:Ry");
+    const std::vector<double> numbers = ParseNumbers(strength);
+    if (numbers.size() != 1 || !(numbers.front() > 0)) {
+      Refuse("расчетное сопротивление стали «" + part + "» не больше нуля");
+    }
+    steels.push_back({.Name = name, .Ry = numbers.front()});
+  }
+  return steels;
 }
 
 }  // namespace trelonit

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstdio>
 #include <set>
+
+#include "variants/PlotAxis.h"
 
 namespace trelonit {
 
@@ -17,10 +18,6 @@ constexpr double right = 150;
 constexpr double top = 40;
 constexpr double bottom = 60;
 
-/// Colours that people with any sight tell apart (after Okabe and Ito), and none of the page's own.
-constexpr std::array colours{"#0072b2", "#d55e00", "#009e73", "#cc79a7",
-                             "#e69f00", "#56b4e9", "#7f7f7f"};
-
 std::string Format(const char* format, double value) {
   std::array<char, 64> text{};
   std::snprintf(text.data(), text.size(), format, value);
@@ -31,51 +28,27 @@ std::string Place(double value) {
   return Format("%.2f", value);
 }
 
-/// An axis from a round number to a round one, with a mark at each step.
-struct PlotAxis {
-  double From = 0;
-  double Step = 1;
-  int Steps = 1;
-
-  PlotAxis(double least, double greatest) {
-    constexpr double wished = 6;
-    const double range = std::max(greatest - least, std::max(std::abs(greatest), 1.0) * 1e-6);
-    const double power = std::pow(10, std::floor(std::log10(range / wished)));
-    Step = power;
-    for (const double times : {2.0, 5.0, 10.0}) {
-      if (range / Step > wished) {
-        Step = power * times;
-      }
-    }
-    From = std::floor(least / Step) * Step;
-    Steps = std::max(1, static_cast<int>(std::ceil((greatest - From) / Step - 1e-9)));
-  }
-  double At(int step) const { return From + Step * step; }
-  double Share(double value) const { return (value - From) / (Step * Steps); }
-  int Decimals() const {
-    return std::clamp(static_cast<int>(-std::floor(std::log10(Step) + 1e-9)), 0, 9);
-  }
-};
-
-std::string Text(double x, double y, const char* anchor, const std::string& text) {
+std::string SvgText(double x, double y, const char* anchor, const std::string& text) {
   return "<text x=\"" + Place(x) + "\" y=\"" + Place(y) + "\" text-anchor=\"" + anchor + "\">" +
          text + "</text>\n";
 }
 
-std::string Line(double x1, double y1, double x2, double y2, const char* colour) {
+std::string SvgLine(double x1, double y1, double x2, double y2, const char* colour) {
   return "<line x1=\"" + Place(x1) + "\" y1=\"" + Place(y1) + "\" x2=\"" + Place(x2) + "\" y2=\"" +
          Place(y2) + "\" stroke=\"" + colour + "\"/>\n";
 }
 
 class Plot {
  public:
-  Plot(const std::vector<PlotPoint>& points, const std::vector<PlotPoint>& front)
+  Plot(const std::vector<PlotPoint>& points, const std::vector<PlotPoint>& front,
+       const PlotLabels& labels)
       : points_(points),
         front_(front),
-        across_(Least(&PlotPoint::Height), Greatest(&PlotPoint::Height)),
+        labels_(labels),
+        across_(Least(&PlotPoint::Across), Greatest(&PlotPoint::Across)),
         up_(Least(&PlotPoint::Mass), Greatest(&PlotPoint::Mass)) {
     for (const PlotPoint& point : points) {
-      panels_.insert(point.Panels);
+      kinds_.insert(point.Kind);
     }
   }
 
@@ -83,7 +56,7 @@ class Plot {
     std::string svg = Grid();
     for (const PlotPoint& point : points_) {
       svg += "<circle cx=\"" + Place(X(point)) + "\" cy=\"" + Place(Y(point)) +
-             "\" r=\"3\" fill=\"" + Colour(point.Panels) + "\"/>\n";
+             "\" r=\"3\" fill=\"" + Colour(point.Kind) + "\"/>\n";
     }
     return svg + Front() + Legend();
   }
@@ -107,12 +80,12 @@ class Plot {
   static double YOf(double share) {
     return plotHeight - bottom - share * (plotHeight - top - bottom);
   }
-  double X(const PlotPoint& point) const { return XOf(across_.Share(point.Height)); }
+  double X(const PlotPoint& point) const { return XOf(across_.Share(point.Across)); }
   double Y(const PlotPoint& point) const { return YOf(up_.Share(point.Mass)); }
 
-  const char* Colour(Long panels) const {
-    const auto place = std::distance(panels_.begin(), panels_.find(panels));
-    return colours[static_cast<std::size_t>(place) % colours.size()];
+  const char* Colour(Long kind) const {
+    const auto place = std::distance(kinds_.begin(), kinds_.find(kind));
+    return PlotColour(static_cast<std::size_t>(place));
   }
 
   std::string Grid() const {
@@ -123,16 +96,16 @@ class Plot {
     };
     for (int step = 0; step <= across_.Steps; ++step) {
       const double x = XOf(static_cast<double>(step) / across_.Steps);
-      svg += Line(x, YOf(0), x, YOf(1), grey);
-      svg += Text(x, plotHeight - bottom + 18, "middle", number(across_, step));
+      svg += SvgLine(x, YOf(0), x, YOf(1), grey);
+      svg += SvgText(x, plotHeight - bottom + 18, "middle", number(across_, step));
     }
     for (int step = 0; step <= up_.Steps; ++step) {
       const double y = YOf(static_cast<double>(step) / up_.Steps);
-      svg += Line(XOf(0), y, XOf(1), y, grey);
-      svg += Text(left - 8, y + 4, "end", number(up_, step));
+      svg += SvgLine(XOf(0), y, XOf(1), y, grey);
+      svg += SvgText(left - 8, y + 4, "end", number(up_, step));
     }
-    svg += Text((left + plotWidth - right) / 2, plotHeight - 16, "middle", "Высота, м");
-    svg += Text(left - 8, top - 16, "end", "Масса, т");
+    svg += SvgText((left + plotWidth - right) / 2, plotHeight - 16, "middle", labels_.Across);
+    svg += SvgText(left - 8, top - 16, "end", "Масса, т");
     return svg;
   }
 
@@ -149,38 +122,40 @@ class Plot {
     constexpr double spacing = 20;
     const double x = plotWidth - right + 20;
     double y = top + 10;
-    std::string svg = Text(x - 6, y, "start", "Число панелей");
-    for (const Long panels : panels_) {
+    std::string svg = SvgText(x - 6, y, "start", labels_.Kind);
+    for (const Long kind : kinds_) {
       y += spacing;
       svg += "<circle cx=\"" + Place(x) + "\" cy=\"" + Place(y - 4) + "\" r=\"4\" fill=\"" +
-             Colour(panels) + "\"/>\n" + Text(x + 12, y, "start", std::to_string(panels));
+             Colour(kind) + "\"/>\n" + SvgText(x + 12, y, "start", std::to_string(kind));
     }
     if (!front_.empty()) {
       y += spacing;
       svg += "<circle cx=\"" + Place(x) + "\" cy=\"" + Place(y - 4) +
              "\" r=\"6\" fill=\"none\" stroke=\"#202020\" stroke-width=\"1.5\"/>\n" +
-             Text(x + 12, y, "start", "лучшие");
+             SvgText(x + 12, y, "start", "лучшие");
     }
     return svg;
   }
 
   const std::vector<PlotPoint>& points_;
   const std::vector<PlotPoint>& front_;
+  const PlotLabels& labels_;
   PlotAxis across_;
   PlotAxis up_;
-  std::set<Long> panels_;
+  std::set<Long> kinds_;
 };
 
 }  // namespace
 
-std::string PlotAsSvg(const std::vector<PlotPoint>& points, const std::vector<PlotPoint>& front) {
+std::string PlotAsSvg(const std::vector<PlotPoint>& points, const std::vector<PlotPoint>& front,
+                      const PlotLabels& labels) {
   const std::string size = Format("%.0f", plotWidth) + " " + Format("%.0f", plotHeight);
   std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " + size +
                     "\" font-family=\"sans-serif\" font-size=\"13\">\n"
                     "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
   svg += points.empty()
-             ? Text(plotWidth / 2, plotHeight / 2, "middle", "Ни один вариант не годится")
-             : Plot(points, front).Svg();
+             ? SvgText(plotWidth / 2, plotHeight / 2, "middle", "Ни один вариант не годится")
+             : Plot(points, front, labels).Svg();
   return svg + "</svg>\n";
 }
 

@@ -9,17 +9,28 @@ namespace trelonit {
 
 /// What a plot shows of a variant.
 struct PlotPoint {
-  double Height = 0;  ///< metres
+  double Across = 0;  ///< height or deflection, metres
   double Mass = 0;    ///< tonnes
-  Long Panels = 0;    ///< its colour
+  Long Kind = 0;      ///< its colour: panel count or scheme
+  std::uint64_t Number = 0;
 };
 
-/// Mass over height as a picture (SVG), a colour for each panel count, with the front marked:
-/// those of which none is both lower and lighter. A picture without points says so.
-std::string PlotAsSvg(const std::vector<PlotPoint>& points, const std::vector<PlotPoint>& front);
+/// What the plot says of the two.
+struct PlotLabels {
+  std::string Across = "Высота, м";
+  std::string Kind = "Число панелей";
+};
+
+/// Mass over height, or over what the labels say, as a picture (SVG), a colour for each kind, with
+/// the front marked: those of which none is better in both. A picture without points says so.
+std::string PlotAsSvg(const std::vector<PlotPoint>& points, const std::vector<PlotPoint>& front,
+                      const PlotLabels& labels = {});
 
 inline PlotPoint PointOf(const Variant& variant) {
-  return {.Height = variant.Inputs.Hight, .Mass = variant.Mass, .Panels = variant.Inputs.PanelNum};
+  return {.Across = variant.Inputs.Hight,
+          .Mass = variant.Mass,
+          .Kind = variant.Inputs.PanelNum,
+          .Number = variant.Number};
 }
 
 }  // namespace trelonit

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace trelonit {
 
@@ -9,16 +10,45 @@ namespace {
 
 struct GroupColumn {
   const char* Name;
+  const char* Short;
   SectionPlace Place;
 };
 
 constexpr std::array<GroupColumn, sectionCount> groupColumns{{
-    {"Верхний пояс", sectionUpPoyas},
-    {"Нижний пояс", sectionDwnPoyas},
-    {"Раскосы", sectionRaskos},
-    {"Стойки", sectionStoyka},
-    {"Опорные раскосы", sectionOpornRaskos},
+    {"Верхний пояс", "Верхний\nпояс", sectionUpPoyas},
+    {"Нижний пояс", "Нижний\nпояс", sectionDwnPoyas},
+    {"Раскосы", "Раскосы", sectionRaskos},
+    {"Стойки", "Стойки", sectionStoyka},
+    {"Опорные раскосы", "Опорные\nраскосы", sectionOpornRaskos},
 }};
+
+/// What a table has of each group, in this order.
+enum GroupFigure : std::size_t {
+  layoutFigure,
+  standardFigure,
+  profileFigure,
+  gapFigure,
+  useFigure,
+  groupFigures
+};
+
+enum VariantColumn : std::size_t {
+  numberColumn,
+  schemeColumn,
+  spanColumn,
+  heightColumn,
+  endPanelColumn,
+  panelsColumn,
+  steelColumn,
+  strengthColumn,
+  firstGroupColumn,
+  massColumn = firstGroupColumn + sectionCount * groupFigures,
+  progibColumn,
+  relativeProgibColumn,
+  roundsColumn,
+  verdictColumn,
+  reasonColumn
+};
 
 std::string Text(double number) {
   std::array<char, 32> digits{};
@@ -26,52 +56,133 @@ std::string Text(double number) {
   return {digits.begin(), end};
 }
 
-}  // namespace
-
-std::vector<std::string> VariantColumns() {
-  std::vector<std::string> columns{
-      "Номер",         "Схема", "Пролет, м", "Высота, м", "Крайняя панель, м",
-      "Число панелей", "Сталь", "Ry, МПа"};
+std::vector<TableColumn> MakeColumns() {
+  constexpr int lengthDecimals = 3;
+  constexpr int useDecimals = 3;
+  constexpr int progibDecimals = 5;
+  std::vector<TableColumn> columns{
+      {.Caption = "Номер", .Short = "№", .Hint = {}},
+      {.Caption = "Схема", .Short = {}, .Hint = {}},
+      {.Caption = "Пролет, м", .Short = "Пролет,\nм", .Hint = {}, .Decimals = lengthDecimals},
+      {.Caption = "Высота, м", .Short = "Высота,\nм", .Hint = {}, .Decimals = lengthDecimals},
+      {.Caption = "Крайняя панель, м",
+       .Short = "Крайняя\nпанель, м",
+       .Hint = {},
+       .Decimals = lengthDecimals},
+      {.Caption = "Число панелей", .Short = "Число\nпанелей", .Hint = {}},
+      {.Caption = "Сталь", .Short = {}, .Hint = {}},
+      {.Caption = "Ry, МПа", .Short = "Ry,\nМПа", .Hint = {}, .Decimals = 1}};
   for (const GroupColumn& group : groupColumns) {
     const std::string name = group.Name;
-    for (const char* what : {": расположение", ": сортамент", ": профиль", ": зазор, мм",
-                             ": коэффициент использования"}) {
-      columns.push_back(name + what);
-    }
+    const std::string shortName = group.Short + std::string(":\n");
+    const auto add = [&](const char* what, const char* shortly, int decimals = 0) {
+      columns.push_back(
+          {.Caption = name + what, .Short = shortName + shortly, .Hint = {}, .Decimals = decimals});
+    };
+    add(": расположение", "расп.");
+    add(": сортамент", "сорт.");
+    add(": профиль", "профиль");
+    add(": зазор, мм", "зазор, мм", 1);
+    add(": коэффициент использования", "коэфф.", useDecimals);
   }
-  for (const char* name :
-       {"Масса, т", "Прогиб, м", "Прогиб / пролет", "Кругов подбора", "Итог", "Причина"}) {
-    columns.emplace_back(name);
-  }
+  columns.push_back({.Caption = "Масса, т", .Short = "Масса,\nт", .Hint = {}, .Decimals = 3});
+  columns.push_back(
+      {.Caption = "Прогиб, м", .Short = "Прогиб,\nм", .Hint = {}, .Decimals = progibDecimals});
+  columns.push_back({.Caption = "Прогиб / пролет",
+                     .Short = "Прогиб /\nпролет",
+                     .Hint = {},
+                     .Decimals = progibDecimals});
+  columns.push_back({.Caption = "Кругов подбора", .Short = "Кругов\nподбора", .Hint = {}});
+  columns.push_back({.Caption = "Итог", .Short = {}, .Hint = {}});
+  columns.push_back({.Caption = "Причина", .Short = {}, .Hint = {}});
   return columns;
 }
 
-std::vector<std::string> VariantFields(const Variant& variant) {
-  const DesignInputs& inputs = variant.Inputs;
-  const bool possible = variant.Verdict != VariantVerdict::Impossible;
-  const auto figure = [possible](double number) { return possible ? Text(number) : std::string(); };
-  std::vector<std::string> fields{std::to_string(variant.Number + 1),
-                                  std::to_string(inputs.TreloType),
-                                  Text(inputs.LengthF),
-                                  Text(inputs.Hight),
-                                  Text(inputs.LenOporn),
-                                  std::to_string(inputs.PanelNum),
-                                  inputs.SteelName,
-                                  Text(inputs.Ry)};
-  for (const GroupColumn& group : groupColumns) {
-    const SectionRec& section = inputs.ElementSection[group.Place];
-    fields.push_back(std::to_string(section.Layout));
-    fields.push_back(std::to_string(section.TypeIdx));
-    fields.push_back(possible ? section.Profile.Name.Trimmed() : std::string());
-    fields.push_back(section.Paired ? Text(section.Gdist) : std::string());
-    fields.push_back(figure(variant.Use[static_cast<std::size_t>(group.Place) - 1]));
+TableCell GroupCell(const VariantRow& row, const VariantRow::Group& group, std::size_t figure) {
+  switch (figure) {
+    case layoutFigure:
+      return static_cast<double>(group.Layout);
+    case standardFigure:
+      return static_cast<double>(group.Standard);
+    case profileFigure:
+      return row.IsPossible() ? *group.Profile : std::string();
+    case gapFigure:
+      return group.Paired ? TableCell(group.Gap) : TableCell();
+    default:
+      return row.IsPossible() ? TableCell(group.Use) : TableCell();
   }
-  fields.push_back(figure(variant.Mass));
-  fields.push_back(figure(variant.Progib));
-  fields.push_back(figure(variant.Progib / inputs.LengthF));
-  fields.push_back(std::to_string(variant.Rounds));
-  fields.emplace_back(VerdictName(variant.Verdict));
-  fields.push_back(variant.Reason);
+}
+
+}  // namespace
+
+const std::vector<TableColumn>& VariantTableColumns() {
+  static const std::vector<TableColumn> columns = MakeColumns();
+  return columns;
+}
+
+std::vector<std::string> VariantColumns() {
+  std::vector<std::string> names;
+  for (const TableColumn& column : VariantTableColumns()) {
+    names.push_back(column.Caption);
+  }
+  return names;
+}
+
+TableCell VariantCell(const VariantRow& row, std::size_t column) {
+  const auto figure = [&row](double number) {
+    return row.IsPossible() ? TableCell(number) : TableCell();
+  };
+  switch (column) {
+    case numberColumn:
+      return static_cast<double>(row.Number + 1);
+    case schemeColumn:
+      return static_cast<double>(row.Scheme);
+    case spanColumn:
+      return row.Span;
+    case heightColumn:
+      return row.Height;
+    case endPanelColumn:
+      return row.EndPanel;
+    case panelsColumn:
+      return static_cast<double>(row.Panels);
+    case steelColumn:
+      return *row.Steel;
+    case strengthColumn:
+      return row.Ry;
+    case massColumn:
+      return figure(row.Mass);
+    case progibColumn:
+      return figure(row.Progib);
+    case relativeProgibColumn:
+      return figure(row.Progib / row.Span);
+    case roundsColumn:
+      return static_cast<double>(row.Rounds);
+    case verdictColumn:
+      return std::string(VerdictName(row.Verdict));
+    case reasonColumn:
+      return *row.Reason;
+    default:
+      break;
+  }
+  const std::size_t place = column - firstGroupColumn;
+  const SectionPlace group = groupColumns[place / groupFigures].Place;
+  return GroupCell(row, row.Groups[static_cast<std::size_t>(group) - 1], place % groupFigures);
+}
+
+std::vector<std::string> VariantFields(const Variant& variant) {
+  const VariantRow row = VariantRows().Of(variant);
+  const std::vector<TableColumn>& columns = VariantTableColumns();
+  std::vector<std::string> fields;
+  for (std::size_t column = 0; column < columns.size(); ++column) {
+    const TableCell cell = VariantCell(row, column);
+    const auto* number = std::get_if<double>(&cell);
+    const auto* text = std::get_if<std::string>(&cell);
+    // A whole number of eight digits must not get an exponent.
+    fields.push_back(text != nullptr                 ? *text
+                     : number == nullptr             ? std::string()
+                     : columns[column].Decimals == 0 ? std::to_string(std::llround(*number))
+                                                     : Text(*number));
+  }
   return fields;
 }
 

@@ -4,7 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "variants/Variant.h"
+#include "variants/VariantRow.h"
+#include "workstation/results/ResultTable.h"
 
 namespace trelonit {
 
@@ -17,6 +18,12 @@ std::vector<std::string> VariantColumns();
 
 /// A variant's fields, as many as there are columns. Figures of one that is impossible are empty.
 std::vector<std::string> VariantFields(const Variant& variant);
+
+/// The same columns for people: short heads and decimals.
+const std::vector<TableColumn>& VariantTableColumns();
+
+/// A cell of such a table; nothing for a figure of one that is impossible.
+TableCell VariantCell(const VariantRow& row, std::size_t column);
 
 /// One row.
 std::string CsvRow(const std::vector<std::string>& fields);

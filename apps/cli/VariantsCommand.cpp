@@ -23,46 +23,6 @@ namespace {
 
 constexpr const char* ownName = "trelonit-cli: ";
 
-/// Two parts of a text around this sign.
-std::pair<std::string, std::string> Halves(const std::string& text, char sign,
-                                           const std::string& form) {
-  const std::size_t place = text.find(sign);
-  if (place == std::string::npos) {
-    Refuse("«" + text + "» записывается как " + form);
-  }
-  return {text.substr(0, place), text.substr(place + 1)};
-}
-
-Long OneWhole(const std::string& text) {
-  const std::vector<Long> numbers = ParseWholeNumbers(text);
-  if (numbers.size() != 1) {
-    Refuse("«" + text + "» не одно число");
-  }
-  return numbers.front();
-}
-
-std::vector<SectionKind> ParseKinds(const std::string& text) {
-  std::vector<SectionKind> kinds;
-  for (const std::string& part : ParseList(text)) {
-    const auto [layout, standard] = Halves(part, '/', "расположение/сортамент");
-    kinds.push_back({.Layout = OneWhole(layout), .Standard = OneWhole(standard)});
-  }
-  return kinds;
-}
-
-std::vector<SteelKind> ParseSteels(const std::string& text) {
-  std::vector<SteelKind> steels;
-  for (const std::string& part : ParseList(text)) {
-    const auto [name, strength] = Halves(part, ':', "марка:Ry");
-    const std::vector<double> numbers = ParseNumbers(strength);
-    if (numbers.size() != 1 || !(numbers.front() > 0)) {
-      Refuse("расчетное сопротивление стали «" + part + "» не больше нуля");
-    }
-    steels.push_back({.Name = name, .Ry = numbers.front()});
-  }
-  return steels;
-}
-
 VariantAxes AxesOf(const VariantsOptions& options) {
   VariantAxes axes;
   const auto read = [](const std::string& text, const char* key, auto parse, auto& axis) {
@@ -75,11 +35,13 @@ VariantAxes AxesOf(const VariantsOptions& options) {
       Refuse(std::string("ключ «") + key + "»: " + error.Description());
     }
   };
-  read(options.Scheme, "--scheme", ParseWholeNumbers, axes.Schemes);
-  read(options.Span, "--span", ParseNumbers, axes.Spans);
-  read(options.Height, "--height", ParseNumbers, axes.Heights);
-  read(options.EndPanel, "--end", ParseNumbers, axes.EndPanels);
-  read(options.Panels, "--panels", ParseWholeNumbers, axes.Panels);
+  const auto numbers = [](const std::string& text) { return ParseNumbers(text); };
+  const auto wholeNumbers = [](const std::string& text) { return ParseWholeNumbers(text); };
+  read(options.Scheme, "--scheme", wholeNumbers, axes.Schemes);
+  read(options.Span, "--span", numbers, axes.Spans);
+  read(options.Height, "--height", numbers, axes.Heights);
+  read(options.EndPanel, "--end", numbers, axes.EndPanels);
+  read(options.Panels, "--panels", wholeNumbers, axes.Panels);
   const auto kinds = [&](const std::string& text, const char* key, SectionPlace place) {
     read(text, key, ParseKinds, axes.Kinds[static_cast<std::size_t>(place) - 1]);
   };
@@ -88,7 +50,7 @@ VariantAxes AxesOf(const VariantsOptions& options) {
   kinds(options.Diagonals, "--diagonals", sectionRaskos);
   kinds(options.SupportDiagonals, "--support-diagonals", sectionOpornRaskos);
   kinds(options.Posts, "--posts", sectionStoyka);
-  read(options.Gap, "--gap", ParseNumbers, axes.Gaps);
+  read(options.Gap, "--gap", numbers, axes.Gaps);
   read(options.Steel, "--steel", ParseSteels, axes.Steels);
   return axes;
 }
@@ -99,8 +61,8 @@ std::pair<std::uint64_t, std::uint64_t> ShardOf(const std::string& text) {
     return {1, 1};
   }
   const auto [part, parts] = Halves(text, '/', "часть/всего");
-  const Long shard = OneWhole(part);
-  const Long shards = OneWhole(parts);
+  const Long shard = ParseOneWhole(part);
+  const Long shards = ParseOneWhole(parts);
   if (shard < 1 || shards < shard) {
     Refuse("нет части «" + text + "»");
   }

@@ -51,6 +51,9 @@ QKeySequence ShortcutOf(const std::string& item) {
   if (item == "mnuOtchet") {
     return QKeySequence(Qt::SHIFT | Qt::Key_F9);
   }
+  if (item == "mnuVariants") {
+    return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F9);
+  }
   if (item == "UserHelp") {
     return QKeySequence::HelpContents;
   }

@@ -205,20 +205,22 @@ std::vector<frmMain::MenuItem> frmMain::Menus() {
   const auto when = [](const std::function<void()>& opener, std::function<void()> handler) {
     return opener ? std::move(handler) : std::function<void()>();
   };
+  std::vector<MenuItem> calculations{
+      item("mnuCalc", "Вычислить", [this] { mnuCalc_Click(); }),
+      item("mnuSearch", "Подобрать ...",
+           openers_.ShowSearch ? [this] { mnuSearch_Click(); } : std::function<void()>()),
+      item("mnuOtchet", "Отчет расчета ...",
+           when(openers_.ShowOtchet, [this] { mnuOtchet_Click(); }))};
+  if (openers_.ShowVariants) {
+    calculations.push_back(item("mnuVariants", "Варианты ...", [this] { mnuVariants_Click(); }));
+  }
   return {
       {.Name = "File",
        .Caption = "&Файл",
        .Items = {item("SaveParam", "Сохранить", [this] { SaveParam_Click(); }),
                  item("Restore", "Восстановить", [this] { Restore_Click(); }),
                  item("Exit", "Выход Alt+F4", [this] { Exit_Click(); })}},
-      {.Name = "mnuCalcmain",
-       .Caption = "Расчет",
-       .Items = {item("mnuCalc", "Вычислить", [this] { mnuCalc_Click(); }),
-                 item(
-                     "mnuSearch", "Подобрать ...",
-                     openers_.ShowSearch ? [this] { mnuSearch_Click(); } : std::function<void()>()),
-                 item("mnuOtchet", "Отчет расчета ...",
-                      when(openers_.ShowOtchet, [this] { mnuOtchet_Click(); }))}},
+      {.Name = "mnuCalcmain", .Caption = "Расчет", .Items = std::move(calculations)},
       {.Name = "DataBase",
        .Caption = "База данных",
        .Items = {item("mnuProfile", "Профильный прокат...",
@@ -260,6 +262,12 @@ void frmMain::mnuSearch_Click() {
 void frmMain::mnuOtchet_Click() {
   if (GoToCommands()) {
     cmdShowResults_Click();
+  }
+}
+
+void frmMain::mnuVariants_Click() {
+  if (GoToCommands()) {
+    openers_.ShowVariants();
   }
 }
 

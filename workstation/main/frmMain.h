@@ -44,6 +44,8 @@ class frmMain {
     std::function<void(const Calculation&)> BeginOtchet;
     ReportSink AppendOtchet;
     std::function<void()> ShowOtchet;
+    /// Studies of the design; without their window the menu has no entry for them.
+    std::function<void()> ShowVariants;
     std::function<void()> EndProgram;
   };
 
@@ -86,6 +88,7 @@ class frmMain {
   void mnuCalc_Click();
   void mnuSearch_Click();
   void mnuOtchet_Click();
+  void mnuVariants_Click();
   void mnuProfile_Click();
   void optio_Click();
   void cmdSteelGet_Click();

@@ -5,28 +5,27 @@
 
 namespace trelonit {
 
-namespace {
-
-void Save(const std::string& extension, const std::string& description, const Services& services,
-          const std::function<std::string()>& bytes) {
-  const std::string name = ShowSaveDialog("Сохранить таблицу", extension, description, services);
+void SaveUnderName(const FileToSave& file, const Services& services,
+                   const std::function<std::string()>& bytes) {
+  const std::string name = ShowSaveDialog(file.Title, file.Extension, file.Description, services);
   if (!name.empty()) {
     services.Files.ReplaceFile(name, bytes());
   }
 }
 
-}  // namespace
-
 void SaveAsCsv(const ResultTable& table, const Services& services) {
   Guard(services.Messages, "mnuSaveCsv_Click", [&] {
-    Save("csv", "Таблица CSV", services, [&] { return CommaSeparated(table, services.Locale); });
+    SaveUnderName({"Сохранить таблицу", "csv", "Таблица CSV"}, services,
+                  [&] { return CommaSeparated(table, services.Locale); });
   });
 }
 
 void SaveAsSpreadsheet(const ResultTable& table, const SpreadsheetWriter& write,
                        const Services& services) {
-  Guard(services.Messages, "mnuSaveXlsx_Click",
-        [&] { Save("xlsx", "Электронная таблица", services, [&] { return write(table); }); });
+  Guard(services.Messages, "mnuSaveXlsx_Click", [&] {
+    SaveUnderName({"Сохранить таблицу", "xlsx", "Электронная таблица"}, services,
+                  [&] { return write(table); });
+  });
 }
 
 }  // namespace trelonit

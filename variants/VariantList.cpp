@@ -1,0 +1,148 @@
+#include "variants/VariantList.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+#include "platform/text/Text.h"
+#include "variants/VariantTable.h"
+
+namespace trelonit {
+
+namespace {
+
+/// Latin and Russian letters as small ones.
+std::u32string Small(const std::string& text) {
+  std::u32string letters = Characters(text);
+  for (char32_t& letter : letters) {
+    if ((letter >= U'A' && letter <= U'Z') || (letter >= U'А' && letter <= U'Я')) {
+      letter += U'a' - U'A';
+    } else if (letter == U'Ё') {
+      letter = U'ё';
+    }
+  }
+  return letters;
+}
+
+bool HasText(const VariantRow& row, const std::u32string& text) {
+  const auto has = [&text](const std::string& cell) {
+    return Small(cell).find(text) != std::u32string::npos;
+  };
+  return has(*row.Steel) || has(*row.Reason) || has(std::string(VerdictName(row.Verdict))) ||
+         (row.IsPossible() &&
+          std::any_of(row.Groups.begin(), row.Groups.end(),
+                      [&](const VariantRow::Group& group) { return has(*group.Profile); }));
+}
+
+/// A row with what it is sorted by.
+struct Keyed {
+  TableCell Key;
+  const VariantRow* Row;
+};
+
+bool Before(const Keyed& a, const Keyed& b, bool descending) {
+  const bool noneA = std::holds_alternative<std::monostate>(a.Key);
+  const bool noneB = std::holds_alternative<std::monostate>(b.Key);
+  if (noneA != noneB) {
+    return noneB;
+  }
+  if (a.Key != b.Key) {
+    return descending ? b.Key < a.Key : a.Key < b.Key;
+  }
+  return a.Row->Number < b.Row->Number;
+}
+
+}  // namespace
+
+void VariantList::Clear() {
+  *this = [this] {
+    VariantList empty;
+    empty.filter_ = filter_;
+    empty.text_ = text_;
+    empty.order_ = order_;
+    return empty;
+  }();
+}
+
+void VariantList::Take(StudyNews news) {
+  std::move(news.Rows.begin(), news.Rows.end(), std::back_inserter(held_));
+  best_ = std::move(news.Best);
+  byHeight_ = std::move(news.FrontByHeight);
+  byProgib_ = std::move(news.FrontByProgib);
+  Refresh();
+}
+
+const std::vector<VariantRow>& VariantList::Kept(VariantFilter filter) const {
+  return filter == VariantFilter::FrontByHeight   ? byHeight_
+         : filter == VariantFilter::FrontByProgib ? byProgib_
+                                                  : best_;
+}
+
+void VariantList::SetFilter(VariantFilter filter) {
+  filter_ = filter;
+  Refresh();
+}
+
+void VariantList::SetText(const std::string& text) {
+  text_ = Small(std::string(Trim(text)));
+  Refresh();
+}
+
+void VariantList::SetOrder(VariantOrder order) {
+  order_ = order;
+  Refresh();
+}
+
+std::optional<std::size_t> VariantList::PlaceOf(std::uint64_t number) const {
+  const auto found = std::find_if(shown_.begin(), shown_.end(), [number](const VariantRow* row) {
+    return row->Number == number;
+  });
+  return found == shown_.end() ? std::nullopt
+                               : std::optional(static_cast<std::size_t>(found - shown_.begin()));
+}
+
+const VariantRow* VariantList::Find(std::uint64_t number) const {
+  // They are held from the first one on, without a gap.
+  if (number < held_.size()) {
+    return &held_[number];
+  }
+  for (const std::vector<VariantRow>* kept : {&best_, &byHeight_, &byProgib_}) {
+    for (const VariantRow& row : *kept) {
+      if (row.Number == number) {
+        return &row;
+      }
+    }
+  }
+  return nullptr;
+}
+
+bool VariantList::Varies(std::size_t column) const {
+  return std::any_of(shown_.begin(), shown_.end(), [&](const VariantRow* row) {
+    return VariantCell(*row, column) != VariantCell(*shown_.front(), column);
+  });
+}
+
+void VariantList::Refresh() {
+  std::vector<Keyed> keyed;
+  const auto take = [&](const VariantRow& row) {
+    if ((filter_ != VariantFilter::Passing || row.Passes()) &&
+        (text_.empty() || HasText(row, text_))) {
+      keyed.push_back({VariantCell(row, order_.Column), &row});
+    }
+  };
+  if (filter_ == VariantFilter::All || filter_ == VariantFilter::Passing) {
+    std::for_each(held_.begin(), held_.end(), take);
+  } else {
+    const std::vector<VariantRow>& kept = Kept(filter_);
+    std::for_each(kept.begin(), kept.end(), take);
+  }
+  std::sort(keyed.begin(), keyed.end(),
+            [this](const Keyed& a, const Keyed& b) { return Before(a, b, order_.Descending); });
+  shown_.clear();
+  for (const Keyed& entry : keyed) {
+    shown_.push_back(entry.Row);
+  }
+}
+
+}  // namespace trelonit

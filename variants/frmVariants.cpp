@@ -1,0 +1,475 @@
+#include "variants/frmVariants.h"
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+
+#include "platform/errors/Guard.h"
+#include "variants/Axis.h"
+#include "variants/Refusal.h"
+#include "variants/VariantTable.h"
+#include "variants/VariantsProject.h"
+#include "workstation/live/GeometryFaults.h"
+#include "workstation/results/TableFile.h"
+
+namespace trelonit {
+
+namespace {
+
+constexpr const char* formSection = "Variants";
+constexpr std::size_t mostBest = 10'000;
+
+std::string WholeText(double whole, const NumberLocale& locale) {
+  return FormatShown(whole, 0, locale);
+}
+
+/// In the unit that is read at a glance.
+std::string DurationText(double seconds) {
+  constexpr double minute = 60;
+  constexpr double hour = 3600;
+  const auto whole = [](double value) {
+    return std::to_string(static_cast<std::uint64_t>(value + 0.5));
+  };
+  if (seconds < 1) {
+    return "меньше 1 с";
+  }
+  if (seconds < 2 * minute) {
+    return whole(seconds) + " с";
+  }
+  if (seconds < 2 * hour) {
+    return whole(seconds / minute) + " мин";
+  }
+  return whole(seconds / hour) + " ч";
+}
+
+}  // namespace
+
+frmVariants::frmVariants(const Services& services, frmMain& main)
+    : services_(services), main_(main) {
+  Form.SetCaption("Варианты");
+  lblBestFault.SetVisible(false);
+  for (const char* entry :
+       {"все", "только годные", "лучшие", "фронт: масса и высота", "фронт: масса и прогиб"}) {
+    cmbShow.AddItem(entry);
+  }
+  for (const char* entry : {"высоты", "прогиба"}) {
+    cmbPlot.AddItem(entry);
+  }
+  for (const char* entry : {"числу панелей", "схеме"}) {
+    cmbColour.AddItem(entry);
+  }
+  cmbShow.Select(0);
+  cmbPlot.Select(byHeight);
+  cmbColour.Select(byPanels);
+  txtBest.SetText("10");
+  ShowEntries();
+}
+
+frmVariants::~frmVariants() {
+  EndRun();
+}
+
+bool frmVariants::Form_Load() {
+  bool possible = false;
+  Guard(services_.Messages, "mnuVariants_Click", [&] {
+    if (DesignInputs base = BaseOfStudy(main_); !(base == base_)) {
+      base_ = std::move(base);
+      secondsOfOne_ = {};
+    }
+    if (const std::optional<Message> why = WhyNotCalculated(base_, services_.Locale)) {
+      services_.Messages.Show(*why);
+      return;
+    }
+    Axes.Changed = nullptr;
+    Axes.Begin(base_, Catalogue(), services_.Settings);
+    Restore();
+    Connect();
+    CountVariants();
+    ShowNotice();
+    ShowEntries();
+    possible = true;
+  });
+  return possible;
+}
+
+void frmVariants::Form_Unload() {
+  if (run_ != nullptr) {
+    run_->Stop();
+    run_->Join();
+    TakeNews();
+  }
+  Axes.Store(services_.Settings);
+  Store();
+}
+
+void frmVariants::Connect() {
+  Axes.Changed = [this] { CountVariants(); };
+  chkOpinion.Click = [this] { CountVariants(); };
+  txtBest.Change = [this] { CountVariants(); };
+  cmbShow.Click = [this] {
+    list_.SetFilter(static_cast<VariantFilter>(cmbShow.ListIndex()));
+    ShowShown();
+  };
+  txtFilter.Change = [this] {
+    list_.SetText(txtFilter.Text());
+    ShowShown();
+  };
+  const auto refresh = [this] {
+    if (Refreshed) {
+      Refreshed();
+    }
+  };
+  cmbPlot.Click = refresh;
+  cmbColour.Click = refresh;
+  chkAllColumns.Click = refresh;
+}
+
+void frmVariants::Restore() {
+  SettingsService& settings = services_.Settings;
+  const auto box = [&](CheckBox& check, const char* key) {
+    check.SetChecked(settings.Get(formSection, key, BooleanToText(check.Checked())) ==
+                     BooleanToText(true));
+  };
+  const auto list = [&](ComboBox& combo, const char* key) {
+    combo.SetText(settings.Get(formSection, key, combo.Text()));
+    if (combo.ListIndex() == ComboBox::noSelection) {
+      combo.Select(0);
+    }
+  };
+  box(chkOpinion, "Opinion");
+  box(chkAllColumns, "AllColumns");
+  txtBest.SetText(settings.Get(formSection, "Best", txtBest.Text()));
+  list(cmbShow, "Show");
+  list(cmbPlot, "Plot");
+  list(cmbColour, "Colour");
+  list_.SetFilter(static_cast<VariantFilter>(cmbShow.ListIndex()));
+}
+
+void frmVariants::Store() {
+  SettingsService& settings = services_.Settings;
+  settings.Set(formSection, "Opinion", BooleanToText(chkOpinion.Checked()));
+  settings.Set(formSection, "AllColumns", BooleanToText(chkAllColumns.Checked()));
+  settings.Set(formSection, "Best", txtBest.Text());
+  settings.Set(formSection, "Show", cmbShow.Text());
+  settings.Set(formSection, "Plot", cmbPlot.Text());
+  settings.Set(formSection, "Colour", cmbColour.Text());
+}
+
+std::optional<std::size_t> frmVariants::BestCount() {
+  std::string fault;
+  Long count = 0;
+  try {
+    count = ParseOneWhole(txtBest.Text());
+    if (count < 1 || count > static_cast<Long>(mostBest)) {
+      fault = "от 1 до 10 000";
+    }
+  } catch (const RuntimeError& error) {
+    fault = error.Description();
+  }
+  lblBestFault.SetCaption(fault);
+  lblBestFault.SetVisible(!fault.empty());
+  return fault.empty() ? std::optional(static_cast<std::size_t>(count)) : std::nullopt;
+}
+
+double frmVariants::SecondsOfOne(bool byOpinion) {
+  std::optional<double>& seconds = secondsOfOne_[byOpinion ? 1 : 0];
+  if (!seconds) {
+    const VariantSpace space(base_, {}, Catalogue());
+    const Clock::time_point begun = Clock::now();
+    MakeVariant(space, 0, {.ByOpinion = byOpinion}, Catalogue());
+    seconds = std::chrono::duration<double>(Clock::now() - begun).count();
+  }
+  return *seconds;
+}
+
+void frmVariants::CountVariants() {
+  const std::optional<VariantAxes> axes = Axes.Read();
+  const std::optional<std::size_t> best = BestCount();
+  toStart_.reset();
+  lblCount.SetForeColor(colorRed);
+  if (!axes || !best) {
+    lblCount.SetCaption("Есть ошибки: они названы под полями.");
+  } else {
+    try {
+      toStart_.emplace(base_, *axes, Catalogue());
+      const auto count = static_cast<double>(toStart_->Count());
+      std::string text = "Вариантов: " + WholeText(count, services_.Locale) + ", примерно " +
+                         DurationText(count * SecondsOfOne(chkOpinion.Checked()) / Jobs()) + ".";
+      if (count > static_cast<double>(mostHeld)) {
+        text += " В таблице и на графике - первые " +
+                WholeText(static_cast<double>(mostHeld), services_.Locale) +
+                ", лучшие и фронты - из всех.";
+      }
+      lblCount.SetCaption(text);
+      lblCount.SetForeColor(colorWindowText);
+    } catch (const RuntimeError& error) {
+      lblCount.SetCaption(error.Description() + ": уменьшите число значений.");
+    }
+  }
+  ShowEntries();
+}
+
+unsigned frmVariants::Jobs() {
+  return std::max(std::thread::hardware_concurrency(), 1U);
+}
+
+void frmVariants::EndRun() {
+  run_.reset();
+  ended_ = true;
+}
+
+void frmVariants::cmdStart_Click() {
+  Guard(services_.Messages, "cmdStart_Click", [&] {
+    CountVariants();
+    const std::optional<std::size_t> best = BestCount();
+    if (IsRunning() || !toStart_ || !best) {
+      return;
+    }
+    EndRun();
+    list_.Clear();
+    Choose(std::nullopt);
+    baseOfRun_ = base_;
+    byOpinionOfRun_ = chkOpinion.Checked();
+    done_ = 0;
+    seconds_ = 0;
+    ended_ = false;
+    begun_ = Clock::now();
+    run_ = std::make_unique<StudyRun>(
+        *toStart_, StudyPlan{.Rules = {.ByOpinion = byOpinionOfRun_}, .Jobs = Jobs()}, Catalogue(),
+        StudyRun::Limits{.Held = mostHeld, .Best = *best}, [this] {
+          if (Moved) {
+            Moved();
+          }
+        });
+    lblProgress.SetCaption("Расчет начат.");
+    ShowNotice();
+    ShowEntries();
+    ShowShown();
+  });
+}
+
+void frmVariants::cmdCancel_Click() {
+  if (IsRunning()) {
+    run_->Stop();
+  }
+}
+
+void frmVariants::TakeNews() {
+  if (run_ == nullptr) {
+    return;
+  }
+  Guard(services_.Messages, "cmdStart_Click", [&] {
+    StudyNews news = run_->TakeNews();
+    if (ended_) {
+      return;
+    }
+    ended_ = news.Ended;
+    done_ = news.Done;
+    seconds_ = std::chrono::duration<double>(Clock::now() - begun_).count();
+    if (ended_ && done_ > 0) {
+      secondsOfOne_[byOpinionOfRun_ ? 1 : 0] = seconds_ * Jobs() / static_cast<double>(done_);
+    }
+    Tell(news);
+    const std::exception_ptr failure = news.Failure;
+    list_.Take(std::move(news));
+    ShowEntries();
+    ShowShown();
+    if (ended_ && failure) {
+      std::rethrow_exception(failure);
+    }
+  });
+}
+
+void frmVariants::Tell(const StudyNews& news) {
+  const auto whole = [this](std::uint64_t number) {
+    return WholeText(static_cast<double>(number), services_.Locale);
+  };
+  const std::uint64_t count = run_->Space().Count();
+  if (!ended_) {
+    const double left = seconds_ / static_cast<double>(std::max<std::uint64_t>(done_, 1)) *
+                        static_cast<double>(count - done_);
+    lblProgress.SetCaption(whole(done_) + " из " + whole(count) + ", осталось " +
+                           DurationText(left));
+    return;
+  }
+  const std::string begin = done_ < count
+                                ? "Прервано: посчитано " + whole(done_) + " из " + whole(count)
+                                : "Посчитано " + whole(done_);
+  lblProgress.SetCaption(begin + ": годится " + whole(news.Passing) + ", не годится " +
+                         whole(done_ - news.Passing - news.Impossible) + ", невозможно " +
+                         whole(news.Impossible) + "; время " + DurationText(seconds_) + ".");
+}
+
+double frmVariants::Share() const {
+  return run_ == nullptr
+             ? 0
+             : static_cast<double>(done_) /
+                   static_cast<double>(std::max<std::uint64_t>(run_->Space().Count(), 1));
+}
+
+void frmVariants::ShowEntries() {
+  const bool running = IsRunning();
+  const VariantRow* row = chosen_ ? list_.Find(*chosen_) : nullptr;
+  cmdStart.SetEnabled(!running && toStart_.has_value());
+  cmdCancel.SetEnabled(running);
+  cmdApply.SetEnabled(row != nullptr && row->IsPossible());
+  mnuSaveCsv.SetEnabled(!running && !list_.Shown().empty());
+  mnuSavePlot.SetEnabled(!running && !list_.Held().empty());
+}
+
+void frmVariants::ShowNotice() {
+  std::string text;
+  if (main_.lblOwnWeightTwice.Visible()) {
+    text = main_.lblOwnWeightTwice.Caption();
+  } else if (run_ != nullptr && ended_ && !(baseOfRun_ == base_)) {
+    text =
+        "Таблица посчитана раньше, для другого состояния проекта: «Применить» заменит проект "
+        "выбранным вариантом целиком.";
+  }
+  lblNotice.SetCaption(text);
+  lblNotice.SetVisible(!text.empty());
+}
+
+void frmVariants::ShowShown() {
+  const auto whole = [this](std::size_t number) {
+    return WholeText(static_cast<double>(number), services_.Locale);
+  };
+  const std::size_t shown = list_.Shown().size();
+  lblShown.SetCaption("Показано " + whole(shown) + " из " + whole(list_.Held().size()));
+  if (Refreshed) {
+    Refreshed();
+  }
+}
+
+void frmVariants::Sort(VariantOrder order) {
+  list_.SetOrder(order);
+  ShowShown();
+}
+
+void frmVariants::Choose(std::optional<std::uint64_t> number) {
+  chosen_ = number;
+  const VariantRow* row = number ? list_.Find(*number) : nullptr;
+  lblChosen.SetCaption(row == nullptr ? std::string() : Describe(*row));
+  ShowEntries();
+  if (ChosenChanged) {
+    ChosenChanged();
+  }
+}
+
+void frmVariants::cmdApply_Click() {
+  Guard(services_.Messages, "cmdApply_Click", [&] {
+    if (run_ == nullptr || !cmdApply.Enabled()) {
+      return;
+    }
+    // The table holds no loads.
+    const Variant variant = run_->Make(*chosen_);
+    if (variant.Verdict == VariantVerdict::Impossible) {
+      Refuse(variant.Reason);
+    }
+    ShowAsProject(main_, variant.Inputs);
+    if (Unload) {
+      Unload();
+    }
+  });
+}
+
+std::string frmVariants::Describe(const VariantRow& row) const {
+  const auto shown = [this](double value, int decimals) {
+    return FormatShown(value, decimals, services_.Locale);
+  };
+  const auto length = [this](double value) { return LengthText(value, services_.Locale) + " м"; };
+  std::string text = "Вариант " + shown(static_cast<double>(row.Number + 1), 0) + ": схема " +
+                     std::to_string(row.Scheme) + ", пролет " + length(row.Span) + ", высота " +
+                     length(row.Height) + ", панелей " + std::to_string(row.Panels);
+  if (row.IsPossible()) {
+    text += "\nМасса " + shown(row.Mass, 3) + " т, прогиб " + shown(row.Progib, 5) + " м";
+    if (row.Progib > 0) {
+      text += " (1 / " + shown(row.Span / row.Progib, 0) + " пролета)";
+    }
+  }
+  text += "\n" + std::string(VerdictName(row.Verdict));
+  return row.Reason->empty() ? text : text + ": " + *row.Reason;
+}
+
+PlotPoint frmVariants::PointOfRow(const VariantRow& row) const {
+  return {.Across = cmbPlot.ListIndex() == byProgib ? row.Progib : row.Height,
+          .Mass = row.Mass,
+          .Kind = cmbColour.ListIndex() == byScheme ? row.Scheme : row.Panels,
+          .Number = row.Number};
+}
+
+std::vector<PlotPoint> frmVariants::Points() const {
+  std::vector<PlotPoint> points;
+  for (const VariantRow& row : list_.Held()) {
+    if (row.Passes()) {
+      points.push_back(PointOfRow(row));
+    }
+  }
+  return points;
+}
+
+std::vector<PlotPoint> frmVariants::Front() const {
+  std::vector<PlotPoint> points;
+  for (const VariantRow& row :
+       list_.Kept(cmbPlot.ListIndex() == byProgib ? VariantFilter::FrontByProgib
+                                                  : VariantFilter::FrontByHeight)) {
+    points.push_back(PointOfRow(row));
+  }
+  return points;
+}
+
+PlotLabels frmVariants::Labels() const {
+  return {.Across = cmbPlot.ListIndex() == byProgib ? "Прогиб, м" : "Высота, м",
+          .Kind = cmbColour.ListIndex() == byScheme ? "Схема" : "Число панелей"};
+}
+
+std::string frmVariants::CsvOfShown() const {
+  // In pieces: a table of all cells would take several times the memory of its text.
+  constexpr std::size_t piece = 1000;
+  const std::vector<const VariantRow*>& shown = list_.Shown();
+  std::string text;
+  for (std::size_t first = 0; first < shown.size() || first == 0; first += piece) {
+    const std::size_t last = std::min(first + piece, shown.size());
+    const std::string rows =
+        CommaSeparated(TableOf({shown.begin() + static_cast<std::ptrdiff_t>(first),
+                                shown.begin() + static_cast<std::ptrdiff_t>(last)}),
+                       services_.Locale);
+    // Each piece comes with its heads; none of them has a line end.
+    text += first == 0 ? rows : rows.substr(rows.find("\r\n") + 2);
+  }
+  return text;
+}
+
+ResultTable frmVariants::TableOf(const std::vector<const VariantRow*>& rows) {
+  ResultTable table{.Title = "Варианты", .Columns = VariantTableColumns(), .Rows = {}};
+  for (const VariantRow* row : rows) {
+    TableRow cells;
+    for (std::size_t column = 0; column < table.Columns.size(); ++column) {
+      cells.push_back(VariantCell(*row, column));
+    }
+    table.Rows.push_back(std::move(cells));
+  }
+  return table;
+}
+
+void frmVariants::mnuSaveCsv_Click() {
+  Guard(services_.Messages, "mnuSaveCsv_Click", [&] {
+    SaveUnderName({"Сохранить таблицу", "csv", "Таблица CSV"}, services_,
+                  [this] { return CsvOfShown(); });
+  });
+}
+
+void frmVariants::mnuSaveSvg_Click() {
+  Guard(services_.Messages, "mnuSaveSvg_Click", [&] {
+    SaveUnderName({"Сохранить график", "svg", "Рисунок SVG"}, services_,
+                  [this] { return PlotAsSvg(Points(), Front(), Labels()); });
+  });
+}
+
+void frmVariants::mnuSavePng_Click(const std::function<std::string()>& bytes) {
+  Guard(services_.Messages, "mnuSavePng_Click", [&] {
+    SaveUnderName({"Сохранить график", "png", "Рисунок PNG"}, services_, bytes);
+  });
+}
+
+}  // namespace trelonit
