@@ -15,7 +15,7 @@ PICTURES = ROOT / "pictures"
 VOID = {"area", "base", "br", "col", "hr", "img", "input", "link", "meta", "wbr"}
 # The places of the program where F1 opens a page.
 PLACES = {"tab0", "tab1", "tab2", "results", "search", "steel", "parameters", "manager", "about",
-          "otchet", "find", "date", "assoc", "drawing", "opinion", "live"}
+          "otchet", "find", "date", "assoc", "drawing", "opinion", "live", "variants"}
 # The findings of the second opinion, from which buttons open a page.
 PLACES |= {"finding-" + code for code in (
     "check-differs", "bracing-length", "not-balanced", "load-differs", "own-weight-twice",

@@ -33,8 +33,7 @@ enum GroupFigure : std::size_t {
 };
 
 enum VariantColumn : std::size_t {
-  numberColumn,
-  schemeColumn,
+  schemeColumn = numberColumn + 1,
   spanColumn,
   heightColumn,
   endPanelColumn,
@@ -118,6 +117,26 @@ TableCell GroupCell(const VariantRow& row, const VariantRow::Group& group, std::
 const std::vector<TableColumn>& VariantTableColumns() {
   static const std::vector<TableColumn> columns = MakeColumns();
   return columns;
+}
+
+std::vector<std::size_t> VariantMainColumns() {
+  return {verdictColumn, massColumn, progibColumn, relativeProgibColumn};
+}
+
+bool IsVariantColumnAside(std::size_t column) {
+  if (column < firstGroupColumn) {
+    return column != numberColumn && column != heightColumn && column != panelsColumn;
+  }
+  if (column >= massColumn) {
+    return column == roundsColumn || column == reasonColumn;
+  }
+  const std::size_t figure = (column - firstGroupColumn) % groupFigures;
+  return figure != profileFigure && figure != useFigure;
+}
+
+bool IsVariantGapColumn(std::size_t column) {
+  return column >= firstGroupColumn && column < massColumn &&
+         (column - firstGroupColumn) % groupFigures == gapFigure;
 }
 
 std::vector<std::string> VariantColumns() {

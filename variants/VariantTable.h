@@ -22,6 +22,15 @@ std::vector<std::string> VariantFields(const Variant& variant);
 /// The same columns for people: short heads and decimals.
 const std::vector<TableColumn>& VariantTableColumns();
 
+/// Places in it.
+constexpr std::size_t numberColumn = 0;
+/// What says most of a variant: verdict, mass, deflections.
+std::vector<std::size_t> VariantMainColumns();
+/// What is left away where all rows have it alike: sizes, layouts, standards, gaps.
+bool IsVariantColumnAside(std::size_t column);
+/// Gaps follow the sizes: they differ where nobody asked for it.
+bool IsVariantGapColumn(std::size_t column);
+
 /// A cell of such a table; nothing for a figure of one that is impossible.
 TableCell VariantCell(const VariantRow& row, std::size_t column);
 

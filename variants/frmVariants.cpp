@@ -18,6 +18,8 @@ namespace {
 
 constexpr const char* formSection = "Variants";
 constexpr std::size_t mostBest = 10'000;
+constexpr const char* nothingChosen =
+    "Выберите строку таблицы или точку графика: здесь будет сказано, что это за ферма.";
 
 std::string WholeText(double whole, const NumberLocale& locale) {
   return FormatShown(whole, 0, locale);
@@ -62,6 +64,7 @@ frmVariants::frmVariants(const Services& services, frmMain& main)
   cmbPlot.Select(byHeight);
   cmbColour.Select(byPanels);
   txtBest.SetText("10");
+  lblChosen.SetCaption(nothingChosen);
   ShowEntries();
 }
 
@@ -92,12 +95,16 @@ bool frmVariants::Form_Load() {
   return possible;
 }
 
-void frmVariants::Form_Unload() {
+void frmVariants::EndStudy() {
   if (run_ != nullptr) {
     run_->Stop();
     run_->Join();
     TakeNews();
   }
+}
+
+void frmVariants::Form_Unload() {
+  EndStudy();
   Axes.Store(services_.Settings);
   Store();
 }
@@ -349,7 +356,7 @@ void frmVariants::Sort(VariantOrder order) {
 void frmVariants::Choose(std::optional<std::uint64_t> number) {
   chosen_ = number;
   const VariantRow* row = number ? list_.Find(*number) : nullptr;
-  lblChosen.SetCaption(row == nullptr ? std::string() : Describe(*row));
+  lblChosen.SetCaption(row == nullptr ? nothingChosen : Describe(*row));
   ShowEntries();
   if (ChosenChanged) {
     ChosenChanged();

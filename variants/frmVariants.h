@@ -39,8 +39,10 @@ class frmVariants {
   /// Takes the project as it stands. False, with the message of a calculation, where it cannot be
   /// calculated.
   bool Form_Load();
-  /// Ends a study that runs, and waits for it; what is computed stays. Keeps what was entered.
+  /// Ends a study that runs, and keeps what was entered.
   void Form_Unload();
+  /// Ends a study that runs, and waits for its threads; what is computed stays.
+  void EndStudy();
 
   void cmdStart_Click();
   /// What is computed by then stays.
@@ -65,6 +67,7 @@ class frmVariants {
   std::string Describe(const VariantRow& row) const;
   /// These rows with all columns.
   static ResultTable TableOf(const std::vector<const VariantRow*>& rows);
+  SettingsService& Settings() { return services_.Settings; }
   const NumberLocale& Locale() const { return services_.Locale; }
   const ProfileTypeArray& Catalogue() const { return main_.Model.ProfileTypes; }
   bool IsRunning() const { return run_ != nullptr && !ended_; }

@@ -16,6 +16,7 @@
 #include "windows/main/DocumentDesk.h"
 #include "windows/office/OfficeWorkFolder.h"
 #include "windows/results/KoeffOfUseWindow.h"
+#include "windows/variants/VariantsWindow.h"
 #include "workstation/results/XlsxTable.h"
 
 namespace trelonit {
@@ -36,6 +37,7 @@ Program::Windows DesktopSession::MakeWindows() {
       .ShowParamerty = Modal<ParamertyWindow, frmParamerty>(help_place::Parameters),
       .ShowDataManager = Modal<DataManagerWindow, frmDataManager>(help_place::Manager),
       .ShowOtchet = [this](frmOtchetMain& form) { ShowOtchet(form); },
+      .ShowVariants = Modal<VariantsWindow, frmVariants>(help_place::Variants),
       .ShowFind = [this](frmFind& form) { otchet_->ShowFind(form); },
       .ShowDate = ModalOverDocument<DateWindow, frmDate>(help_place::Date),
       .ShowAssoc = ModalOverDocument<AssocWindow, frmAssoc>(help_place::Assoc),

@@ -290,7 +290,7 @@ TEST_F(VariantsForm, AppliedVariantsAreCalculatedToTheirFigures) {
       desk.Main.chkOwnWeight.SetChecked(ownWeight);
       desk.Main.chkProgib.SetChecked(true);
       for (double& load : desk.Main.Model.Inputs.Loads.UpDistForce) {
-        load = 1.2;
+        load = 0.6;
       }
       // It puts own weight into the loads, which is no load of the user's.
       desk.Main.tabMain.SetTab(2);
@@ -298,10 +298,14 @@ TEST_F(VariantsForm, AppliedVariantsAreCalculatedToTheirFigures) {
       OpenSmall();
       Tick(AxisName::Upper, true);
       Write(AxisName::Upper, "1/1,2/1,11/14");
+      // Single angles are too slender for a lower chord that is held at its ends alone.
+      Write(AxisName::Lower, "11/14");
+      Write(AxisName::Diagonals, "2/2");
+      Write(AxisName::SupportDiagonals, "2/2");
       form.chkOpinion.SetChecked(false);
       RunToTheEnd();
       int applied = 0;
-      for (const std::uint64_t number : {0U, 7U, 17U}) {
+      for (std::uint64_t number = 0; number < 18; ++number) {
         const VariantRow row = *form.List().Find(number);
         if (!row.IsPossible() || row.Reason->find("чередуются") != std::string::npos) {
           continue;
@@ -327,7 +331,7 @@ TEST_F(VariantsForm, AppliedVariantsAreCalculatedToTheirFigures) {
           }
         }
       }
-      EXPECT_GT(applied, 0) << scheme;
+      EXPECT_GT(applied, 5) << scheme;
     }
   }
 }

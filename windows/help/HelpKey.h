@@ -31,10 +31,11 @@ inline constexpr const char* Assoc = "assoc";
 inline constexpr const char* Drawing = "drawing";
 inline constexpr const char* Opinion = "opinion";
 inline constexpr const char* LiveStrip = "live";
+inline constexpr const char* Variants = "variants";
 
-inline constexpr std::array All{Scheme,     Sections, Loads,   Results,  Search, Steel,
-                                Parameters, Manager,  About,   Otchet,   Find,   Date,
-                                Assoc,      Drawing,  Opinion, LiveStrip};
+inline constexpr std::array All{Scheme,     Sections, Loads,   Results,   Search,  Steel,
+                                Parameters, Manager,  About,   Otchet,    Find,    Date,
+                                Assoc,      Drawing,  Opinion, LiveStrip, Variants};
 }  // namespace help_place
 
 /// The place of a finding: "finding-check-differs", ...

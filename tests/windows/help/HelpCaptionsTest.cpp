@@ -13,6 +13,7 @@
 #include "tests/windows/editor/OtchetScreen.h"
 #include "tests/windows/main/Screen.h"
 #include "tests/windows/results/ResultsScreen.h"
+#include "tests/windows/variants/VariantsScreen.h"
 #include "windows/dialogs/AboutWindow.h"
 #include "windows/dialogs/SearchWindow.h"
 #include "windows/drawing/DrawingWindow.h"
@@ -159,6 +160,22 @@ TEST(HelpTellsTheCaptions, OfTheSelection) {
   for (Long option = 1; option <= groupCount; ++option) {
     ExpectTold(form.lblName[option - 1].Caption());
   }
+}
+
+TEST(HelpTellsTheCaptions, OfTheVariants) {
+  VariantsScreen screen;
+  ExpectTold(Plain(screen.Program.Window->findChild<QAction*>("mnuVariants")->text()));
+  screen.Open([&] {
+    ExpectTold(Plain(screen.Window->windowTitle()));
+    ExpectCaptionsTold(*screen.Window, 30);
+    for (const ComboBox* box :
+         {&screen.Form->cmbShow, &screen.Form->cmbPlot, &screen.Form->cmbColour}) {
+      for (const std::string& entry : box->List()) {
+        ExpectTold(entry);
+      }
+    }
+  });
+  EXPECT_EQ(screen.Opened, 1);
 }
 
 TEST(HelpTellsTheCaptions, OfTheParameters) {
