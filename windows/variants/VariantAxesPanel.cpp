@@ -85,7 +85,7 @@ void VariantAxesPanel::AddAxis(QGridLayout* rows, AxisName name) {
   Bind(axis.Values, edit);
   // A long text that nobody is typing shows its beginning.
   const auto toBegin = [edit] {
-    if (!edit->hasFocus()) {
+    if (!edit->isModified()) {
       edit->setCursorPosition(0);
     }
   };
