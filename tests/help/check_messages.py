@@ -10,7 +10,7 @@ import re
 import sys
 from pathlib import Path
 
-FOLDERS = ["opinion", "workstation", "checks", "catalogue", "editor", "drawing", "windows", "apps", "platform"]
+FOLDERS = ["opinion", "workstation", "variants", "checks", "catalogue", "editor", "drawing", "windows", "apps", "platform"]
 LITERALS = re.compile(r'(?:"(?:[^"\\]|\\.)*"\s*)+')
 # A message's record, the boxes of the windows, the common tail with the handler's name.
 PLACES = [re.compile(r"\.(?:Text|Title)\s*="), re.compile(r"QMessageBox::\w+\("),

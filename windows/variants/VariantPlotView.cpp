@@ -97,7 +97,7 @@ class VariantPlotView::Painting {
       painter.setPen(grid);
       painter.drawLine(QPointF(x, Y(0)), QPointF(x, Y(1)));
       painter.setPen(words);
-      painter.drawText(QRectF(x - wide / 2, Y(0) + 3, wide, high), Qt::AlignHCenter | Qt::AlignTop,
+      painter.drawText(QRectF(x - wide / 2, Y(0) + 6, wide, high), Qt::AlignHCenter | Qt::AlignTop,
                        NumberOf(across, step));
     }
     const PlotAxis& up = view_.up_;

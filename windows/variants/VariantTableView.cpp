@@ -182,6 +182,10 @@ void VariantTableView::currentChanged(const QModelIndex& current, const QModelIn
   if (!following_ && current.isValid()) {
     following_ = true;
     form_.Choose(model_->RowAt(current.row()).Number);
+    // The focus alone makes a row the current one without choosing it.
+    if (!selectionModel()->isRowSelected(current.row())) {
+      selectRow(current.row());
+    }
     following_ = false;
   }
 }

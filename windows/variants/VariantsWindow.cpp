@@ -14,6 +14,7 @@
 #include "windows/binding/Binding.h"
 #include "windows/binding/ClearButton.h"
 #include "windows/binding/Layouts.h"
+#include "windows/binding/Pictures.h"
 #include "windows/main/NoticeViews.h"
 #include "windows/variants/VariantAxesPanel.h"
 #include "windows/variants/VariantPlotView.h"
@@ -198,6 +199,10 @@ QWidget* VariantsWindow::NewTable() {
   auto* filter = new QLineEdit;
   filter->setObjectName(QStringLiteral("txtFilter"));
   filter->setPlaceholderText(QStringLiteral("профиль, сталь, причина"));
+  // Dark themes without a colour for it leave it black.
+  QPalette palette = filter->palette();
+  palette.setColor(QPalette::PlaceholderText, AsideColor(palette));
+  filter->setPalette(palette);
   AddClearButton(*filter);
   Bind(form_.txtFilter, filter);
   row->addWidget(LabelFor(filter, QStringLiteral("&Текст")));
