@@ -116,7 +116,8 @@ class frmVariants {
   void Store();
   void CountVariants();
   std::optional<std::size_t> BestCount();
-  double SecondsOfOne(bool byOpinion);
+  /// Measured once for a project, then by every study.
+  double SecondsOfOne(const VariantSpace& space, bool byOpinion);
   void EndRun();
   void Tell(const StudyNews& news);
   void ShowEntries();
