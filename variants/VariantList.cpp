@@ -1,8 +1,8 @@
 #include "variants/VariantList.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/text/Text.h"
@@ -25,15 +25,33 @@ std::u32string Small(const std::string& text) {
   return letters;
 }
 
-bool HasText(const VariantRow& row, const std::u32string& text) {
-  const auto has = [&text](const std::string& cell) {
-    return Small(cell).find(text) != std::u32string::npos;
-  };
-  return has(*row.Steel) || has(*row.Reason) || has(std::string(VerdictName(row.Verdict))) ||
-         (row.IsPossible() &&
-          std::any_of(row.Groups.begin(), row.Groups.end(),
-                      [&](const VariantRow::Group& group) { return has(*group.Profile); }));
-}
+/// Rows one of whose texts has a part. Many rows share their texts: each is looked at once.
+class TextFilter {
+ public:
+  explicit TextFilter(std::u32string part) : part_(std::move(part)) {}
+
+  bool Takes(const VariantRow& row) {
+    return part_.empty() || Has(row.Steel) || Has(row.Reason) || HasVerdict(row.Verdict) ||
+           (row.IsPossible() &&
+            std::any_of(row.Groups.begin(), row.Groups.end(),
+                        [this](const VariantRow::Group& group) { return Has(group.Profile); }));
+  }
+
+ private:
+  bool Has(const SharedText& text) {
+    const auto [place, added] = known_.try_emplace(text.get(), false);
+    if (added) {
+      place->second = Small(*text).find(part_) != std::u32string::npos;
+    }
+    return place->second;
+  }
+  bool HasVerdict(VariantVerdict verdict) const {
+    return Small(std::string(VerdictName(verdict))).find(part_) != std::u32string::npos;
+  }
+
+  std::u32string part_;
+  std::unordered_map<const std::string*, bool> known_;
+};
 
 /// A row with what it is sorted by.
 struct Keyed {
@@ -131,9 +149,9 @@ bool VariantList::Varies(std::size_t column) const {
 
 void VariantList::Refresh() {
   std::vector<Keyed> keyed;
+  TextFilter filter(text_);
   const auto take = [&](const VariantRow& row) {
-    if ((filter_ != VariantFilter::Passing || row.Passes()) &&
-        (text_.empty() || HasText(row, text_))) {
+    if ((filter_ != VariantFilter::Passing || row.Passes()) && filter.Takes(row)) {
       keyed.push_back({VariantCell(row, order_.Column), &row});
     }
   };

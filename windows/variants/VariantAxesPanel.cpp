@@ -18,7 +18,7 @@ namespace trelonit {
 
 namespace {
 
-QLabel* NewFault(Label& state) {
+QLabel* NewFault() {
   auto* label = new QLabel;
   // It quotes what was typed.
   label->setTextFormat(Qt::PlainText);
@@ -26,20 +26,18 @@ QLabel* NewFault(Label& state) {
   QPalette palette = label->palette();
   palette.setColor(QPalette::WindowText, WarningColor(palette));
   label->setPalette(palette);
-  Bind(state, label);
   return label;
 }
 
 /// Who hears the screen hears what is wrong where it stands.
 void DescribeFault(QLineEdit* edit, QLabel* fault, const QString& hint, Label& state) {
-  SetHint(edit, hint);
-  const auto show = [edit, fault, hint, &state] {
+  edit->setToolTip(hint);
+  Follow(state, fault, [edit, fault, hint, &state] {
     fault->setText(ToQt(state.Caption()));
     ShowCommon(state, fault);
     edit->setAccessibleDescription(
         fault->text().isEmpty() ? hint : fault->text() + QLatin1Char('\n') + hint);
-  };
-  Follow(state, fault, show);
+  });
 }
 
 }  // namespace
@@ -91,7 +89,7 @@ void VariantAxesPanel::AddAxis(QGridLayout* rows, AxisName name) {
   };
   QObject::connect(edit, &QLineEdit::textChanged, edit, toBegin);
   toBegin();
-  auto* fault = NewFault(axis.Fault);
+  auto* fault = NewFault();
   fault->setObjectName(QStringLiteral("lblFault") + QLatin1String(axis.Key));
   DescribeFault(edit, fault, QString::fromUtf8(axis.Hint), axis.Fault);
   rows->addWidget(on, row, 0);
@@ -178,7 +176,7 @@ void VariantAxesPanel::AddChoice(QBoxLayout* column) {
   rows->addWidget(LabelFor(best, QStringLiteral("Л&учших, не больше")), 1, 0);
   rows->addWidget(best, 1, 1);
   Bind(form_.txtBest, best);
-  auto* fault = NewFault(form_.lblBestFault);
+  auto* fault = NewFault();
   fault->setObjectName(QStringLiteral("lblFaultBest"));
   DescribeFault(best, fault, QStringLiteral("Столько самых легких вариантов помнить"),
                 form_.lblBestFault);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "variants/VariantTable.h"
@@ -125,7 +126,34 @@ void VariantTableView::Refresh() {
       fitted_ = true;
     }
   }
-  ShowChosen();
+  // While rows come in the user reads where he reads.
+  setAutoScroll(false);
+  GoToChosen();
+  setAutoScroll(true);
+}
+
+void VariantTableView::ShowChosen() {
+  if (following_ || !GoToChosen()) {
+    return;
+  }
+  const int across = horizontalScrollBar()->value();
+  scrollTo(currentIndex());
+  horizontalScrollBar()->setValue(across);
+}
+
+bool VariantTableView::GoToChosen() {
+  following_ = true;
+  const std::optional<std::uint64_t> chosen = form_.Chosen();
+  const std::optional<std::size_t> row =
+      chosen ? form_.List().PlaceOf(*chosen) : std::optional<std::size_t>();
+  if (!row) {
+    setCurrentIndex({});
+    clearSelection();
+  } else if (currentIndex().row() != static_cast<int>(*row)) {
+    setCurrentIndex(model_->index(static_cast<int>(*row), static_cast<int>(numberColumn)));
+  }
+  following_ = false;
+  return row.has_value();
 }
 
 void VariantTableView::ShowColumns() {
@@ -157,24 +185,6 @@ void VariantTableView::FitColumns() {
     const int mark = column == static_cast<int>(numberColumn) ? 2 * space : 0;
     setColumnWidth(column, std::min(widest, widestText) + space + mark);
   }
-}
-
-void VariantTableView::ShowChosen() {
-  if (following_) {
-    return;
-  }
-  following_ = true;
-  const std::optional<std::uint64_t> chosen = form_.Chosen();
-  const std::optional<std::size_t> row =
-      chosen ? form_.List().PlaceOf(*chosen) : std::optional<std::size_t>();
-  if (!row) {
-    setCurrentIndex({});
-    clearSelection();
-  } else if (currentIndex().row() != static_cast<int>(*row)) {
-    setCurrentIndex(model_->index(static_cast<int>(*row), static_cast<int>(numberColumn)));
-    scrollTo(currentIndex());
-  }
-  following_ = false;
 }
 
 void VariantTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -24,6 +24,8 @@ class VariantTableView : public QTableView {
   class Model;
 
   void ShowColumns();
+  /// Whether it is shown.
+  bool GoToChosen();
   void FitColumns();
   void Copy() const;
 
