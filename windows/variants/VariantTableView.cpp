@@ -116,16 +116,12 @@ void VariantTableView::Refresh() {
   following_ = true;
   model_->Renew();
   following_ = false;
-  const bool empty = form_.List().Shown().empty();
-  if (empty) {
-    fitted_ = false;
-  } else {
-    ShowColumns();
-    if (!fitted_ || !form_.IsRunning()) {
-      FitColumns();
-      fitted_ = true;
-    }
+  ShowColumns();
+  // Widths that the first rows ask for last until the study is through.
+  if (!fitted_ || !form_.IsRunning()) {
+    FitColumns();
   }
+  fitted_ = !form_.List().Shown().empty();
   // While rows come in the user reads where he reads.
   setAutoScroll(false);
   GoToChosen();

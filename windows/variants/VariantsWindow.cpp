@@ -199,10 +199,11 @@ QWidget* VariantsWindow::NewTable() {
   auto* filter = new QLineEdit;
   filter->setObjectName(QStringLiteral("txtFilter"));
   filter->setPlaceholderText(QStringLiteral("профиль, сталь, причина"));
-  // Dark themes without a colour for it leave it black.
-  QPalette palette = filter->palette();
+  // Dark themes without a colour for it leave it black. The box itself gets its palette anew with
+  // every text.
+  QPalette palette = body->palette();
   palette.setColor(QPalette::PlaceholderText, AsideColor(palette));
-  filter->setPalette(palette);
+  body->setPalette(palette);
   AddClearButton(*filter);
   Bind(form_.txtFilter, filter);
   row->addWidget(LabelFor(filter, QStringLiteral("&Текст")));
