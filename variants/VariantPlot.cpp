@@ -13,10 +13,10 @@ namespace {
 
 constexpr double plotWidth = 900;
 constexpr double plotHeight = 560;
-constexpr double left = 80;
-constexpr double right = 150;
-constexpr double top = 40;
-constexpr double bottom = 60;
+constexpr double leftMargin = 80;
+constexpr double rightMargin = 150;
+constexpr double topMargin = 40;
+constexpr double bottomMargin = 60;
 
 std::string Format(const char* format, double value) {
   std::array<char, 64> text{};
@@ -76,9 +76,11 @@ class Plot {
     }
     return greatest;
   }
-  static double XOf(double share) { return left + share * (plotWidth - left - right); }
+  static double XOf(double share) {
+    return leftMargin + share * (plotWidth - leftMargin - rightMargin);
+  }
   static double YOf(double share) {
-    return plotHeight - bottom - share * (plotHeight - top - bottom);
+    return plotHeight - bottomMargin - share * (plotHeight - topMargin - bottomMargin);
   }
   double X(const PlotPoint& point) const { return XOf(across_.Share(point.Across)); }
   double Y(const PlotPoint& point) const { return YOf(up_.Share(point.Mass)); }
@@ -97,15 +99,16 @@ class Plot {
     for (int step = 0; step <= across_.Steps; ++step) {
       const double x = XOf(static_cast<double>(step) / across_.Steps);
       svg += SvgLine(x, YOf(0), x, YOf(1), grey);
-      svg += SvgText(x, plotHeight - bottom + 18, "middle", number(across_, step));
+      svg += SvgText(x, plotHeight - bottomMargin + 18, "middle", number(across_, step));
     }
     for (int step = 0; step <= up_.Steps; ++step) {
       const double y = YOf(static_cast<double>(step) / up_.Steps);
       svg += SvgLine(XOf(0), y, XOf(1), y, grey);
-      svg += SvgText(left - 8, y + 4, "end", number(up_, step));
+      svg += SvgText(leftMargin - 8, y + 4, "end", number(up_, step));
     }
-    svg += SvgText((left + plotWidth - right) / 2, plotHeight - 16, "middle", labels_.Across);
-    svg += SvgText(left - 8, top - 16, "end", "Масса, т");
+    svg += SvgText((leftMargin + plotWidth - rightMargin) / 2, plotHeight - 16, "middle",
+                   labels_.Across);
+    svg += SvgText(leftMargin - 8, topMargin - 16, "end", "Масса, т");
     return svg;
   }
 
@@ -120,8 +123,8 @@ class Plot {
 
   std::string Legend() const {
     constexpr double spacing = 20;
-    const double x = plotWidth - right + 20;
-    double y = top + 10;
+    const double x = plotWidth - rightMargin + 20;
+    double y = topMargin + 10;
     std::string svg = SvgText(x - 6, y, "start", labels_.Kind);
     for (const Long kind : kinds_) {
       y += spacing;
