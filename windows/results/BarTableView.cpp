@@ -7,6 +7,7 @@
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Pictures.h"
+#include "windows/results/ColumnHead.h"
 #include "windows/results/CopyAction.h"
 
 namespace trelonit {
@@ -58,19 +59,7 @@ class BarTableView::Model : public QAbstractTableModel {
   }
 
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-    if (orientation != Qt::Horizontal) {
-      return {};
-    }
-    switch (role) {
-      case Qt::DisplayRole:
-        return ToQt(Column(section).Head());
-      case Qt::ToolTipRole:
-        return ToQt(Column(section).Hint.empty() ? Column(section).Caption : Column(section).Hint);
-      case Qt::AccessibleTextRole:
-        return ToQt(Column(section).Caption);
-      default:
-        return {};
-    }
+    return orientation == Qt::Horizontal ? ColumnHead(Column(section), role) : QVariant();
   }
 
  private:

@@ -10,6 +10,7 @@
 #include "variants/VariantTable.h"
 #include "windows/binding/Binding.h"
 #include "windows/binding/Pictures.h"
+#include "windows/results/ColumnHead.h"
 #include "windows/results/CopyAction.h"
 
 namespace trelonit {
@@ -46,18 +47,7 @@ class VariantTableView::Model : public QAbstractTableModel {
   }
 
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-    if (orientation != Qt::Horizontal) {
-      return {};
-    }
-    switch (role) {
-      case Qt::DisplayRole:
-        return ToQt(Column(section).Head());
-      case Qt::ToolTipRole:
-      case Qt::AccessibleTextRole:
-        return ToQt(Column(section).Caption);
-      default:
-        return {};
-    }
+    return orientation == Qt::Horizontal ? ColumnHead(Column(section), role) : QVariant();
   }
 
   void sort(int column, Qt::SortOrder order) override {
