@@ -1,8 +1,9 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
+
+#include "resources/Carried.h"
 
 namespace trelonit {
 
@@ -16,23 +17,6 @@ struct PictureColor {
   PictureRole Role = PictureRole::None;
   /// Red, green and blue, as the drawing has it.
   std::uint32_t Rgb = 0;
-};
-
-/// Values that the program carries.
-template <class T>
-class Carried {
- public:
-  constexpr Carried() = default;
-  template <std::size_t count>
-  constexpr explicit Carried(const T (&values)[count]) : first_(values), count_(count) {}
-  constexpr const T* begin() const { return first_; }
-  constexpr const T* end() const { return first_ + count_; }
-  constexpr std::size_t size() const { return count_; }
-  constexpr const T& operator[](std::size_t place) const { return first_[place]; }
-
- private:
-  const T* first_ = nullptr;
-  std::size_t count_ = 0;
 };
 
 struct PictureShape {

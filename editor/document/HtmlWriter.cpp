@@ -11,36 +11,12 @@
 
 #include "editor/document/FontFamilies.h"
 #include "editor/document/TextUnits.h"
+#include "platform/text/MarkupText.h"
 #include "platform/text/Text.h"
 
 namespace trelonit {
 
 namespace {
-
-void AppendEscaped(std::string& html, std::string_view text) {
-  for (const char character : text) {
-    switch (character) {
-      case '&':
-        html += "&amp;";
-        break;
-      case '<':
-        html += "&lt;";
-        break;
-      case '>':
-        html += "&gt;";
-        break;
-      case '\t':
-        html += character;
-        break;
-      default:
-        // A page has no other control characters.
-        if (static_cast<unsigned char>(character) >= ' ') {
-          html += character;
-        }
-        break;
-    }
-  }
-}
 
 std::string HexColour(Color colour) {
   constexpr std::string_view digits = "0123456789abcdef";
@@ -143,7 +119,7 @@ void Writer::WriteParagraph(const RichParagraph& paragraph) {
     }
     empty = false;
     body_ += "<span class=\"f" + std::to_string(ClassOf(run.Format) + 1) + "\">";
-    AppendEscaped(body_, Utf8(run.Text));
+    AppendMarkup(body_, Utf8(run.Text));
     body_ += "</span>";
   }
   // Without anything in it a paragraph has no height.
@@ -156,7 +132,7 @@ std::string Writer::Write(const RichDocument& document, std::string_view title) 
   }
   std::string page =
       "<!DOCTYPE html>\n<html lang=\"ru\">\n<head>\n<meta charset=\"utf-8\">\n<title>";
-  AppendEscaped(page, title);
+  AppendMarkup(page, title);
   page += "</title>\n<style>\np { margin: 0; white-space: pre-wrap; tab-size: 0.5in; }\n";
   page += "p.centre { text-align: center; }\np.right { text-align: right; }\n";
   page += "p.justified { text-align: justify; }\n";
