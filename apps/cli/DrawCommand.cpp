@@ -7,6 +7,7 @@
 #include "apps/cli/Commands.h"
 #include "apps/cli/OutputFile.h"
 #include "drawing/host/dxf/DxfWriter.h"
+#include "drawing/sheet/SvgWriter.h"
 #include "platform/errors/RuntimeError.h"
 
 namespace trelonit::cli {
@@ -21,9 +22,13 @@ struct DrawingForm {
   Writer Write;
 };
 
+std::string OnSheet(const Drawing& drawing) {
+  return WriteDrawingSvg(drawing);
+}
+
 /// By the output's name; nothing for an unknown extension.
 std::optional<DrawingForm> FormOf(const std::string& output, const Paper& paper) {
-  const std::array forms{DrawingForm{".dxf", WriteDxf}, DrawingForm{".svg", paper.DrawingSvg},
+  const std::array forms{DrawingForm{".dxf", WriteDxf}, DrawingForm{".svg", OnSheet},
                          DrawingForm{".pdf", paper.DrawingPdf},
                          DrawingForm{".png", paper.DrawingPng}};
   for (const DrawingForm& form : forms) {

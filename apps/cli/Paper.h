@@ -17,7 +17,6 @@ struct Paper {
   std::function<std::string(const RichDocument&, const std::string& title)> Pdf;
   /// The bytes of a file with a drawing on one page, to scale.
   std::function<std::string(const Drawing&)> DrawingPdf;
-  std::function<std::string(const Drawing&)> DrawingSvg;
   std::function<std::string(const Drawing&)> DrawingPng;
   /// Runs the whole command line in the program that has paper. There where the others are missing.
   std::function<Status()> HandOver;

@@ -42,7 +42,6 @@ Paper MakePaper(int argc, char** argv) {
                 return WritePdf(document, title);
               },
           .DrawingPdf = drawn(WriteDrawingPdf),
-          .DrawingSvg = drawn(WriteDrawingSvg),
           .DrawingPng = drawn(WriteDrawingPng),
           .HandOver = {}};
 }

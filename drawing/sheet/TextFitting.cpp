@@ -1,6 +1,5 @@
-#include "windows/drawing/TextFitting.h"
+#include "drawing/sheet/TextFitting.h"
 
-#include <QRectF>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -20,13 +19,13 @@ constexpr double step = 0.9;
 /// More texts than any truss on offer has are not sized against each other, only thinned out.
 constexpr std::size_t mostSized = 1500;
 
-using Corners = std::array<QPointF, 4>;
+using Corners = std::array<PlanePoint, 4>;
 using Pair = std::pair<std::size_t, std::size_t>;
 
 Corners Shrunk(const TextRoom& text, double factor) {
   Corners corners;
   std::transform(text.Corners.begin(), text.Corners.end(), corners.begin(),
-                 [&](QPointF corner) { return text.Anchor + (corner - text.Anchor) * factor; });
+                 [&](PlanePoint corner) { return text.Anchor + (corner - text.Anchor) * factor; });
   return corners;
 }
 
@@ -35,10 +34,10 @@ struct Span {
   double Greatest = -std::numeric_limits<double>::infinity();
 };
 
-Span SpanAlong(const Corners& corners, QPointF direction) {
+Span SpanAlong(const Corners& corners, PlanePoint direction) {
   Span span;
-  for (const QPointF& corner : corners) {
-    const double place = QPointF::dotProduct(corner, direction);
+  for (const PlanePoint& corner : corners) {
+    const double place = DotProduct(corner, direction);
     span.Least = std::min(span.Least, place);
     span.Greatest = std::max(span.Greatest, place);
   }
@@ -50,12 +49,12 @@ double Gap(const Corners& box1, const Corners& box2) {
   double gap = -std::numeric_limits<double>::infinity();
   for (const Corners* box : {&box1, &box2}) {
     for (std::size_t corner = 0; corner < box->size(); ++corner) {
-      const QPointF side = (*box)[(corner + 1) % box->size()] - (*box)[corner];
-      const double length = std::hypot(side.x(), side.y());
+      const PlanePoint side = (*box)[(corner + 1) % box->size()] - (*box)[corner];
+      const double length = std::hypot(side.X, side.Y);
       if (length == 0) {
         continue;
       }
-      const QPointF normal(-side.y() / length, side.x() / length);
+      const PlanePoint normal(-side.Y / length, side.X / length);
       const Span span1 = SpanAlong(box1, normal);
       const Span span2 = SpanAlong(box2, normal);
       gap = std::max({gap, span2.Least - span1.Greatest, span1.Least - span2.Greatest});
@@ -64,16 +63,16 @@ double Gap(const Corners& box1, const Corners& box2) {
   return gap;
 }
 
-QRectF BoxOf(const Corners& corners) {
+PlaneBox BoxOf(const Corners& corners) {
   const Span x = SpanAlong(corners, {1, 0});
   const Span y = SpanAlong(corners, {0, 1});
-  return {QPointF(x.Least, y.Least), QPointF(x.Greatest, y.Greatest)};
+  return {PlanePoint(x.Least, y.Least), PlanePoint(x.Greatest, y.Greatest)};
 }
 
 /// The texts of a drawing while their sizes are looked for.
 class Fitting {
  public:
-  Fitting(const std::vector<TextRoom>& texts, double smallest, const std::vector<QLineF>& bars)
+  Fitting(const std::vector<TextRoom>& texts, double smallest, const std::vector<PlaneLine>& bars)
       : texts_(texts) {
     if (texts_.size() <= mostSized) {
       FindCrossings(bars);
@@ -117,18 +116,17 @@ class Fitting {
   }
 
   /// The texts that a bar comes near and that can be made small enough to keep off it.
-  void FindCrossings(const std::vector<QLineF>& bars) {
-    std::vector<QRectF> rooms;
+  void FindCrossings(const std::vector<PlaneLine>& bars) {
+    std::vector<PlaneBox> rooms;
     for (const TextRoom& text : texts_) {
       rooms.push_back(BoxOf(text.Corners));
     }
-    for (const QLineF& bar : bars) {
-      const Corners line{bar.p1(), bar.p2(), bar.p2(), bar.p1()};
-      const QRectF box = BoxOf(line);
+    for (const PlaneLine& bar : bars) {
+      const Corners line{bar.Start, bar.End, bar.End, bar.Start};
+      const PlaneBox box = BoxOf(line);
       for (std::size_t text = 0; text < texts_.size(); ++text) {
-        const QRectF& room = rooms[text];
-        if (room.left() < box.right() && box.left() < room.right() && room.top() < box.bottom() &&
-            box.top() < room.bottom() && Gap(texts_[text].Corners, line) < 0 &&
+        const PlaneBox& room = rooms[text];
+        if (Overlap(room, box) && Gap(texts_[text].Corners, line) < 0 &&
             Gap(Shrunk(texts_[text], leastFactor), line) >= 0) {
           crossings_.push_back({text, line});
         }
@@ -141,23 +139,24 @@ class Fitting {
 
   /// Those that come near each other, each pair once.
   std::vector<Pair> Neighbours() const {
-    std::vector<QRectF> boxes;
+    std::vector<PlaneBox> boxes;
     std::vector<std::size_t> order;
     for (std::size_t text = 0; text < texts_.size(); ++text) {
       const double room = wantedGap * texts_[text].Height;
-      boxes.push_back(BoxOf(texts_[text].Corners).adjusted(-room, -room, room, room));
+      const PlaneBox box = BoxOf(texts_[text].Corners);
+      boxes.push_back({box.Least - PlanePoint{room, room}, box.Greatest + PlanePoint{room, room}});
       order.push_back(text);
     }
     std::sort(order.begin(), order.end(), [&](std::size_t text1, std::size_t text2) {
-      return boxes[text1].left() < boxes[text2].left();
+      return boxes[text1].Least.X < boxes[text2].Least.X;
     });
     std::vector<Pair> pairs;
     for (std::size_t place = 0; place < order.size(); ++place) {
-      const QRectF& box = boxes[order[place]];
+      const PlaneBox& box = boxes[order[place]];
       for (std::size_t next = place + 1;
-           next < order.size() && boxes[order[next]].left() <= box.right(); ++next) {
-        const QRectF& other = boxes[order[next]];
-        if (other.top() <= box.bottom() && other.bottom() >= box.top()) {
+           next < order.size() && boxes[order[next]].Least.X <= box.Greatest.X; ++next) {
+        const PlaneBox& other = boxes[order[next]];
+        if (other.Least.Y <= box.Greatest.Y && other.Greatest.Y >= box.Least.Y) {
           pairs.emplace_back(order[place], order[next]);
         }
       }
@@ -245,7 +244,7 @@ class Fitting {
       return std::pair(-height1, kind1) < std::pair(-height2, kind2);
     });
     struct Room {
-      QRectF Box;
+      PlaneBox Box;
       Corners At;
     };
     std::set<std::size_t> crossed;
@@ -263,9 +262,7 @@ class Fitting {
       Room room{{}, Shrunk(texts_[text], Factor(text))};
       room.Box = BoxOf(room.At);
       const bool free = std::none_of(taken.begin(), taken.end(), [&](const Room& other) {
-        return other.Box.left() < room.Box.right() && room.Box.left() < other.Box.right() &&
-               other.Box.top() < room.Box.bottom() && room.Box.top() < other.Box.bottom() &&
-               Gap(other.At, room.At) < 0;
+        return Overlap(other.Box, room.Box) && Gap(other.At, room.At) < 0;
       });
       if (free) {
         taken.push_back(room);
@@ -292,7 +289,7 @@ double GapBetween(const TextRoom& text1, double factor1, const TextRoom& text2, 
 }
 
 TextFit FitTexts(const std::vector<TextRoom>& texts, double smallest,
-                 const std::vector<QLineF>& bars) {
+                 const std::vector<PlaneLine>& bars) {
   return Fitting(texts, smallest, bars).Result();
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QLineF>
-#include <QPointF>
 #include <array>
 #include <cstddef>
 #include <vector>
+
+#include "drawing/sheet/Plane.h"
 
 namespace trelonit {
 
@@ -13,9 +13,9 @@ namespace trelonit {
 
 /// A text as the room that its letters take, in drawing units.
 struct TextRoom {
-  std::array<QPointF, 4> Corners;  ///< of a convex box, in turn
-  QPointF Anchor;                  ///< the point that it hangs on and shrinks to
-  double Height = 0;               ///< of its letters
+  std::array<PlanePoint, 4> Corners;  ///< of a convex box, in turn
+  PlanePoint Anchor;                  ///< the point that it hangs on and shrinks to
+  double Height = 0;                  ///< of its letters
   /// Texts of one kind shrink alike. Of two kinds about as high, the one with the greater number
   /// gives way first.
   int Kind = 0;
@@ -33,7 +33,7 @@ struct TextFit {
 /// cover each other the first one is shown. Bars are kept clear too: a text that is crossed by one
 /// and would not be at its smallest is left out until it can be so small.
 TextFit FitTexts(const std::vector<TextRoom>& texts, double smallest,
-                 const std::vector<QLineF>& bars = {});
+                 const std::vector<PlaneLine>& bars = {});
 
 /// How far two texts stand apart in these parts of their height; below zero where they cover each
 /// other.

@@ -27,16 +27,19 @@ rule(variants USES variants workstation analysis catalogue checks opinion platfo
 rule(editor USES editor platform)
 # The schemes are drawn by any host, and the built-in one draws for anybody.
 rule(drawing/host USES drawing/host platform)
-rule(drawing USES drawing analysis catalogue platform BUT drawing/host)
+# Sheets are made of a drawing of that host, with letters that the program carries.
+rule(drawing/sheet USES drawing/sheet drawing/host resources platform)
+rule(drawing USES drawing analysis catalogue platform BUT drawing/host drawing/sheet)
 rule(windows QT USES windows ${logic})
 rule(apps QT USES apps windows ${logic})
 rule(examples USES examples apps ${logic})
 rule(fuzz USES fuzz tests/support ${logic})
 rule(bench QT USES bench apps windows ${logic})
 # What is tested without a window knows no window.
-set(tests_of_windows tests/windows tests/office)
+set(tests_of_windows tests/windows tests/svg tests/office)
 rule(tests/support USES tests/support platform)
 rule(tests/windows QT USES tests apps windows ${logic})
+rule(tests/svg QT USES tests apps windows ${logic})
 rule(tests/office QT USES tests windows ${logic} BUT tests/windows)
 rule(tests/apps USES tests apps ${logic} BUT ${tests_of_windows})
 rule(tests/cli USES tests apps ${logic} BUT ${tests_of_windows})

@@ -2,27 +2,28 @@
 #include <gtest/gtest.h>
 #include <numbers>
 
-#include "windows/drawing/TextFitting.h"
+#include "drawing/sheet/TextFitting.h"
 
 namespace trelonit::test {
 namespace {
 
 /// Level letters of this height, centred on the point.
 TextRoom Level(double x, double y, double width, double height, int kind = 0) {
-  return {
-      .Corners = {QPointF(x - width / 2, y - height / 2), QPointF(x + width / 2, y - height / 2),
-                  QPointF(x + width / 2, y + height / 2), QPointF(x - width / 2, y + height / 2)},
-      .Anchor = QPointF(x, y),
-      .Height = height,
-      .Kind = kind};
+  return {.Corners = {PlanePoint(x - width / 2, y - height / 2),
+                      PlanePoint(x + width / 2, y - height / 2),
+                      PlanePoint(x + width / 2, y + height / 2),
+                      PlanePoint(x - width / 2, y + height / 2)},
+          .Anchor = PlanePoint(x, y),
+          .Height = height,
+          .Kind = kind};
 }
 
 /// The same turned round its middle.
 TextRoom Turned(TextRoom room, double angle) {
-  for (QPointF& corner : room.Corners) {
-    const QPointF arm = corner - room.Anchor;
-    corner = room.Anchor + QPointF(arm.x() * std::cos(angle) - arm.y() * std::sin(angle),
-                                   arm.x() * std::sin(angle) + arm.y() * std::cos(angle));
+  for (PlanePoint& corner : room.Corners) {
+    const PlanePoint arm = corner - room.Anchor;
+    corner = room.Anchor + PlanePoint(arm.X * std::cos(angle) - arm.Y * std::sin(angle),
+                                      arm.X * std::sin(angle) + arm.Y * std::cos(angle));
   }
   return room;
 }
@@ -104,14 +105,15 @@ TEST(FitTexts, MeasuresTurnedTextsAlongTheirSides) {
 TEST(FitTexts, KeepsTextsOffBars) {
   // The bar runs 0.4 from the middle of a text that reaches 0.5 far.
   const std::vector<TextRoom> texts{Level(0, 0, 1, 0.2)};
-  const std::vector<QLineF> bars{QLineF(0.4, -1, 0.4, 1)};
+  const std::vector<PlaneLine> bars{PlaneLine{{0.4, -1}, {0.4, 1}}};
   const TextFit fit = FitTexts(texts, 0.05, bars);
   EXPECT_LE(fit.Factors[0], 0.8);
   EXPECT_GE(fit.Factors[0], 0.8 * 0.9);
   // Where it may not be so small, it waits.
   EXPECT_EQ(FitTexts(texts, 0.19, bars).Factors, std::vector<double>{0});
   // What lies upon a bar whatever its size stays.
-  EXPECT_EQ(FitTexts(texts, 0.05, {QLineF(0.1, -1, 0.1, 1)}).Factors, std::vector<double>{1});
+  EXPECT_EQ(FitTexts(texts, 0.05, {PlaneLine{{0.1, -1}, {0.1, 1}}}).Factors,
+            std::vector<double>{1});
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QPrinter>
 
 #include "drawing/host/dxf/DxfWriter.h"
+#include "drawing/sheet/SvgWriter.h"
 #include "platform/errors/RuntimeError.h"
 #include "platform/files/Files.h"
 #include "windows/binding/Binding.h"
@@ -96,7 +97,7 @@ void PrintDrawing(const Drawing& drawing, const SheetChoice& choice, QPrinter& p
                   QWidget* parent) {
   try {
     const DrawingPainter painted(drawing);
-    const QSizeF offered = ChosenSheet(painted, choice).Paper;
+    const QSizeF offered = AsQt(ChosenSheet(painted.Placed(), choice).Paper);
     printer.setDocName(ToQt(drawing.Name));
     printer.setFullPage(true);
     printer.setPageSize(QPageSize(offered.transposed(), QPageSize::Millimeter));
@@ -113,7 +114,8 @@ void PrintDrawing(const Drawing& drawing, const SheetChoice& choice, QPrinter& p
     if (!painter.begin(&printer)) {
       throw RuntimeError(ErrorNumber::DeviceIoError);
     }
-    PaintSheet(painter, painted, SheetOn(painted, size, choice.Title),
+    PaintSheet(painter, painted,
+               SheetOn(painted.Placed(), {size.width(), size.height()}, choice.Title),
                printer.resolution() / millimetresPerInch, true);
     if (!painter.end()) {
       throw RuntimeError(ErrorNumber::DeviceIoError);

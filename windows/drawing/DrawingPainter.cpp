@@ -1,9 +1,10 @@
 #include "windows/drawing/DrawingPainter.h"
 
+#include <QFont>
+#include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
 
-#include "platform/values/Arithmetic.h"
 #include "windows/binding/Binding.h"
 #include "windows/binding/Pictures.h"
 
@@ -11,20 +12,34 @@ namespace trelonit {
 
 namespace {
 
-QPointF AsPoint(const PlacePoint& point) {
-  return {Finite(point.X), Finite(point.Y)};
+QPointF AsQt(PlanePoint point) {
+  return {point.X, point.Y};
 }
 
-/// Grows the box to hold the other one, which may be flat: the toolkit's own union leaves out what
-/// has no area.
-void Take(QRectF& box, const QRectF& other) {
-  if (box.isNull()) {
-    box = other;
-    return;
-  }
-  box =
-      QRectF(QPointF(std::min(box.left(), other.left()), std::min(box.top(), other.top())),
-             QPointF(std::max(box.right(), other.right()), std::max(box.bottom(), other.bottom())));
+QLineF AsQt(const PlaneLine& line) {
+  return {AsQt(line.Start), AsQt(line.End)};
+}
+
+QPainterPath AsQt(const LetterOutline& outline) {
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  ForEachStep(outline, [&](char verb, const PlanePoint* points) {
+    switch (verb) {
+      case 'M':
+        path.moveTo(AsQt(points[0]));
+        break;
+      case 'L':
+        path.lineTo(AsQt(points[0]));
+        break;
+      case 'Q':
+        path.quadTo(AsQt(points[0]), AsQt(points[1]));
+        break;
+      default:
+        path.closeSubpath();
+        break;
+    }
+  });
+  return path;
 }
 
 QRectF BoxOf(const QLineF& line) {
@@ -47,52 +62,54 @@ QLineF OnPixels(QLineF line, double width) {
   return line;
 }
 
-/// A text that is aligned by its top keeps room for marks over capitals, as one that is aligned by
-/// its bottom does for letters that reach under the line: it does not touch the bar over it.
-PictureText WithRoomOnTop(PictureText text) {
-  constexpr double roomPart = 0.2;
-  switch (text.Alignment) {
-    case TextAlignment::TopLeft:
-    case TextAlignment::TopCentre:
-    case TextAlignment::TopRight: {
-      const Real room = Real(text.Height) * roomPart;
-      text.Point.X = text.Point.X + room * Sine(text.Rotation);
-      text.Point.Y = text.Point.Y - room * Cosine(text.Rotation);
-      return text;
-    }
-    default:
-      return text;
-  }
-}
-
-/// Which texts give way first: the lengths under bars, then the numbers of dimensions, then what is
-/// told of the bars themselves.
-int KindOf(TextAlignment alignment) {
-  switch (alignment) {
-    case TextAlignment::TopLeft:
-    case TextAlignment::TopCentre:
-    case TextAlignment::TopRight:
-      return 2;
-    case TextAlignment::MiddleLeft:
-    case TextAlignment::MiddleCentre:
-    case TextAlignment::MiddleRight:
-      return 1;
-    default:
-      return 0;
-  }
-}
-
-QTransform ShrunkTo(QPointF anchor, double factor) {
-  return {factor, 0, 0, factor, anchor.x() * (1 - factor), anchor.y() * (1 - factor)};
-}
-
 /// Whether a box, flat or not, has a part in the visible one.
 bool Meets(const QRectF& box, const QRectF& visible) {
   return visible.isNull() || (box.left() <= visible.right() && box.right() >= visible.left() &&
                               box.top() <= visible.bottom() && box.bottom() >= visible.top());
 }
 
+QTransform Shrunk(const PlacedText& text, double factor) {
+  return AsQt(ScaledAt(text.Room.Anchor, factor));
+}
+
+/// Letters that can be read out of a page: those of a font, stretched to the room of ours.
+class PageLetters {
+ public:
+  PageLetters() {
+    // The first is what the drawing format asks for, the second has its widths.
+    font_.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
+                       QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
+    // So large that no width is rounded.
+    font_.setPixelSize(128);
+    font_.setHintingPreference(QFont::PreferNoHinting);
+  }
+
+  const QFont& Font() const { return font_; }
+
+  /// From the font's pixels, Y downwards, to the units of our letters.
+  QTransform ToLetters(const QString& text, std::string_view letters) const {
+    const QFontMetricsF metrics(font_);
+    const double width = metrics.horizontalAdvance(text);
+    const double height = metrics.capHeight();
+    const double wider = width > 0 ? LettersWidth(letters) / width : 1;
+    const double higher = height > 0 ? LettersCapitalHeight() / height : wider;
+    return QTransform::fromScale(wider, -higher);
+  }
+
+ private:
+  QFont font_;
+};
+
 }  // namespace
+
+QTransform AsQt(const PlaneTransform& transform) {
+  return {transform.XX, transform.YX,      transform.XY,
+          transform.YY, transform.Shift.X, transform.Shift.Y};
+}
+
+QRectF AsQt(const PlaneBox& box) {
+  return {AsQt(box.Least), AsQt(box.Greatest)};
+}
 
 QColor LayerColor(std::string_view layer, const QPalette& palette) {
   if (SameName(layer, "Dimension")) {
@@ -101,133 +118,13 @@ QColor LayerColor(std::string_view layer, const QPalette& palette) {
   return palette.color(QPalette::Text);
 }
 
-DrawingPainter::DrawingPainter(const Drawing& drawing) : drawing_(drawing) {
-  DrawingLetters letters;
-  font_ = letters.Font();
-  for (const DrawingEntity& entity : drawing.ModelSpace) {
-    Add(PictureOf(drawing, entity), letters);
-  }
-}
-
-DrawingPainter::Layer& DrawingPainter::LayerNamed(const std::string& name) {
-  const auto found = std::find_if(layers_.begin(), layers_.end(),
-                                  [&](const Layer& layer) { return SameName(layer.Name, name); });
-  if (found != layers_.end()) {
-    return *found;
-  }
-  layers_.push_back({.Name = name});
-  return layers_.back();
-}
-
-void DrawingPainter::Add(const EntityPicture& picture, DrawingLetters& letters) {
-  Layer& layer = LayerNamed(picture.Layer);
-  for (const PictureStroke& stroke : picture.Strokes) {
-    layer.Strokes.emplace_back(AsPoint(stroke.Start), AsPoint(stroke.End));
-    Take(layer.Box, BoxOf(layer.Strokes.back()));
-  }
-  for (const PictureTriangle& arrow : picture.Arrows) {
-    QPolygonF corners;
-    for (const PlacePoint& corner : arrow.Corners) {
-      corners.append(AsPoint(corner));
-    }
-    layer.Arrows.push_back(corners);
-    Take(layer.Box, corners.boundingRect());
-  }
-  for (const PictureText& text : picture.Texts) {
-    layer.Texts.push_back(Placed(text, letters));
-    Take(layer.Box, layer.Texts.back().Box);
-  }
-}
-
-DrawingPainter::Text DrawingPainter::Placed(const PictureText& text,
-                                            DrawingLetters& letters) const {
-  const DrawingTextStyle* style = FindTextStyle(drawing_, text.Style);
-  const double factor = style == nullptr ? 1 : style->Width;
-  const double oblique = style == nullptr ? 0 : style->ObliqueAngle;
-  const double scale = text.Height / letters.CapitalHeight();
-
-  Text placed;
-  // Names are padded with blanks: a label stands in the middle of its bar by what is to be seen.
-  placed.Letters = ToQt(text.Text).trimmed();
-  placed.Outline = letters.Outline(placed.Letters);
-  const double width = letters.Width(placed.Letters) * factor * scale;
-  const QPointF start = AsPoint(BaselineStart(WithRoomOnTop(text), Finite(width)));
-  // Y of the outline goes down. The style leans the letters by their height, however narrow.
-  const QTransform lean(scale * factor, 0, -scale * std::tan(oblique), -scale, 0, 0);
-  QTransform place;
-  place.translate(start.x(), start.y());
-  place.rotateRadians(text.Rotation);
-  placed.Place = lean * place;
-  placed.Box = placed.Place.map(placed.Outline).boundingRect();
-  if (placed.Outline.isEmpty()) {
-    placed.Box = QRectF(start, start);
-  }
-  const QPolygonF corners = placed.Place.map(QPolygonF(placed.Outline.boundingRect()));
-  std::copy_n(corners.begin(), placed.Room.Corners.size(), placed.Room.Corners.begin());
-  placed.Room.Anchor = AsPoint(text.Point);
-  placed.Room.Height = text.Height;
-  placed.Room.Kind = KindOf(text.Alignment);
-  Finite(placed.Box.left() + placed.Box.right() + placed.Box.top() + placed.Box.bottom());
-  return placed;
-}
-
-bool DrawingPainter::IsPainted(const Layer& layer, bool onPaper) const {
-  return onPaper ? IsPlotted(drawing_, layer.Name) : IsShown(drawing_, layer.Name);
-}
-
-QRectF DrawingPainter::Bounds(bool onPaper) const {
-  QRectF box;
-  for (const Layer& layer : layers_) {
-    if (IsPainted(layer, onPaper)) {
-      Take(box, layer.Box);
+DrawingPainter::DrawingPainter(const Drawing& drawing) : placed_(drawing) {
+  for (const PlacedLayer& layer : placed_.Layers()) {
+    std::vector<QPainterPath>& outlines = outlines_.emplace_back();
+    for (const PlacedText& text : layer.Texts) {
+      outlines.push_back(AsQt(text.Outline));
     }
   }
-  return box.isNull() ? QRectF(0, 0, 1, 1) : box;
-}
-
-double DrawingPainter::SmallestText() const {
-  double smallest = 0;
-  for (const Layer& layer : layers_) {
-    if (!IsPainted(layer, true)) {
-      continue;
-    }
-    for (const Text& text : layer.Texts) {
-      smallest = smallest == 0 ? text.Room.Height : std::min(smallest, text.Room.Height);
-    }
-  }
-  return smallest;
-}
-
-const TextFit& DrawingPainter::Fit(double smallest, bool onPaper) const {
-  std::vector<bool> painted;
-  std::vector<TextRoom> rooms;
-  for (const Layer& layer : layers_) {
-    painted.push_back(IsPainted(layer, onPaper));
-  }
-  if (!fit_ || fit_->Smallest != smallest || fit_->OnPaper != onPaper || fit_->Layers != painted) {
-    for (std::size_t layer = 0; layer < layers_.size(); ++layer) {
-      if (painted[layer]) {
-        for (const Text& text : layers_[layer].Texts) {
-          rooms.push_back(text.Room);
-        }
-      }
-    }
-    // On paper a text upon a bar is better than none; on screen a closer look brings it.
-    fit_ = {smallest, onPaper, painted,
-            FitTexts(rooms, smallest, onPaper ? std::vector<QLineF>() : Bars())};
-  }
-  return fit_->Fit;
-}
-
-std::vector<QLineF> DrawingPainter::Bars() const {
-  std::vector<QLineF> bars;
-  for (const DrawingEntity& entity : drawing_.ModelSpace) {
-    const auto* line = std::get_if<DrawingLine>(&entity);
-    if (line != nullptr && IsShown(drawing_, line->Layer)) {
-      bars.emplace_back(AsPoint(line->Start), AsPoint(line->End));
-    }
-  }
-  return bars;
 }
 
 const double* DrawingPainter::FactorsFor(const DrawingLook& look) const {
@@ -235,21 +132,24 @@ const double* DrawingPainter::FactorsFor(const DrawingLook& look) const {
     return nullptr;
   }
   const double scale = std::sqrt(std::abs(look.FromDrawing.determinant()));
-  return Fit(look.SmallestLetters / scale, look.OnPaper).Factors.data();
+  return placed_.Fit(look.SmallestLetters / scale, look.OnPaper).Factors.data();
 }
 
 std::vector<QPolygonF> DrawingPainter::TextRooms(const DrawingLook& look) const {
   const double* factors = FactorsFor(look);
   std::vector<QPolygonF> rooms;
-  for (const Layer& layer : layers_) {
-    if (!IsPainted(layer, look.OnPaper)) {
+  for (const PlacedLayer& layer : placed_.Layers()) {
+    if (!placed_.IsPainted(layer, look.OnPaper)) {
       continue;
     }
-    for (const Text& text : layer.Texts) {
+    for (const PlacedText& text : layer.Texts) {
       const double factor = factors == nullptr ? 1 : *factors++;
       if (factor > 0) {
-        const QPolygonF corners(text.Room.Corners.begin(), text.Room.Corners.end());
-        rooms.push_back(ShrunkTo(text.Room.Anchor, factor).map(corners));
+        QPolygonF corners;
+        for (const PlanePoint& corner : text.Room.Corners) {
+          corners.append(AsQt(corner));
+        }
+        rooms.push_back(Shrunk(text, factor).map(corners));
       }
     }
   }
@@ -260,12 +160,13 @@ void DrawingPainter::Paint(QPainter& painter, const DrawingLook& look) const {
   const double* factors = FactorsFor(look);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  for (const Layer& layer : layers_) {
-    if (!IsPainted(layer, look.OnPaper)) {
+  for (std::size_t place = 0; place < placed_.Layers().size(); ++place) {
+    const PlacedLayer& layer = placed_.Layers()[place];
+    if (!placed_.IsPainted(layer, look.OnPaper)) {
       continue;
     }
     const QColor color = look.OnPaper ? QColor(Qt::black) : LayerColor(layer.Name, look.Palette);
-    const double weight = StrokeWidth(drawing_, layer.Name) * look.UnitsPerMillimetre;
+    const double weight = StrokeWidth(placed_.Source(), layer.Name) * look.UnitsPerMillimetre;
     const double width = std::max(weight, look.ThinnestLine);
     // The toolkit paints round ends several times slower; at so few pixels they look the same.
     painter.setPen(look.OnPixels ? QPen(color, std::max(1.0, std::round(width)), Qt::SolidLine,
@@ -273,7 +174,7 @@ void DrawingPainter::Paint(QPainter& painter, const DrawingLook& look) const {
                                  : QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     PaintStrokes(painter, layer, look);
     painter.setBrush(color);
-    PaintTexts(painter, layer, look, factors);
+    PaintTexts(painter, layer, outlines_[place], look, factors);
     factors = factors == nullptr ? nullptr : factors + layer.Texts.size();
     painter.setPen(Qt::NoPen);
     PaintArrows(painter, layer, look);
@@ -282,11 +183,12 @@ void DrawingPainter::Paint(QPainter& painter, const DrawingLook& look) const {
   painter.restore();
 }
 
-void DrawingPainter::PaintStrokes(QPainter& painter, const Layer& layer, const DrawingLook& look) {
+void DrawingPainter::PaintStrokes(QPainter& painter, const PlacedLayer& layer,
+                                  const DrawingLook& look) {
   QVector<QLineF> lines;
   lines.reserve(static_cast<qsizetype>(layer.Strokes.size()));
-  for (const QLineF& stroke : layer.Strokes) {
-    QLineF line = look.FromDrawing.map(stroke);
+  for (const PlaneLine& stroke : layer.Strokes) {
+    QLineF line = look.FromDrawing.map(AsQt(stroke));
     if (look.OnPixels) {
       line = OnPixels(line, painter.pen().widthF());
     }
@@ -297,29 +199,40 @@ void DrawingPainter::PaintStrokes(QPainter& painter, const Layer& layer, const D
   painter.drawLines(lines);
 }
 
-void DrawingPainter::PaintArrows(QPainter& painter, const Layer& layer, const DrawingLook& look) {
-  for (const QPolygonF& arrow : layer.Arrows) {
-    const QPolygonF corners = look.FromDrawing.map(arrow);
+void DrawingPainter::PaintArrows(QPainter& painter, const PlacedLayer& layer,
+                                 const DrawingLook& look) {
+  for (const std::array<PlanePoint, 3>& arrow : layer.Arrows) {
+    const QPolygonF corners =
+        look.FromDrawing.map(QPolygonF({AsQt(arrow[0]), AsQt(arrow[1]), AsQt(arrow[2])}));
     if (Meets(corners.boundingRect(), look.Visible)) {
       painter.drawConvexPolygon(corners);
     }
   }
 }
 
-void DrawingPainter::PaintTexts(QPainter& painter, const Layer& layer, const DrawingLook& look,
-                                const double* factors) const {
+void DrawingPainter::PaintTexts(QPainter& painter, const PlacedLayer& layer,
+                                const std::vector<QPainterPath>& outlines, const DrawingLook& look,
+                                const double* factors) {
   const QTransform base = painter.transform();
-  painter.setFont(font_);
-  for (const Text& text : layer.Texts) {
-    const double factor = factors == nullptr ? 1 : *factors++;
-    if (factor <= 0 || !Meets(look.FromDrawing.mapRect(text.Box), look.Visible)) {
+  std::optional<PageLetters> letters;
+  if (look.RealLetters) {
+    letters.emplace();
+    painter.setFont(letters->Font());
+  }
+  for (std::size_t place = 0; place < layer.Texts.size(); ++place) {
+    const PlacedText& text = layer.Texts[place];
+    const double factor = factors == nullptr ? 1 : factors[place];
+    if (factor <= 0 || !Meets(look.FromDrawing.mapRect(AsQt(text.Box)), look.Visible)) {
       continue;
     }
-    painter.setTransform(text.Place * ShrunkTo(text.Room.Anchor, factor) * look.FromDrawing * base);
-    if (look.RealLetters) {
-      painter.drawText(QPointF(0, 0), text.Letters);
+    const QTransform toPainter = AsQt(text.Place) * Shrunk(text, factor) * look.FromDrawing * base;
+    if (letters) {
+      const QString shown = ToQt(text.Letters);
+      painter.setTransform(letters->ToLetters(shown, text.Letters) * toPainter);
+      painter.drawText(QPointF(0, 0), shown);
     } else {
-      painter.fillPath(text.Outline, painter.brush());
+      painter.setTransform(toPainter);
+      painter.fillPath(outlines[place], painter.brush());
     }
   }
   painter.setTransform(base);

@@ -32,7 +32,7 @@ namespace {
 constexpr int layersWidth = 200;
 
 QString NameOfPaper(const DrawingSheet& sheet) {
-  return QPageSize(sheet.Paper.transposed(), QPageSize::Millimeter).name();
+  return QPageSize(AsQt(sheet.Paper).transposed(), QPageSize::Millimeter).name();
 }
 
 }  // namespace
@@ -351,10 +351,11 @@ void DrawingWindow::ShowSheet() {
     return;
   }
   try {
-    const DrawingSheet sheet = ChosenSheet(view->Painter(), Choice());
+    const PlacedDrawing& drawing = view->Painter().Placed();
+    const DrawingSheet sheet = ChosenSheet(drawing, Choice());
     sheet_->setText(QStringLiteral("Лист %1, %2").arg(NameOfPaper(sheet), ToQt(sheet.ScaleNote())));
-    if (const std::size_t leftOut = TextsLeftOut(view->Painter(), sheet)) {
-      const std::optional<DrawingSheet> larger = SheetWithAllTexts(view->Painter(), Choice().Title);
+    if (const std::size_t leftOut = TextsLeftOut(drawing, sheet)) {
+      const std::optional<DrawingSheet> larger = SheetWithAllTexts(drawing, Choice().Title);
       crowded_->setText(QStringLiteral("Не поместилось надписей: %1").arg(leftOut) +
                         (larger ? QStringLiteral(", все помещаются на %1").arg(NameOfPaper(*larger))
                                 : QString()));

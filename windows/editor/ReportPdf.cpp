@@ -29,7 +29,7 @@ std::string WriteReportPdf(const RichDocument& document, const std::string& titl
   PaintDocument(document, writer, painter);
   for (const std::shared_ptr<Drawing>& drawing : drawings) {
     const DrawingPainter painted(*drawing);
-    const DrawingSheet sheet = SheetFor(painted, block);
+    const DrawingSheet sheet = SheetFor(painted.Placed(), block);
     writer.setPageLayout(LayoutOf(sheet));
     if (!writer.newPage()) {
       throw RuntimeError(ErrorNumber::DeviceIoError);

@@ -275,16 +275,6 @@ TEST(DrawingPainter, TellsTheBoxRoundItsInk) {
   EXPECT_EQ(DrawingPainter(EmptySheet()).Bounds(true), QRectF(0, 0, 1, 1));
 }
 
-TEST(DrawingPainter, TellsTheSmallestTextOnPaper) {
-  Drawing drawing = With({LineOn("Main", {0, 0}, {1, 1})});
-  EXPECT_EQ(DrawingPainter(drawing).SmallestText(), 0);
-  drawing.ModelSpace.push_back(TextAt("a", {0, 0}, 7, TextAlignment::Left));
-  drawing.ModelSpace.push_back(TextAt("b", {0, 0}, 5, TextAlignment::Left));
-  EXPECT_EQ(DrawingPainter(drawing).SmallestText(), 5);
-  drawing.Layers[2].LayerOn = false;
-  EXPECT_EQ(DrawingPainter(drawing).SmallestText(), 0);
-}
-
 TEST(DrawingPainter, LeavesOutWhatIsNotVisible) {
   const Drawing drawing = With({LineOn("Main", {-20, 0}, {20, 0}), LineOn("Main", {0, 30}, {0, 35}),
                                 TextAt("Н", {0, -30}, 5, TextAlignment::Left)});

@@ -3,50 +3,11 @@
 #include <QImage>
 #include <QRectF>
 #include <algorithm>
-#include <memory>
-#include <string>
 
-#include "drawing/host/Drawing.h"
+#include "tests/drawinghost/PlainDrawings.h"
 #include "windows/drawing/DrawingPainter.h"
 
 namespace trelonit::test {
-
-/// Lines and texts on the two layers of the program's drawings, both styles there.
-inline Drawing EmptySheet() {
-  Drawing drawing;
-  drawing.Name = "Drawing1.dwg";
-  drawing.Layers.push_back({.Name = "Main", .Lineweight = 50});
-  drawing.Layers.push_back({.Name = "Dimension", .Lineweight = 13});
-  drawing.TextStyles.push_back({.Name = "Dimensional", .ObliqueAngle = 0.262, .Width = 0.55});
-  return drawing;
-}
-
-inline DrawingLine LineOn(const std::string& layer, PlacePoint start, PlacePoint end) {
-  return {.Start = start, .End = end, .Layer = layer};
-}
-
-inline DrawingText TextAt(const std::string& text, PlacePoint point, double height,
-                          TextAlignment alignment, double rotation = 0,
-                          const std::string& style = "STANDARD") {
-  return {.Text = text,
-          .InsertionPoint = point,
-          .Height = height,
-          .Rotation = rotation,
-          .Alignment = alignment,
-          .TextAlignmentPoint = point,
-          .Style = style,
-          .Layer = "Dimension"};
-}
-
-/// One line of 10 m with a text over it.
-inline std::shared_ptr<Drawing> SmallDrawing(const std::string& name = "Drawing1.dwg") {
-  auto drawing = std::make_shared<Drawing>(EmptySheet());
-  drawing->Name = name;
-  drawing->ModelSpace.push_back(LineOn("Main", {0, 0}, {10000, 0}));
-  drawing->ModelSpace.push_back(
-      TextAt("L = 10.00", {5000, 0}, 300, TextAlignment::BottomCentre, 0, "Dimensional"));
-  return drawing;
-}
 
 /// What is not of the background's colour: the box round it; null for none. Pixels count as dark
 /// from half of the ink on.

@@ -1,0 +1,71 @@
+#include <gtest/gtest.h>
+#include <numbers>
+
+#include "drawing/sheet/PlacedDrawing.h"
+#include "tests/drawinghost/HostDesk.h"
+#include "tests/drawinghost/PlainDrawings.h"
+
+namespace trelonit::test {
+namespace {
+
+Drawing With(std::vector<DrawingEntity> entities) {
+  Drawing drawing = EmptySheet();
+  drawing.ModelSpace = std::move(entities);
+  return drawing;
+}
+
+/// The box round the letters of one text at the origin, 10 high.
+PlaneBox BoxOfText(const std::string& text, TextAlignment alignment, double rotation = 0,
+                   const std::string& style = "STANDARD") {
+  return PlacedDrawing(With({TextAt(text, {0, 0}, 10, alignment, rotation, style)})).Bounds(true);
+}
+
+TEST(PlacedDrawing, MakesCapitalsAsHighAsTheTextTells) {
+  const PlaneBox box = BoxOfText("Н", TextAlignment::Left);
+  EXPECT_NEAR(box.Least.Y, 0, 1e-9);
+  EXPECT_NEAR(box.Greatest.Y, 10, 1e-9);
+}
+
+TEST(PlacedDrawing, TurnsTextsRoundTheirPoint) {
+  const PlaneBox level = BoxOfText("Н", TextAlignment::Left);
+  const PlaneBox upright = BoxOfText("Н", TextAlignment::Left, std::numbers::pi / 2);
+  EXPECT_NEAR(upright.Least.X, -level.Greatest.Y, 1e-9);
+  EXPECT_NEAR(upright.Greatest.Y, level.Greatest.X, 1e-9);
+}
+
+TEST(PlacedDrawing, NarrowsAndLeansLettersByTheirStyle) {
+  const PlaneBox plain = BoxOfText("Н", TextAlignment::Left);
+  const PlaneBox styled = BoxOfText("Н", TextAlignment::Left, 0, "Dimensional");
+  // 0.55 times as wide, and the top leans by the tangent of 0.262 (15 degrees).
+  EXPECT_NEAR(styled.Width(), 0.55 * plain.Width() + 10 * std::tan(0.262), 1e-9);
+  EXPECT_NEAR(styled.Height(), 10, 1e-9);
+}
+
+TEST(PlacedDrawing, TakesBlanksRoundATextForNothing) {
+  EXPECT_EQ(BoxOfText("  Н ", TextAlignment::Centre), BoxOfText("Н", TextAlignment::Centre));
+  const PlaneBox nothing = BoxOfText("   ", TextAlignment::Left);
+  EXPECT_EQ(nothing, (PlaneBox{{0, 0}, {0, 0}}));
+}
+
+TEST(PlacedDrawing, TellsTheSmallestTextOnPaper) {
+  Drawing drawing = With({LineOn("Main", {0, 0}, {1, 1})});
+  EXPECT_EQ(PlacedDrawing(drawing).SmallestText(), 0);
+  drawing.ModelSpace.push_back(TextAt("a", {0, 0}, 7, TextAlignment::Left));
+  drawing.ModelSpace.push_back(TextAt("b", {0, 0}, 5, TextAlignment::Left));
+  EXPECT_EQ(PlacedDrawing(drawing).SmallestText(), 5);
+  drawing.Layers[2].LayerOn = false;
+  EXPECT_EQ(PlacedDrawing(drawing).SmallestText(), 0);
+}
+
+TEST(PlacedDrawing, RaisesOverflowForADrawingBeyondAllNumbers) {
+  for (const DrawingEntity& entity :
+       {DrawingEntity(LineOn("Main", {0, 0}, {std::numeric_limits<double>::infinity(), 0})),
+        DrawingEntity(TextAt("Н", {0, 0}, 1e308, TextAlignment::Left, 0))}) {
+    Drawing drawing = With({entity});
+    drawing.TextStyles.front().Width = 1e10;
+    EXPECT_EQ(RaisedBy([&] { PlacedDrawing{drawing}; }), 6);
+  }
+}
+
+}  // namespace
+}  // namespace trelonit::test
