@@ -154,7 +154,7 @@ std::string LongPathName(const std::string& name) {
     return {};
   }
   const std::optional<std::filesystem::path> whole = AbsolutePath(bare);
-  return whole ? Utf8OfPath(whole->lexically_normal()) : std::string(bare);
+  return whole ? Utf8OfPath(LongName(whole->lexically_normal())) : std::string(bare);
 }
 
 DocumentFormat FormatOf(const std::string& name) {

@@ -1,0 +1,9 @@
+#include "platform/files/Paths.h"
+
+namespace trelonit {
+
+std::filesystem::path LongName(const std::filesystem::path& path) {
+  return path;
+}
+
+}  // namespace trelonit
