@@ -1,10 +1,10 @@
-#include <cstdlib>
 #include <memory>
 #include <shlobj.h>
 
 #include "platform/system/LocalTime.h"
 #include "platform/system/ProgramFolder.h"
 #include "platform/system/SystemShell.h"
+#include "platform/win32/Environment.h"
 #include "platform/win32/SystemError.h"
 #include "platform/win32/Utf16.h"
 
@@ -33,8 +33,7 @@ std::filesystem::path ExecutablePath() {
 }
 
 std::filesystem::path UserDataFolder() {
-  const wchar_t* base = _wgetenv(L"LOCALAPPDATA");
-  return std::filesystem::path(base != nullptr ? base : L".") / "trelonit";
+  return std::filesystem::path(EnvironmentVariable(L"LOCALAPPDATA").value_or(L".")) / "trelonit";
 }
 
 std::filesystem::path UserStateFolder() {

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "platform/files/Files.h"
+#include "platform/win32/Environment.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/WindowsHeader.h"
 
@@ -147,12 +148,12 @@ TEST_F(SaveOnWindows, RemovesWhatAProcessThatIsGoneHasLeft) {
 
 // The process that the next test ends.
 TEST_F(SaveOnWindows, OfALargeFile) {
-  const wchar_t* name = _wgetenv(savedBy);
-  if (name == nullptr) {
+  const std::optional<std::wstring> name = EnvironmentVariable(savedBy);
+  if (!name) {
     GTEST_SKIP() << "only for the test after this one";
   }
   const std::string large(400 << 20, 'x');
-  files.ReplaceFile(FromWide(name), large);
+  files.ReplaceFile(FromWide(*name), large);
 }
 
 TEST_F(SaveOnWindows, ThatIsEndedFromOutsideLeavesTheOldFileAndNothingElse) {

@@ -4,6 +4,7 @@
 
 #include "platform/console/ConsoleServices.h"
 #include "platform/system/ProgramFolder.h"
+#include "platform/win32/Environment.h"
 #include "platform/win32/Utf16.h"
 #include "platform/win32/WindowsHeader.h"
 #include "tests/win32/ErrorOf.h"
@@ -50,9 +51,9 @@ TEST_F(Shell, KnowsTheFolderOfTheSendToMenu) {
 
 TEST_F(Shell, NamesTheMachineAndItsUser) {
   EXPECT_NE(shell.ComputerName(), "");
-  const wchar_t* user = _wgetenv(L"USERNAME");
-  ASSERT_NE(user, nullptr);
-  EXPECT_EQ(shell.UserName(), FromWide(user));
+  const std::optional<std::wstring> user = EnvironmentVariable(L"USERNAME");
+  ASSERT_TRUE(user.has_value());
+  EXPECT_EQ(shell.UserName(), FromWide(*user));
 }
 
 TEST_F(Shell, RemovesAShortcut) {
