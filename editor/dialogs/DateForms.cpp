@@ -2,7 +2,10 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 
+#include "platform/system/SystemTimeText.h"
+#include "platform/text/Text.h"
 #include "platform/values/BoundedArray.h"
 
 namespace trelonit {
@@ -51,6 +54,14 @@ std::string InWords(const ClockReading& reading) {
          std::to_string(reading.Year);
 }
 
+/// As the system writes it, or else as Russian ones do.
+std::string SystemForm(const ClockReading& reading) {
+  if (const std::optional<std::string> told = SystemTimeText(reading)) {
+    return std::string(Trim(*told));
+  }
+  return Day(reading, 2, ".") + Digits(reading.Year, 4) + " " + Time(reading, 1);
+}
+
 }  // namespace
 
 std::string DateForm(Long index, const ClockReading& reading) {
@@ -72,7 +83,7 @@ std::string DateForm(Long index, const ClockReading& reading) {
     case 6:
       return Time(reading, 1);
     case 7:
-      return Day(reading, 2, ".") + year + " " + Time(reading, 1);
+      return SystemForm(reading);
     default:
       RaiseSubscriptOutOfRange();
   }

@@ -8,6 +8,7 @@
 #include "platform/win32/Utf16.h"
 #include "platform/win32/Win32Console.h"
 #include "platform/win32/WindowsHeader.h"
+#include "tests/win32/UserChoice.h"
 #include "tests/win32/WineOnly.h"
 
 namespace trelonit::test {
@@ -50,22 +51,6 @@ TEST(OwnCommandLine, RunsAnotherProgramAndGivesItsStatus) {
 TEST(OwnCommandLine, RunsNothingThatIsNotThere) {
   EXPECT_EQ(RunWithOwnCommandLine(ExecutableFolder() / "no such program.exe"), std::nullopt);
 }
-
-/// The user's choice in the system's settings, which is put back.
-class UserChoice {
- public:
-  UserChoice(LCTYPE what, const wchar_t* value) : what_(what), before_(16, L'\0') {
-    GetLocaleInfoW(LOCALE_USER_DEFAULT, what, before_.data(), 16);
-    SetLocaleInfoW(LOCALE_USER_DEFAULT, what, value);
-  }
-  ~UserChoice() { SetLocaleInfoW(LOCALE_USER_DEFAULT, what_, before_.c_str()); }
-  UserChoice(const UserChoice&) = delete;
-  UserChoice& operator=(const UserChoice&) = delete;
-
- private:
-  LCTYPE what_;
-  std::wstring before_;
-};
 
 TEST(SystemLocale, WritesNumbersAsTheUserHasChosen) {
   if (!IsWine()) {
