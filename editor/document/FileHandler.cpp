@@ -110,7 +110,12 @@ class Word {
       : application_(automation.Create("Word.Application")) {}
   ~Word() {
     if (!ended_) {
-      PassOver([this] { Quit(); });
+      PassOver([this] {
+        // A document that is half made would be asked about in a window that nobody sees, and the
+        // program would wait there for ever.
+        constexpr Long withoutSaving = 0;  // wdDoNotSaveChanges
+        application_->Call("Quit", {withoutSaving});
+      });
     }
   }
   Word(const Word&) = delete;
@@ -120,8 +125,8 @@ class Word {
   AutomationHandle ActiveDocument() { return ObjectMember(application_, "ActiveDocument"); }
   /// The last step of a conversion, which fails where this does.
   void Quit() {
-    ended_ = true;
     application_->Call("Quit", {});
+    ended_ = true;
   }
 
  private:

@@ -101,6 +101,7 @@ TEST_F(WordMembers, AfterQuitNothingWorks) {
   EXPECT_EQ(ErrorOf([&] { content->Call("Copy", {}); }), notSet);
   EXPECT_EQ(ErrorOf([&] { content->Call("Paste", {}); }), notSet);
   EXPECT_EQ(ErrorOf([&] { word->Call("Quit", {}); }), 0);
+  EXPECT_EQ(ErrorOf([&] { word->Call("Quit", {Long{0}}); }), 0);
   EXPECT_FALSE(desk_.Has("new.doc"));
 }
 

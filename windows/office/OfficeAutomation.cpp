@@ -248,7 +248,11 @@ class WordApplication : public NamedMembers {
     if (member != "Quit") {
       Refuse();
     }
-    TakeNoArguments(arguments);
+    // Nothing is ever asked about here, so that one answer in advance is as good as none.
+    const AutomationValue withoutSaving = Long{0};
+    if (arguments.size() != 1 || arguments.front() != withoutSaving) {
+      TakeNoArguments(arguments);
+    }
     Quit();
     return {};
   }

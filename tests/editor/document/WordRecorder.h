@@ -64,7 +64,9 @@ class WordRecorder : public AutomationService {
                          const std::vector<AutomationValue>& arguments) override {
       std::string texts;
       for (const AutomationValue& argument : arguments) {
-        texts += (texts.empty() ? "" : ", ") + std::get<std::string>(argument);
+        const auto* number = std::get_if<Long>(&argument);
+        texts += (texts.empty() ? "" : ", ") +
+                 (number != nullptr ? std::to_string(*number) : std::get<std::string>(argument));
       }
       word_.Step(name_ + '.' + member + '(' + texts + ')');
       word_.Act(member, texts);
