@@ -94,8 +94,9 @@ std::string Format(double value, int decimals, const NumberLocale& locale, bool 
                : '0';
   };
   std::string whole;
-  for (int place = 0; place < decimal.Exponent; ++place) {
-    whole.push_back(digitAt(place));
+  if (decimal.Exponent > 0) {
+    const auto length = static_cast<std::size_t>(decimal.Exponent);
+    whole.append(decimal.Digits, 0, length).resize(length, '0');
   }
   if (zero || whole.empty()) {
     whole = "0";
@@ -116,6 +117,12 @@ std::string Format(double value, int decimals, const NumberLocale& locale, bool 
 
 bool IsDigit(char character) {
   return character >= '0' && character <= '9';
+}
+
+/// Number of digits from this place on.
+std::size_t DigitsAt(std::string_view text, std::size_t place) {
+  const auto first = text.begin() + static_cast<std::ptrdiff_t>(place);
+  return static_cast<std::size_t>(std::find_if_not(first, text.end(), IsDigit) - first);
 }
 
 /// Length of a no-break blank (U+00A0 or U+202F) at this place, or 0.
@@ -143,12 +150,13 @@ std::string ToNeutral(std::string_view text, const NumberLocale& locale) {
   bool digits = false;
   bool fraction = false;
   while (place < text.size()) {
-    const std::size_t blank = NoBreakBlankAt(text, place);
-    if (IsDigit(text[place])) {
-      neutral.push_back(text[place++]);
+    if (const std::size_t run = DigitsAt(text, place); run > 0) {
+      neutral.append(text, place, run);
+      place += run;
       digits = true;
-    } else if (blank > 0 && !fraction && place > 0 && IsDigit(text[place - 1]) &&
-               place + blank < text.size() && IsDigit(text[place + blank])) {
+    } else if (const std::size_t blank = NoBreakBlankAt(text, place);
+               blank > 0 && !fraction && place > 0 && IsDigit(text[place - 1]) &&
+               DigitsAt(text, place + blank) > 0) {
       place += blank;
     } else if (!fraction && text.substr(place).starts_with(locale.DecimalSeparator)) {
       neutral.push_back('.');

@@ -51,7 +51,11 @@ std::string Utf8(std::u16string_view units) {
 }
 
 void AppendUtf8(std::string& text, char32_t character) {
-  utf8::unchecked::append(character, std::back_inserter(text));
+  if (character < 0x80) {
+    text.push_back(static_cast<char>(character));
+  } else {
+    utf8::unchecked::append(character, std::back_inserter(text));
+  }
 }
 
 bool IsLatinLetter(char byte) {
