@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 #include <sstream>
 
@@ -13,6 +14,7 @@
 #include "catalogue/SectionProvenance.h"
 #include "catalogue/frmDataManager.h"
 #include "catalogue/modProfileData.h"
+#include "fuzz/support/ByteSource.h"
 #include "fuzz/support/FuzzWorld.h"
 
 namespace trelonit::fuzz {
@@ -74,6 +76,23 @@ std::string ComplaintAboutCatalogue(const ProfileTypeArray& catalogue) {
   return ComplaintAboutHealth(catalogue);
 }
 
+/// The rows of an index, none of which claims more records than tell something: each costs as much
+/// as a record that the file has, and a row may claim 32,767 of them.
+std::string WithShortClaims(std::string_view rows) {
+  constexpr std::int64_t mostClaimed = 40;
+  std::string index(rows);
+  for (std::size_t end = indexRecordSize; end <= index.size(); end += indexRecordSize) {
+    IndexRec row = DecodeIndexRecord(rows.substr(end - indexRecordSize, indexRecordSize));
+    if (std::int64_t{row.LastNum} - row.FirstNum >= mostClaimed) {
+      row.LastNum = static_cast<Long>(row.FirstNum + mostClaimed - 1);
+      const auto bytes = EncodeIndexRecord(row);
+      std::copy_n(bytes.end() - sizeof row.LastNum, sizeof row.LastNum,
+                  index.begin() + static_cast<std::ptrdiff_t>(end - sizeof row.LastNum));
+    }
+  }
+  return index;
+}
+
 /// Works through the file in its editor, which must leave what it cannot know.
 std::string ComplaintAboutManager(test::World& world) {
   const std::string before = world.Files.Content[dataFile];
@@ -102,13 +121,18 @@ std::string ComplaintAboutManager(test::World& world) {
 
 std::string ComplaintAboutCatalogue(std::string_view bytes) {
   return ComplaintUnless([&] {
-    // The first byte tells the rows of the index, which come next; the rest is the data file.
-    const std::size_t rows = bytes.empty() ? 0 : static_cast<unsigned char>(bytes.front()) % 32;
+    // The first byte tells the rows of the index, which come next, and whether they claim what they
+    // like; the rest is the data file.
+    const std::uint8_t what = ByteSource(bytes).Byte();
+    constexpr std::uint8_t anyClaim = 0xE0;
+    const std::size_t rows = what % 32;
     const std::string_view files = bytes.substr(std::min<std::size_t>(1, bytes.size()));
     const std::size_t index = std::min(files.size(), rows * indexRecordSize);
     NoResources resources;
     test::World world(resources);
-    world.Files.Content[indexFile] = files.substr(0, index);
+    world.Files.Content[indexFile] = (what & anyClaim) == anyClaim
+                                         ? std::string(files.substr(0, index))
+                                         : WithShortClaims(files.substr(0, index));
     world.Files.Content[dataFile] = files.substr(index);
 
     std::istringstream stream(world.Files.Content[dataFile]);
