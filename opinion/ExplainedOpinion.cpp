@@ -125,18 +125,29 @@ class OpinionExplainer {
 
 }  // namespace
 
+std::vector<Explanation> ExplainOpinionGroup(const JudgedDesign& design, const Opinion& opinion,
+                                             ElementGroup group) {
+  std::vector<Explanation> explanations;
+  const GroupJudgement* judged = opinion.FindGroup(group);
+  if (judged == nullptr) {
+    return explanations;
+  }
+  const OpinionExplainer explainer(design, opinion, *judged);
+  for (const MemberCheckRow& row : memberChecks) {
+    // Figures at the ends of the range of Double have no digits to show them with.
+    PassOver([&] {
+      if (std::optional<Explanation> explanation = explainer.Explain(row)) {
+        explanations.push_back(std::move(*explanation));
+      }
+    });
+  }
+  return explanations;
+}
+
 std::vector<Explanation> ExplainOpinion(const JudgedDesign& design, const Opinion& opinion) {
   std::vector<Explanation> explanations;
   for (const GroupJudgement& group : opinion.Groups) {
-    const OpinionExplainer explainer(design, opinion, group);
-    for (const MemberCheckRow& row : memberChecks) {
-      // Figures at the ends of the range of Double have no digits to show them with.
-      PassOver([&] {
-        if (std::optional<Explanation> explanation = explainer.Explain(row)) {
-          explanations.push_back(std::move(*explanation));
-        }
-      });
-    }
+    AppendTo(explanations, ExplainOpinionGroup(design, opinion, group.Group));
   }
   return explanations;
 }

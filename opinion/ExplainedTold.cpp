@@ -228,32 +228,46 @@ Explanation ExplainDeflection(const JudgedDesign& design, const ToldDeflection& 
 
 }  // namespace
 
+// A record of figures that its own formulas do not give (it may be empty) stays unexplained.
+
+std::vector<Explanation> ExplainToldGroup(const JudgedDesign& design, ElementGroup group) {
+  std::vector<Explanation> explanations;
+  const ElementGroupRow& row = RowOf(group);
+  const Scheme* scheme = FindScheme(design.Data.TreloType);
+  const bool exists = scheme != nullptr && (group != ElementGroup::Stoyka || scheme->HasVerticals);
+  if (!exists || (design.Check.*row.Block).Area == 0) {
+    return explanations;
+  }
+  const auto add = [&](auto&& explain) { PassOver([&] { explanations.push_back(explain()); }); };
+  const ToldExplainer explainer(design, row);
+  add([&] { return explainer.Strength(); });
+  if (explainer.HasStability()) {
+    add([&] { return explainer.Stability(planeX); });
+    add([&] { return explainer.Stability(planeY); });
+  }
+  add([&] { return explainer.Flex(planeX); });
+  add([&] { return explainer.Flex(planeY); });
+  add([&] { return explainer.User(planeX); });
+  add([&] { return explainer.User(planeY); });
+  return explanations;
+}
+
+std::vector<Explanation> ExplainToldTruss(const JudgedDesign& design,
+                                          const std::optional<ToldDeflection>& deflection) {
+  std::vector<Explanation> explanations;
+  if (deflection && deflection->Limit > 0) {
+    PassOver([&] { explanations.push_back(ExplainDeflection(design, *deflection)); });
+  }
+  return explanations;
+}
+
 std::vector<Explanation> ExplainTold(const JudgedDesign& design,
                                      const std::optional<ToldDeflection>& deflection) {
   std::vector<Explanation> explanations;
-  // A record of figures that its own formulas do not give (it may be empty) stays unexplained.
-  const auto add = [&](auto&& explain) { PassOver([&] { explanations.push_back(explain()); }); };
-  const Scheme* scheme = FindScheme(design.Data.TreloType);
   for (const ElementGroupRow& row : elementGroups) {
-    const bool exists =
-        scheme != nullptr && (row.Group != ElementGroup::Stoyka || scheme->HasVerticals);
-    if (!exists || (design.Check.*row.Block).Area == 0) {
-      continue;
-    }
-    const ToldExplainer explainer(design, row);
-    add([&] { return explainer.Strength(); });
-    if (explainer.HasStability()) {
-      add([&] { return explainer.Stability(planeX); });
-      add([&] { return explainer.Stability(planeY); });
-    }
-    add([&] { return explainer.Flex(planeX); });
-    add([&] { return explainer.Flex(planeY); });
-    add([&] { return explainer.User(planeX); });
-    add([&] { return explainer.User(planeY); });
+    AppendTo(explanations, ExplainToldGroup(design, row.Group));
   }
-  if (deflection && deflection->Limit > 0) {
-    add([&] { return ExplainDeflection(design, *deflection); });
-  }
+  AppendTo(explanations, ExplainToldTruss(design, deflection));
   return explanations;
 }
 

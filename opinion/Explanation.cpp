@@ -1,15 +1,13 @@
 #include "opinion/Explanation.h"
 
-#include <iterator>
+#include "opinion/ExplanationBuilder.h"
 
 namespace trelonit {
 
 std::vector<Explanation> Explain(const JudgedDesign& design, const Opinion& opinion,
                                  const std::optional<ToldDeflection>& deflection) {
   std::vector<Explanation> explanations = ExplainTold(design, deflection);
-  std::vector<Explanation> byNorm = ExplainOpinion(design, opinion);
-  explanations.insert(explanations.end(), std::make_move_iterator(byNorm.begin()),
-                      std::make_move_iterator(byNorm.end()));
+  AppendTo(explanations, ExplainOpinion(design, opinion));
   return explanations;
 }
 

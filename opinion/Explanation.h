@@ -49,12 +49,24 @@ struct ToldDeflection {
   double Limit = 0;
 };
 
-/// The checks of the program's own calculation, group after group, then the deflection where there
-/// is one. Nothing that has no figure: a group without compression has no stability.
+/// The checks of a group by the program's own calculation. Nothing that has no figure: a group
+/// without compression has no stability.
+std::vector<Explanation> ExplainToldGroup(const JudgedDesign& design, ElementGroup group);
+
+/// The checks of the whole truss by the program's own calculation: its deflection, where that has a
+/// limit.
+std::vector<Explanation> ExplainToldTruss(const JudgedDesign& design,
+                                          const std::optional<ToldDeflection>& deflection);
+
+/// The checks of the program's own calculation, group after group, then those of the whole truss.
 std::vector<Explanation> ExplainTold(const JudgedDesign& design,
                                      const std::optional<ToldDeflection>& deflection);
 
-/// The checks of the opinion, each by the bar that rules. Empty for a refusal.
+/// The checks of a group by the opinion, each by the bar that rules.
+std::vector<Explanation> ExplainOpinionGroup(const JudgedDesign& design, const Opinion& opinion,
+                                             ElementGroup group);
+
+/// The checks of the opinion, group after group. Empty for a refusal.
 std::vector<Explanation> ExplainOpinion(const JudgedDesign& design, const Opinion& opinion);
 
 /// Both, the told ones first.

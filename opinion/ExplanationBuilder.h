@@ -1,12 +1,19 @@
 #pragma once
 
+#include <iterator>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "opinion/Explanation.h"
 #include "opinion/Expression.h"
 
 namespace trelonit {
+
+inline void AppendTo(std::vector<Explanation>& explanations, std::vector<Explanation> more) {
+  explanations.insert(explanations.end(), std::make_move_iterator(more.begin()),
+                      std::make_move_iterator(more.end()));
+}
 
 /// Gathers the steps of one explanation; the symbols of a step are known to those after it.
 class ExplanationBuilder {

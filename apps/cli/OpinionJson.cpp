@@ -118,7 +118,7 @@ std::string OpinionJson(const CheckResult& check, const SecondOpinion& opinion) 
                            {"Groups", Groups(check, opinion.Figures)},
                            {"Balance", Balance(opinion.Figures)},
                            {"Findings", FindingsJson(opinion.Findings)},
-                           {"Explanation", Explanations(opinion.Explanations)}};
+                           {"Explanation", Explanations(opinion.Explanations())}};
   return JsonText(object);
 }
 

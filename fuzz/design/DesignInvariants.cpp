@@ -97,7 +97,7 @@ class Work {
     for (const Finding& finding : opinion_.Findings) {
       Show(finding.Text);
     }
-    for (const Explanation& explanation : opinion_.Explanations) {
+    for (const Explanation& explanation : opinion_.Explanations()) {
       Show(explanation.Substitution);
       for (const ExplanationStep& step : explanation.Steps) {
         Show(step.Substitution);

@@ -7,20 +7,42 @@
 
 namespace trelonit {
 
+namespace {
+
+std::optional<ToldDeflection> DeflectionOf(const Calculation& calculation) {
+  const std::optional<ProgibResult>& progib = calculation.Progib;
+  return progib ? std::optional(ToldDeflection{progib->Value, progib->Limit}) : std::nullopt;
+}
+
+}  // namespace
+
 bool SecondOpinion::HasDanger() const {
   return std::any_of(Findings.begin(), Findings.end(),
                      [](const Finding& finding) { return finding.Grade == Severity::Danger; });
 }
 
+std::vector<Explanation> SecondOpinion::Explanations() const {
+  return Of ? Explain(Judged(*Of), Figures, DeflectionOf(*Of)) : std::vector<Explanation>();
+}
+
 std::optional<Explanation> SecondOpinion::FindExplanation(ExplanationSource source,
                                                           std::optional<ElementGroup> group,
                                                           const std::string& check) const {
+  if (!Of) {
+    return std::nullopt;
+  }
+  std::vector<Explanation> candidates;
+  if (group) {
+    candidates = source == ExplanationSource::Told
+                     ? ExplainToldGroup(Judged(*Of), *group)
+                     : ExplainOpinionGroup(Judged(*Of), Figures, *group);
+  } else if (source == ExplanationSource::Told) {
+    candidates = ExplainToldTruss(Judged(*Of), DeflectionOf(*Of));
+  }
   const auto found =
-      std::find_if(Explanations.begin(), Explanations.end(), [&](const Explanation& explanation) {
-        return explanation.Source == source && explanation.Group == group &&
-               explanation.Check == check;
-      });
-  return found == Explanations.end() ? std::nullopt : std::optional(*found);
+      std::find_if(candidates.begin(), candidates.end(),
+                   [&](const Explanation& explanation) { return explanation.Check == check; });
+  return found == candidates.end() ? std::nullopt : std::optional(std::move(*found));
 }
 
 JudgedDesign Judged(const Calculation& calculation) {
@@ -34,12 +56,9 @@ JudgedDesign Judged(const Calculation& calculation) {
 SecondOpinion FormSecondOpinion(const Calculation& calculation, const Circumstances& circumstances,
                                 const NumberLocale& locale) {
   const JudgedDesign judged = Judged(calculation);
-  const std::optional<ProgibResult>& progib = calculation.Progib;
-  const auto deflection = progib ? std::optional(ToldDeflection{progib->Value, progib->Limit})
-                                 : std::optional<ToldDeflection>();
   SecondOpinion opinion{.Figures = FormOpinion(judged)};
   opinion.Findings = FindAll(judged, opinion.Figures, circumstances, locale);
-  opinion.Explanations = Explain(judged, opinion.Figures, deflection);
+  opinion.Of = std::make_shared<const Calculation>(calculation);
   return opinion;
 }
 

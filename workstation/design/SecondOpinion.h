@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,10 +15,14 @@ namespace trelonit {
 /// What statics and the norm say of a calculated design, with the words for it.
 struct SecondOpinion {
   Opinion Figures;
-  std::vector<Finding> Findings;          ///< the gravest first
-  std::vector<Explanation> Explanations;  ///< of the told checks, then of the opinion's
+  std::vector<Finding> Findings;  ///< the gravest first
+  /// What it is an opinion of; null where there is none.
+  std::shared_ptr<const Calculation> Of;
 
   bool HasDanger() const;
+  /// Of the told checks, then of the opinion's. Put into words when somebody asks: forming an
+  /// opinion takes a tenth of that, and most of the words nobody reads.
+  std::vector<Explanation> Explanations() const;
   /// How a check came to its figure; nothing where it has none. Without a group: a check of the
   /// whole truss.
   std::optional<Explanation> FindExplanation(ExplanationSource source,

@@ -45,8 +45,9 @@ class Appendix {
       WriteFindings();
       WriteComparison();
     }
-    WriteExplanations(ExplanationSource::Told, "Проверки расчета с подстановкой : ");
-    WriteExplanations(ExplanationSource::Opinion, "Проверки по СНиП с подстановкой : ");
+    const std::vector<Explanation> all = opinion_.Explanations();
+    WriteExplanations(all, ExplanationSource::Told, "Проверки расчета с подстановкой : ");
+    WriteExplanations(all, ExplanationSource::Opinion, "Проверки по СНиП с подстановкой : ");
   }
 
  private:
@@ -85,9 +86,10 @@ class Appendix {
     }
   }
 
-  void WriteExplanations(ExplanationSource source, const std::string& heading) {
+  void WriteExplanations(const std::vector<Explanation>& all, ExplanationSource source,
+                         const std::string& heading) {
     bool begun = false;
-    for (const Explanation& explanation : opinion_.Explanations) {
+    for (const Explanation& explanation : all) {
       if (explanation.Source == source) {
         if (!begun) {
           out_.Heading(heading);

@@ -140,8 +140,8 @@ TEST(ExplanationView, TakesTheColoursOfANewTheme) {
 TEST(ExplanationViewOfADesign, HasEveryFigureOfEveryExplanation) {
   FilledResults results;
   std::size_t steps = 0;
-  ASSERT_GT(results.Form.Opinion.Explanations.size(), 40U);
-  for (const Explanation& explanation : results.Form.Opinion.Explanations) {
+  ASSERT_GT(results.Form.Opinion.Explanations().size(), 40U);
+  for (const Explanation& explanation : results.Form.Opinion.Explanations()) {
     ViewScreen screen({{.Told = explanation}}, 1100, PointLocale());
     const auto expect = [&](const std::string& text) {
       EXPECT_TRUE(screen.Says(text)) << text << "\nin\n" << screen.Text();
