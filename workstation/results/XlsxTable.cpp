@@ -4,12 +4,12 @@
 #include <filesystem>
 #include <map>
 #include <random>
-#include <xlsxwriter.h>
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/files/FileBytes.h"
 #include "platform/files/Paths.h"
 #include "platform/text/Text.h"
+#include "workstation/results/XlsxLibrary.h"
 
 namespace trelonit {
 
@@ -56,8 +56,8 @@ void Require(lxw_error error) {
 /// The sheet of one table in a workbook.
 class Sheet {
  public:
-  Sheet(lxw_workbook* book, const ResultTable& table)
-      : book_(book), sheet_(workbook_add_worksheet(book, nullptr)), table_(table) {
+  Sheet(const XlsxLibrary& library, lxw_workbook* book, const ResultTable& table)
+      : library_(library), book_(book), sheet_(library.AddWorksheet(book, nullptr)), table_(table) {
     if (sheet_ == nullptr) {
       throw RuntimeError(ErrorNumber::DeviceIoError);
     }
@@ -70,45 +70,44 @@ class Sheet {
         Add(static_cast<lxw_row_t>(row + 1), column, table_.Rows[row][column]);
       }
     }
-    worksheet_freeze_panes(sheet_, 1, 0);
-    worksheet_set_landscape(sheet_);
+    library_.FreezePanes(sheet_, 1, 0);
+    library_.SetLandscape(sheet_);
     constexpr std::uint8_t a4 = 9;
-    worksheet_set_paper(sheet_, a4);
-    worksheet_fit_to_pages(sheet_, 1, 0);
-    Require(worksheet_repeat_rows(sheet_, 0, 0));
+    library_.SetPaper(sheet_, a4);
+    library_.FitToPages(sheet_, 1, 0);
+    Require(library_.RepeatRows(sheet_, 0, 0));
   }
 
  private:
   void AddHead() {
-    lxw_format* bold = workbook_add_format(book_);
-    format_set_bold(bold);
-    format_set_text_wrap(bold);
-    format_set_align(bold, LXW_ALIGN_VERTICAL_TOP);
+    lxw_format* bold = library_.AddFormat(book_);
+    library_.SetBold(bold);
+    library_.SetTextWrap(bold);
+    library_.SetAlign(bold, LXW_ALIGN_VERTICAL_TOP);
     for (std::size_t column = 0; column < table_.Columns.size(); ++column) {
       const auto place = static_cast<lxw_col_t>(column);
-      Require(
-          worksheet_write_string(sheet_, 0, place, table_.Columns[column].Caption.c_str(), bold));
-      Require(worksheet_set_column(sheet_, place, place, Width(column), nullptr));
+      Require(library_.WriteString(sheet_, 0, place, table_.Columns[column].Caption.c_str(), bold));
+      Require(library_.SetColumn(sheet_, place, place, Width(column), nullptr));
     }
   }
 
   void Add(lxw_row_t row, std::size_t column, const TableCell& cell) {
     const auto place = static_cast<lxw_col_t>(column);
     if (const auto* text = std::get_if<std::string>(&cell)) {
-      Require(worksheet_write_string(sheet_, row, place, text->c_str(), nullptr));
+      Require(library_.WriteString(sheet_, row, place, text->c_str(), nullptr));
     } else if (const auto* number = std::get_if<double>(&cell)) {
-      Require(worksheet_write_number(sheet_, row, place, *number,
-                                     FormatOf(table_.Columns[column].Decimals)));
+      Require(library_.WriteNumber(sheet_, row, place, *number,
+                                   FormatOf(table_.Columns[column].Decimals)));
     }
   }
 
   lxw_format* FormatOf(int decimals) {
     lxw_format*& format = formats_[decimals];
     if (format == nullptr) {
-      format = workbook_add_format(book_);
+      format = library_.AddFormat(book_);
       const std::string pattern =
           decimals == 0 ? "0" : "0." + std::string(static_cast<std::size_t>(decimals), '0');
-      format_set_num_format(format, pattern.c_str());
+      library_.SetNumberFormat(format, pattern.c_str());
     }
     return format;
   }
@@ -125,6 +124,7 @@ class Sheet {
     return static_cast<double>(std::min(letters, widest));
   }
 
+  const XlsxLibrary& library_;
   lxw_workbook* book_;
   lxw_worksheet* sheet_;
   const ResultTable& table_;
@@ -132,12 +132,13 @@ class Sheet {
 };
 
 std::string WriteXlsx(const ResultTable& table) {
+  const XlsxLibrary& library = LoadXlsxLibrary();
   const ScratchFolder folder;
   const std::string path = Utf8OfPath(folder.Path() / "table.xlsx");
   std::string tmpdir = Utf8OfPath(folder.Path());
   lxw_workbook_options options{};
   options.tmpdir = tmpdir.data();
-  lxw_workbook* book = workbook_new_opt(path.c_str(), &options);
+  lxw_workbook* book = library.NewWorkbook(path.c_str(), &options);
   if (book == nullptr) {
     throw RuntimeError(ErrorNumber::DeviceIoError);
   }
@@ -145,14 +146,14 @@ std::string WriteXlsx(const ResultTable& table) {
   lxw_doc_properties properties{};
   properties.title = title.data();
   try {
-    Require(workbook_set_properties(book, &properties));
-    Sheet(book, table).Fill();
+    Require(library.SetProperties(book, &properties));
+    Sheet(library, book, table).Fill();
   } catch (...) {
     // The only way to have the library let go of it.
-    workbook_close(book);
+    library.CloseWorkbook(book);
     throw;
   }
-  Require(workbook_close(book));
+  Require(library.CloseWorkbook(book));
   DiskFiles files;
   return ReadBytes(files, path);
 }
