@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPixmap>
+#include <QPixmapCache>
 
 #include "windows/binding/Pictures.h"
 
@@ -18,10 +19,22 @@ class PictureIconEngine : public QIconEngine {
     DrawPicture(*painter, place, file_, QGuiApplication::palette(), mode != QIcon::Disabled);
   }
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(), size), mode, state);
+    // The window system asks for the icon of a window in several sizes, and more than once.
+    const QString key = QStringLiteral("%1 %2x%3 %4 %5")
+                            .arg(file_)
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(mode)
+                            .arg(QGuiApplication::palette().cacheKey());
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+      pixmap = QPixmap(size);
+      pixmap.fill(Qt::transparent);
+      QPainter painter(&pixmap);
+      paint(&painter, QRect(QPoint(), size), mode, state);
+      painter.end();
+      QPixmapCache::insert(key, pixmap);
+    }
     return pixmap;
   }
   QIconEngine* clone() const override { return new PictureIconEngine(file_); }

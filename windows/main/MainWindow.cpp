@@ -139,10 +139,13 @@ QWidget* MainWindow::NewOwnWeightBanner() {
 QTabWidget* MainWindow::NewTabs() {
   auto* tabs = new QTabWidget;
   tabs->setObjectName(QStringLiteral("tabMain"));
-  tabs->addTab(new SchemeTab(form_), QStringLiteral("Параметры фермы"));
+  // The first page is shown as soon as the tabs have it: filled, it would be laid out there, before
+  // its controls have their fonts and the window its size, and then again.
+  QWidget* schemePage = AddPage(tabs, QStringLiteral("Параметры фермы"));
+  schemePage->layout()->addWidget(new SchemeTab(form_));
   sectionPage_ = AddPage(tabs, QStringLiteral("Сечение элементов"));
   loadPage_ = AddPage(tabs, QStringLiteral("Вычислить"));
-  SetHelpPlace(*tabs->widget(0), help_place::Scheme);
+  SetHelpPlace(*schemePage, help_place::Scheme);
   SetHelpPlace(*sectionPage_, help_place::Sections);
   SetHelpPlace(*loadPage_, help_place::Loads);
   QObject::connect(tabs, &QTabWidget::currentChanged, this, [this] { CompleteTabs(); });
