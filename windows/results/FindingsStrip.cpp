@@ -1,10 +1,13 @@
 #include "windows/results/FindingsStrip.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
+#include <functional>
 
 #include "opinion/Opinion.h"
 #include "windows/binding/Binding.h"
@@ -33,24 +36,69 @@ QString WordOf(Severity severity) {
   return QString::fromUtf8(SeverityWord(severity));
 }
 
-/// "Опасно: 2 Внимание: 1", each in its colour, without those that there are none of.
-QString CountsOf(const std::vector<Finding>& findings, const QPalette& palette) {
-  QStringList counts;
-  for (const Severity severity : {Severity::Danger, Severity::Warning, Severity::Note}) {
-    const auto count = std::count_if(findings.begin(), findings.end(), [&](const Finding& finding) {
-      return finding.Grade == severity;
+/// Between two counts.
+const QString countGap = QStringLiteral("   ");
+
+/// "Опасно: 2 Внимание: 1", each in its colour, without those that there are none of. Painted piece
+/// by piece: as rich text it would take as long to lay out as all other labels of the window.
+class CountsLabel : public QLabel {
+ public:
+  explicit CountsLabel(const std::vector<Finding>& findings) {
+    setTextFormat(Qt::PlainText);
+    QStringList texts;
+    for (const Severity severity : {Severity::Danger, Severity::Warning, Severity::Note}) {
+      const auto count =
+          std::count_if(findings.begin(), findings.end(),
+                        [&](const Finding& finding) { return finding.Grade == severity; });
+      if (count > 0) {
+        counts_.push_back({severity, QStringLiteral("%1: %2").arg(WordOf(severity)).arg(count)});
+        texts << counts_.back().Text;
+      }
+    }
+    setText(texts.join(countGap));
+  }
+
+  QSize sizeHint() const override {
+    double width = 0;
+    Walk([&width](const Count& count, const QFont& font, double left) {
+      width = left + QFontMetricsF(font).horizontalAdvance(count.Text);
     });
-    if (count > 0) {
-      counts << QStringLiteral("<span style=\"color:%1; font-weight:%2\">%3: %4</span>")
-                    .arg(SeverityColor(severity, palette).name(),
-                         severity == Severity::Danger ? QStringLiteral("bold")
-                                                      : QStringLiteral("normal"),
-                         WordOf(severity))
-                    .arg(count);
+    return {static_cast<int>(std::ceil(width)), fontMetrics().height()};
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const double baseline =
+        (height() - fontMetrics().height()) / 2 + QFontMetricsF(font()).ascent();
+    Walk([&](const Count& count, const QFont& font, double left) {
+      painter.setFont(font);
+      painter.setPen(SeverityColor(count.Of, palette()));
+      painter.drawText(QPointF(left, baseline), count.Text);
+    });
+  }
+
+ private:
+  struct Count {
+    Severity Of;
+    QString Text;
+  };
+
+  /// Hands on each count with its font and where it begins.
+  void Walk(const std::function<void(const Count&, const QFont&, double)>& step) const {
+    const double between = QFontMetricsF(font()).horizontalAdvance(countGap);
+    double left = 0;
+    for (const Count& count : counts_) {
+      QFont letters = font();
+      letters.setBold(count.Of == Severity::Danger);
+      step(count, letters, left);
+      left += QFontMetricsF(letters).horizontalAdvance(count.Text) + between;
     }
   }
-  return counts.join(QStringLiteral("&nbsp;&nbsp; "));
-}
+
+  std::vector<Count> counts_;
+};
 
 void SetInk(QLabel& label, const QColor& color, bool bold) {
   QPalette palette = label.palette();
@@ -92,7 +140,7 @@ void FindingsStrip::AddStatement(const QString& text, std::optional<Severity> se
 void FindingsStrip::AddSummary(const std::vector<Finding>& findings) {
   const Severity gravest = findings.front().Grade;
   row_->addWidget(NewSeverityMark(gravest));
-  auto* counts = new QLabel(CountsOf(findings, palette()));
+  auto* counts = new CountsLabel(findings);
   counts->setObjectName(QStringLiteral("FindingsCounts"));
   row_->addWidget(counts);
   row_->addSpacing(8);

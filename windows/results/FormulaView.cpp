@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QMimeData>
 #include <QPalette>
+#include <QTextBlock>
 #include <QTextObjectInterface>
 #include <algorithm>
 #include <cstring>
@@ -48,7 +49,7 @@ class FormulaObject : public QObject, public QTextObjectInterface {
   using QObject::QObject;
 
   QSizeF intrinsicSize(QTextDocument*, int, const QTextFormat& format) override {
-    const FormulaBox box = BoxOf(format);
+    const FormulaBox& box = Box(format);
     const QFontMetricsF letters(format.toCharFormat().font());
     const double rise = RiseOfMiddle(format);
     // The letters beside it must not move the middle either.
@@ -61,7 +62,7 @@ class FormulaObject : public QObject, public QTextObjectInterface {
                   const QTextFormat& format) override {
     const QBrush ink = format.foreground();
     const QPointF baseline(place.left(), place.center().y() + RiseOfMiddle(format));
-    PaintFormula(*painter, BoxOf(format), baseline,
+    PaintFormula(*painter, Box(format), baseline,
                  ink.style() == Qt::NoBrush ? painter->pen().color() : ink.color());
   }
 
@@ -71,12 +72,48 @@ class FormulaObject : public QObject, public QTextObjectInterface {
                ? static_cast<QTextObjectInterface*>(this)
                : QObject::qt_metacast(name);
   }
+
+ private:
+  /// The layout asks for a formula's size more than once before it is painted.
+  const FormulaBox& Box(const QTextFormat& format) {
+    const QFont font = format.toCharFormat().font();
+    const auto found = std::find_if(set_.begin(), set_.end(), [&](const SetOnce& set) {
+      return set.Format == format && set.Font == font;
+    });
+    if (found != set_.end()) {
+      return found->Box;
+    }
+    constexpr std::size_t most = 200;
+    if (set_.size() == most) {
+      set_.clear();
+    }
+    set_.push_back({format, font, BoxOf(format)});
+    return set_.back().Box;
+  }
+
+  struct SetOnce {
+    QTextFormat Format;
+    QFont Font;
+    FormulaBox Box;
+  };
+  std::vector<SetOnce> set_;
 };
 
 /// Whether a paragraph, a cell or a table ends (or begins) there.
 bool IsEnd(QChar character) {
   return character == QChar::ParagraphSeparator || character == QChar::LineSeparator ||
          character == QChar(0xFDD0) || character == QChar(0xFDD1);
+}
+
+/// The format of a letter. A cursor would lay the text out on its way there.
+QTextCharFormat FormatAt(const QTextDocument& document, int place) {
+  const QTextBlock block = document.findBlock(place);
+  for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+    if (piece.fragment().contains(place)) {
+      return piece.fragment().charFormat();
+    }
+  }
+  return {};
 }
 
 struct Term {
@@ -148,12 +185,12 @@ QString FormulaView::InLine() const {
 
 QString FormulaView::InLine(int from, int to) const {
   QString text;
-  QTextCursor cursor(document());
+  // Asking the document for one letter after the other would look for its place each time.
+  const QString letters = document()->toRawText();
   for (int place = from; place < to; ++place) {
-    const QChar character = document()->characterAt(place);
+    const QChar character = letters[place];
     if (character == QChar::ObjectReplacementCharacter) {
-      cursor.setPosition(place + 1);
-      const QTextCharFormat format = cursor.charFormat();
+      const QTextCharFormat format = FormatAt(*document(), place);
       text += format.stringProperty(signProperty) +
               ToQt(FormulaInLine(FromQt(format.stringProperty(formulaProperty)), LocaleOf(format)));
     } else if (character == QChar::Nbsp) {

@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "windows/binding/Binding.h"
 #include "windows/binding/Pictures.h"
@@ -22,6 +23,7 @@ constexpr double titleHeight = 20;
 constexpr double markMargin = 7;
 constexpr double thinnest = 1.2;
 constexpr double thickest = 7;
+constexpr double jointRadius = 2.5;
 constexpr double hintDistance = 8;
 constexpr int forceDecimals = 2;
 constexpr int useDecimals = 3;
@@ -35,6 +37,21 @@ double DistanceToBar(QPointF point, QPointF a, QPointF b) {
   return std::hypot(away.x(), away.y());
 }
 
+/// Where the bars meet, each place once: drawn bar by bar, a joint would cost as often as bars end
+/// in it, and its edge would grow darker each time.
+std::vector<QPointF> JointsOf(const std::vector<PictureBar>& bars) {
+  std::vector<QPointF> joints;
+  for (const PictureBar& bar : bars) {
+    joints.emplace_back(bar.X1, bar.Y1);
+    joints.emplace_back(bar.X2, bar.Y2);
+  }
+  std::sort(joints.begin(), joints.end(), [](QPointF one, QPointF other) {
+    return std::pair(one.x(), one.y()) < std::pair(other.x(), other.y());
+  });
+  joints.erase(std::unique(joints.begin(), joints.end()), joints.end());
+  return joints;
+}
+
 QString BarHint(const PictureBar& bar) {
   return QStringLiteral("%1, стержень %2: %3 т")
       .arg(ToQt(GroupName(bar.Group)))
@@ -45,7 +62,7 @@ QString BarHint(const PictureBar& bar) {
 }  // namespace
 
 TrussView::TrussView(std::vector<PictureBar> bars, QWidget* parent)
-    : QWidget(parent), bars_(std::move(bars)) {
+    : QWidget(parent), bars_(std::move(bars)), joints_(JointsOf(bars_)) {
   setMinimumSize(320, 90);
   setMouseTracking(true);
   double left = 0;
@@ -112,10 +129,13 @@ void TrussView::paintEvent(QPaintEvent*) {
   DrawMark(painter, place);
   for (const PictureBar& bar : bars_) {
     const double share = greatest_ > 0 ? std::abs(bar.Force) / greatest_ : 0;
+    const double wide = thinnest + share * (thickest - thinnest);
+    // The joints hide the ends of thin bars; rounded ones take several times as long to paint.
     QPen pen(bar.Force > 0   ? TensionColor(palette())
              : bar.Force < 0 ? CompressionColor(palette())
                              : QuietColor(palette()),
-             thinnest + share * (thickest - thinnest), Qt::SolidLine, Qt::RoundCap);
+             wide, Qt::SolidLine,
+             bar.Force != 0 && wide < 2 * jointRadius ? Qt::FlatCap : Qt::RoundCap);
     if (bar.Force == 0) {
       pen.setStyle(Qt::DashLine);
     }
@@ -124,9 +144,8 @@ void TrussView::paintEvent(QPaintEvent*) {
   }
   painter.setPen(QPen(palette().color(QPalette::Text), 1));
   painter.setBrush(palette().color(QPalette::Base));
-  for (const PictureBar& bar : bars_) {
-    painter.drawEllipse(place.map(QPointF(bar.X1, bar.Y1)), 2.5, 2.5);
-    painter.drawEllipse(place.map(QPointF(bar.X2, bar.Y2)), 2.5, 2.5);
+  for (const QPointF joint : joints_) {
+    painter.drawEllipse(place.map(joint), jointRadius, jointRadius);
   }
   DrawLegend(painter);
 }

@@ -39,6 +39,7 @@ class TrussView : public QWidget {
   const PictureBar* BarAt(QPointF place) const;
 
   std::vector<PictureBar> bars_;
+  std::vector<QPointF> joints_;
   QRectF bounds_;
   double greatest_ = 0;
   std::optional<MarkedBar> marked_;

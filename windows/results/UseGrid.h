@@ -29,6 +29,7 @@ class UseGrid : public QTableWidget {
   /// toolkit's own fitting would measure every cell anew whenever the grid takes another size.
   void FitFigures();
   void FitRows();
+  int HeightOfCheck(int row) const;
   void Copy() const;
   const ResultRow* ChosenRow() const;
 
