@@ -139,16 +139,27 @@ void RemoveSourceViewer(RegistryService& registry) {
 }
 
 AssociationChoice RegistryAssociations::Present() {
-  return {.Owner = ReadTextOwner(services_.Registry),
+  return {.Owner = ReadTextOwner(registry_),
           .SendTo = services_.Files.FileExists(SendToShortcut(services_.Shell)),
-          .SourceViewer = HasSourceViewer(services_.Registry)};
+          .SourceViewer = HasSourceViewer(registry_)};
 }
 
 void RegistryAssociations::Apply(const AssociationChoice& choice) {
+  ApplyInOrder(choice);
+  if (registry_.TakeRefused()) {
+    services_.Messages.Show(
+        {.Title = "Связь с файлами",
+         .Text = "Прав администратора нет, поэтому выбор записан только для вас: у других "
+                 "пользователей этого компьютера ничего не изменилось.",
+         .Style = MessageStyle::Information});
+  }
+}
+
+void RegistryAssociations::ApplyInOrder(const AssociationChoice& choice) {
   if (choice.Owner == TextOwner::Pad) {
-    GiveTextFilesToPad(services_.Registry, services_.Shell);
+    GiveTextFilesToPad(registry_, services_.Shell);
   } else if (choice.Owner == TextOwner::System) {
-    GiveTextFilesToSystem(services_.Registry, services_.Shell);
+    GiveTextFilesToSystem(registry_, services_.Shell);
   }
   if (choice.SendTo) {
     CreateSendToShortcut(services_.Automation, services_.Shell);
@@ -158,9 +169,9 @@ void RegistryAssociations::Apply(const AssociationChoice& choice) {
   // Last, as intended: taking the text files makes the pad the source viewer too, and a cleared box
   // takes that back. The other way round the box would never agree with the machine.
   if (choice.SourceViewer) {
-    AddSourceViewer(services_.Registry, services_.Shell);
+    AddSourceViewer(registry_, services_.Shell);
   } else {
-    RemoveSourceViewer(services_.Registry);
+    RemoveSourceViewer(registry_);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "editor/associations/FileAssociations.h"
+#include "editor/associations/UsersRegistry.h"
 #include "platform/system/Services.h"
 
 namespace trelonit {
@@ -33,17 +34,22 @@ void AddSourceViewer(RegistryService& registry, ShellService& shell);
 /// Does nothing where there is none.
 void RemoveSourceViewer(RegistryService& registry);
 
-/// All of this as one choice.
+/// All of this as one choice. A user without an administrator's rights gets it for himself alone,
+/// and is told so.
 class RegistryAssociations : public FileAssociations {
  public:
   /// The services outlive it.
-  explicit RegistryAssociations(const Services& services) : services_(services) {}
+  explicit RegistryAssociations(const Services& services)
+      : services_(services), registry_(services.Registry) {}
   AssociationChoice Present() override;
   void Apply(const AssociationChoice& choice) override;
   std::string OwnedFiles() const override { return ".txt, .log"; }
 
  private:
+  void ApplyInOrder(const AssociationChoice& choice);
+
   Services services_;
+  UsersRegistry registry_;
 };
 
 }  // namespace trelonit

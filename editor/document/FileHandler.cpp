@@ -80,7 +80,7 @@ std::string Decoded(std::string_view bytes) {
   return IsUtf8(bytes) ? std::string(bytes) : DecodeCodePage1251(bytes);
 }
 
-constexpr std::uint64_t unit = 1024;
+constexpr std::uint64_t sizeStep = 1024;
 
 /// Groups of three, no decimals.
 std::string CountText(Long count, const NumberLocale& locale) {
@@ -214,7 +214,7 @@ void WritePlainText(FileService& files, const std::string& name, const std::stri
 }
 
 std::string SizeText(std::uint64_t bytes, const NumberLocale& locale) {
-  if (bytes < unit) {
+  if (bytes < sizeStep) {
     return std::to_string(bytes) + " bytes";
   }
   const auto in = [&](std::uint64_t size, const char* name) {
@@ -222,10 +222,11 @@ std::string SizeText(std::uint64_t bytes, const NumberLocale& locale) {
     return FormatPlain(static_cast<double>(bytes) / static_cast<double>(size), decimals, locale) +
            name;
   };
-  if (bytes < unit * unit) {
-    return in(unit, " KB");
+  if (bytes < sizeStep * sizeStep) {
+    return in(sizeStep, " KB");
   }
-  return bytes <= unit * unit * unit ? in(unit * unit, " MB") : in(unit * unit * unit, " GB");
+  return bytes <= sizeStep * sizeStep * sizeStep ? in(sizeStep * sizeStep, " MB")
+                                                 : in(sizeStep * sizeStep * sizeStep, " GB");
 }
 
 std::string StatisticsText(const RichTextBox& rtf, const std::string& fileName,

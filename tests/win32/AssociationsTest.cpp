@@ -186,6 +186,51 @@ TEST_F(Associations, AreAppliedAndReadAsOneChoice) {
   EXPECT_FALSE(present.SourceViewer);
 }
 
+/// The machine's registry for a user who may change nothing but his own.
+class UsersOnly : public Win32Registry {
+ public:
+  void SetValue(RegistryRoot root, const std::string& key, const std::string& name,
+                const RegistryValue& value) override {
+    Require(root);
+    Win32Registry::SetValue(root, key, name, value);
+  }
+  void DeleteKey(RegistryRoot root, const std::string& key) override {
+    Require(root);
+    Win32Registry::DeleteKey(root, key);
+  }
+
+ private:
+  static void Require(RegistryRoot root) {
+    if (root != RegistryRoot::CurrentUser) {
+      throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
+  }
+};
+
+TEST_F(Associations, AreTheUsersOwnWithoutAnAdministratorsRights) {
+  UsersOnly usersOnly;
+  Services bundle{world.Messages, world.Dialogs, world.Clipboard, world.Settings,
+                  usersOnly,      automation,    shell,           world.Clock,
+                  resources,      files,         world.Locale,    world.ProgramFolder};
+  RegistryAssociations users(bundle);
+  users.Apply({.Owner = TextOwner::Pad, .SourceViewer = true});
+  EXPECT_EQ(users.Present(), (AssociationChoice{.Owner = TextOwner::Pad, .SourceViewer = true}));
+  EXPECT_EQ(ReadRegistryText(registry, RegistryRoot::CurrentUser,
+                             "Software\\Classes\\Quillet plain text\\shell\\open\\command", ""),
+            Program() + " %1");
+  EXPECT_EQ(ReadRegistryText(registry, RegistryRoot::CurrentUser, viewerKey, ""), Program());
+  EXPECT_EQ(Viewer(), "(none)");
+  EXPECT_EQ(world.Messages.Shown.size(), 1U);
+  users.Apply({.Owner = TextOwner::System});
+  EXPECT_EQ(users.Present(), (AssociationChoice{.Owner = TextOwner::System}));
+  // What the test has made of the user.
+  for (const char* key :
+       {".txt", ".log", "Quillet plain text", "inifile", "inffile", "batfile", "JSEFile", "JSFile",
+        "scpfile", "VBEFile", "VBSFile", "WSFFile", "regfile"}) {
+    registry.DeleteKey(RegistryRoot::CurrentUser, std::string("Software\\Classes\\") + key);
+  }
+}
+
 }  // namespace
 
 }  // namespace trelonit::test

@@ -22,13 +22,14 @@ class MachineLog {
   void Step(const std::string& step) {
     if (Steps.size() + 1 == FailingStep) {
       FailingStep = 0;
-      throw RuntimeError(ErrorNumber::PermissionDenied);
+      throw RuntimeError(Error);
     }
     Steps.push_back(step);
   }
   std::vector<std::string> Steps;
   /// From 1; 0 for none.
   std::size_t FailingStep = 0;
+  ErrorNumber Error = ErrorNumber::DeviceIoError;
 };
 
 /// A registry whose keys know no case, as the real one's.
@@ -42,14 +43,23 @@ class RecordingRegistry : public RegistryService {
   }
   void SetValue(RegistryRoot root, const std::string& key, const std::string& name,
                 const RegistryValue& value) override {
+    if (IsUsersOnly && root != RegistryRoot::CurrentUser) {
+      throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
     log_.Step(Place(root, key) + (name.empty() ? "" : " : " + name) + " = " +
               std::get<std::string>(value));
     Put(root, key, name, value);
   }
   void DeleteKey(RegistryRoot root, const std::string& key) override {
+    if (IsUsersOnly && root != RegistryRoot::CurrentUser) {
+      throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
     log_.Step("delete " + Place(root, key));
     keys_.erase({root, LowerLatin(key)});
   }
+
+  /// Whether only the user's own keys may be changed.
+  bool IsUsersOnly = false;
 
   /// What the machine holds without anybody's doing.
   void Put(RegistryRoot root, const std::string& key, const std::string& name,
@@ -73,7 +83,15 @@ class RecordingRegistry : public RegistryService {
   };
 
   static std::string Place(RegistryRoot root, const std::string& key) {
-    return (root == RegistryRoot::ClassesRoot ? "classes\\" : "machine\\") + key;
+    switch (root) {
+      case RegistryRoot::ClassesRoot:
+        return "classes\\" + key;
+      case RegistryRoot::CurrentUser:
+        return "user\\" + key;
+      case RegistryRoot::LocalMachine:
+        break;
+    }
+    return "machine\\" + key;
   }
 
   MachineLog& log_;

@@ -258,13 +258,69 @@ TEST_F(Assoc, TellsAFailureAtAnyStepAndCanBeAppliedAgain) {
     const auto done = static_cast<std::ptrdiff_t>(failing - 1);
     EXPECT_EQ(desk.Done(), Steps(all.begin(), all.begin() + done));
     EXPECT_EQ(desk.world.Messages.Shown,
-              std::vector{OtchetDesk::Failure("cmdApply_Click", ErrorNumber::PermissionDenied)});
+              std::vector{OtchetDesk::Failure("cmdApply_Click", ErrorNumber::DeviceIoError)});
     EXPECT_TRUE(desk.form.cmdApply.Enabled()) << failing;
     EXPECT_TRUE(desk.form.ChSendto.Checked());
     desk.form.cmdApply_Click();
     EXPECT_EQ(desk.Done(), all);
     EXPECT_FALSE(desk.form.cmdApply.Enabled()) << failing;
   }
+}
+
+TEST_F(Assoc, IsForTheUserAloneWithoutAnAdministratorsRights) {
+  PutClass(".txt", "txtfile");
+  registry.IsUsersOnly = true;
+  form.Form_Load();
+  EXPECT_TRUE(form.Option2.Value());
+  form.Option1.SetValue(true);
+  form.ChSC.SetChecked(true);
+  form.cmdApply_Click();
+  Steps forTheUser;
+  for (const std::string& step : ToPad()) {
+    const bool isClass = step.starts_with("classes");
+    forTheUser.push_back((isClass ? "user\\Software\\Classes" : "user") +
+                         step.substr(step.find('\\')));
+  }
+  EXPECT_EQ(Done(), forTheUser);
+  const Message told{.Title = "Связь с файлами",
+                     .Text =
+                         "Прав администратора нет, поэтому выбор записан только для вас: у "
+                         "других пользователей этого компьютера ничего не изменилось.",
+                     .Style = MessageStyle::Information};
+  EXPECT_EQ(world.Messages.Shown, std::vector{told});
+  // What everybody has is still Notepad's; the user's own comes first.
+  EXPECT_EQ(associations.Present(),
+            (AssociationChoice{.Owner = TextOwner::Pad, .SourceViewer = true}));
+  EXPECT_FALSE(form.cmdApply.Enabled());
+
+  world.Messages.Shown.clear();
+  form.Option2.SetValue(true);
+  form.ChSC.SetChecked(false);
+  form.cmdApply_Click();
+  EXPECT_EQ(associations.Present(), (AssociationChoice{.Owner = TextOwner::System}));
+  // The classes are the user's own by now, so that nothing was refused.
+  EXPECT_EQ(world.Messages.Shown, std::vector<Message>{});
+}
+
+TEST_F(Assoc, TellsWhereAnotherUsersSourceViewerMayNotBeRemoved) {
+  PutSourceViewer("C:\\other.exe");
+  registry.IsUsersOnly = true;
+  form.Form_Load();
+  form.ChSC.SetChecked(false);
+  form.cmdApply_Click();
+  EXPECT_EQ(world.Messages.Shown,
+            std::vector{OtchetDesk::Failure("cmdApply_Click", ErrorNumber::PermissionDenied)});
+  EXPECT_TRUE(associations.Present().SourceViewer);
+}
+
+TEST_F(Assoc, WritesAClassThatTheUserHasAlreadyInItsPlace) {
+  PutClass(".log", "txtfile");
+  registry.Put(RegistryRoot::CurrentUser, "Software\\Classes\\.log", "", std::string("other"));
+  associations.Apply({.Owner = TextOwner::System});
+  Steps expected = ToSystem();
+  expected[1] = R"(user\Software\Classes\.log = txtfile)";
+  EXPECT_EQ(Done(), expected);
+  EXPECT_EQ(world.Messages.Shown, std::vector<Message>{});
 }
 
 TEST_F(Assoc, OpensWithAMessageWhereTheMachineHasNoSuchPlaces) {
