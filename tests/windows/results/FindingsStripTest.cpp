@@ -56,11 +56,11 @@ struct StripScreen {
 
 TEST(FindingsStripWithDanger, IsRedBoldWithItsMarkAndItsWord) {
   StripScreen screen({danger, danger, shortLength, note});
-  const auto& counts = Find<QLabel>(screen.Window, "FindingsCounts");
+  auto& counts = Find<QLabel>(screen.Window, "FindingsCounts");
   EXPECT_EQ(FromQt(counts.text().simplified()), "Опасно: 2 Внимание: 1 Примечание: 1");
   EXPECT_GT(CountPixels(counts, screen.Red()), 50);
-  EXPECT_GT(CountPixels(counts, SeverityColor(Severity::Warning, screen.Window.palette())), 20);
-  EXPECT_GT(CountPixels(counts, SeverityColor(Severity::Note, screen.Window.palette())), 20);
+  EXPECT_GT(CountPixels(counts, SeverityColor(Severity::Warning, screen.Window.palette())), 10);
+  EXPECT_GT(CountPixels(counts, SeverityColor(Severity::Note, screen.Window.palette())), 10);
   EXPECT_EQ(FromQt(screen.Text().text()), "Верхний пояс плох.");
   EXPECT_TRUE(screen.Text().font().bold());
   EXPECT_EQ(screen.Ink(screen.Text()), screen.Red());
