@@ -118,6 +118,14 @@ TEST_P(SchemeTable, RefusesMoreJointsThanAnyTrussHas) {
   EXPECT_THROW(TrussOf(data), RuntimeError);
 }
 
+TEST_P(SchemeTable, HasUpToAThousandPanels) {
+  TreloData data = LongEndPanels(GetParam(), 8);
+  data.PanelNum = 1000;
+  EXPECT_EQ(TrussOf(data).Upper.size(), 1001U);
+  data.PanelNum = 1002;
+  EXPECT_THROW(TrussOf(data), RuntimeError);
+}
+
 INSTANTIATE_TEST_SUITE_P(Schemes, SchemeTable, testing::Values(1, 2, 3, 4));
 
 TEST(SchemeTable, KeepsThePlacesOfTheReservedSchemes) {

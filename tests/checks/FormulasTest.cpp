@@ -214,6 +214,7 @@ TEST(Mass, ThatIsNotPositiveIsZero) {
   EXPECT_EQ(CalcMass(Lengths(1, 1, 1, 1, 1), -7.85, sections), 0);
   EXPECT_EQ(CalcMass(Lengths(-1, 0, 0, 0, 0), 7.85, sections), 0);
   EXPECT_EQ(CalcMass(TreloResult(), 7.85, sections), 0);
+  EXPECT_FALSE(std::signbit(CalcMass(TreloResult(), -7.85, sections)));
 }
 
 void ExpectExtreme(const ForceExtreme& extreme, double value, Long index) {

@@ -162,6 +162,14 @@ TEST(SteelWithoutTable, TellsThatTheResourceCannotBeRead) {
                                                    .Style = MessageStyle::Plain}));
 }
 
+TEST(SteelWithoutTable, ForgetsTheImportanceOfBefore) {
+  SteelDesk desk({}, true);
+  desk.Form.optOtvetstven_Click(4);
+  EXPECT_EQ(desk.Form.Gn, 0.9);
+  desk.Form.Form_Load();
+  EXPECT_EQ(desk.Form.Gn, 1);
+}
+
 TEST(SteelWithoutTable, FillsTheGridAndLeavesTheSteelsEmpty) {
   SteelDesk desk({}, true);
   EXPECT_EQ(desk.Form.MSFGridYc.Rows().size(), 8U);
