@@ -78,32 +78,10 @@ void UseGrid::FitFigures() {
   }
 }
 
-void UseGrid::TakeWidths() {
-  // A header puts off what a new width makes of its columns until it is asked for its length.
-  horizontalHeader()->length();
-}
-
-int UseGrid::HeightOfCheck(int row) const {
-  const QModelIndex place = model()->index(row, checkColumn);
-  QStyleOptionViewItem option;
-  initViewItemOption(&option);
-  // A height of its own tells the delegate that the width counts.
-  option.rect = QRect(0, 0, columnWidth(checkColumn), 1);
-  return itemDelegate()->sizeHint(option, place).height() + (showGrid() ? 1 : 0);
-}
-
 void UseGrid::FitRows() {
-  // Only the names of checks take more than one line; asking every cell for its height, and the
-  // hidden head of every row, takes four times as long.
-  TakeWidths();
-  const int oneLine = verticalHeader()->sectionSizeHint(0);
   for (int row = 0; row < rowCount(); ++row) {
-    setRowHeight(row, std::max(HeightOfCheck(row), oneLine));
+    setRowHeight(row, std::max(sizeHintForRow(row), verticalHeader()->sectionSizeHint(row)));
   }
-  // A scroll bar that the rows now need takes its room before they are painted and not after: it
-  // leaves the checks a narrower column, and they fit their rows once more.
-  updateGeometries();
-  TakeWidths();
 }
 
 void UseGrid::AddOpinion() {

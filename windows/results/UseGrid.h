@@ -29,9 +29,6 @@ class UseGrid : public QTableWidget {
   /// toolkit's own fitting would measure every cell anew whenever the grid takes another size.
   void FitFigures();
   void FitRows();
-  /// The columns as the grid's present width makes them.
-  void TakeWidths();
-  int HeightOfCheck(int row) const;
   void Copy() const;
   const ResultRow* ChosenRow() const;
 
