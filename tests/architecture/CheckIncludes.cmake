@@ -34,6 +34,8 @@ rule(windows QT USES windows ${logic})
 rule(apps QT USES apps windows ${logic})
 rule(examples USES examples apps ${logic})
 rule(fuzz USES fuzz tests/support ${logic})
+# What the mutated program is compiled with knows nothing of it.
+rule(scripts USES scripts)
 rule(bench QT USES bench apps windows ${logic})
 # What is tested without a window knows no window.
 set(tests_of_windows tests/windows tests/svg tests/office)
