@@ -1,4 +1,4 @@
-#include "mutants/Mutants.h"
+#include "scripts/mutants/Mutants.h"
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -30,8 +30,8 @@ int count = 0;
     return;
   }
   count = static_cast<int>(state.st_size);
-  void* const mapped = ::mmap(nullptr, static_cast<std::size_t>(count), PROT_READ | PROT_WRITE,
-                              MAP_SHARED, file, 0);
+  void* const mapped =
+      ::mmap(nullptr, static_cast<std::size_t>(count), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
   ::close(file);
   if (mapped != MAP_FAILED) {
     notes = static_cast<volatile unsigned char*>(mapped);

@@ -68,13 +68,13 @@ constexpr auto Either(Place place, A&& a, B&& b)
   }
 }
 
-#define MUTANTS_OPERATION(name, sign)                                                       \
-  struct name {                                                                             \
-    template <class A, class B>                                                             \
-    constexpr auto operator()(A&& a, B&& b) const                                           \
-        -> decltype(std::forward<A>(a) sign std::forward<B>(b)) {                           \
-      return std::forward<A>(a) sign std::forward<B>(b);                                    \
-    }                                                                                       \
+#define MUTANTS_OPERATION(name, sign)                             \
+  struct name {                                                   \
+    template <class A, class B>                                   \
+    constexpr auto operator()(A&& a, B&& b) const                 \
+        -> decltype(std::forward<A>(a) sign std::forward<B>(b)) { \
+      return std::forward<A>(a) sign std::forward<B>(b);          \
+    }                                                             \
   };
 MUTANTS_OPERATION(IsEqual, ==)
 MUTANTS_OPERATION(IsUnequal, !=)
@@ -90,11 +90,11 @@ MUTANTS_OPERATION(Added, +=)
 MUTANTS_OPERATION(Subtracted, -=)
 #undef MUTANTS_OPERATION
 
-#define MUTANTS_PLACE(name, ...)                                                            \
-  template <class Place, class A, class B>                                                  \
-  constexpr auto name(Place place, A&& a, B&& b)                                            \
-      -> decltype(Either<__VA_ARGS__>(place, std::forward<A>(a), std::forward<B>(b))) {     \
-    return Either<__VA_ARGS__>(place, std::forward<A>(a), std::forward<B>(b));              \
+#define MUTANTS_PLACE(name, ...)                                                       \
+  template <class Place, class A, class B>                                             \
+  constexpr auto name(Place place, A&& a, B&& b)                                       \
+      ->decltype(Either<__VA_ARGS__>(place, std::forward<A>(a), std::forward<B>(b))) { \
+    return Either<__VA_ARGS__>(place, std::forward<A>(a), std::forward<B>(b));         \
   }
 MUTANTS_PLACE(Equal, IsEqual, IsUnequal)
 MUTANTS_PLACE(Unequal, IsUnequal, IsEqual)

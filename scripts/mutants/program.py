@@ -20,7 +20,6 @@ COPY = WORK / "src"
 BUILD = WORK / "build"
 FOLDERS = ["platform", "analysis", "catalogue", "checks", "opinion", "workstation", "editor",
            "drawing"]
-OWN = ["Mutants.h", "Mutants.cpp"]
 # A changed number may leave what the source may narrow, and a changed place the end of a vector.
 FLAGS = "-O1 -w -fpermissive -Wno-narrowing -D_GLIBCXX_ASSERTIONS"
 
@@ -94,8 +93,6 @@ class Program:
             if name not in changed or not (COPY / name).exists():
                 put(COPY / name, (PLAIN / name).read_bytes())
                 (COPY / name).chmod((PLAIN / name).stat().st_mode)
-        for name in OWN:
-            put(COPY / "mutants" / name, (Path(__file__).parent / name).read_bytes())
 
     def configure(self):
         done = run(["cmake", "-S", str(COPY), "-B", str(BUILD), "-G", "Ninja",

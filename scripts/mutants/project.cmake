@@ -1,6 +1,6 @@
 # Read by cmake behind project() of the copy: what scripts/mutate builds otherwise.
 function(trelonit_mutants)
-  target_sources(trelonit_platform PRIVATE ${CMAKE_SOURCE_DIR}/mutants/Mutants.cpp)
+  target_sources(trelonit_platform PRIVATE ${CMAKE_SOURCE_DIR}/scripts/mutants/Mutants.cpp)
   # Sources that are changed stand for themselves.
   foreach(folder IN LISTS TRELONIT_MUTATED)
     foreach(target trelonit_${folder} trelonit_${folder}_host)

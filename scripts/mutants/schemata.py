@@ -224,4 +224,4 @@ def rewrite(text, places, keywords):
         parts += [text[last:offset], put.encode()]
         last = offset + taken
     parts.append(text[last:])
-    return b'#include "mutants/Mutants.h"\n#line 1\n' + b"".join(parts)
+    return b'#include "scripts/mutants/Mutants.h"\n#line 1\n' + b"".join(parts)
