@@ -20,6 +20,9 @@ class Machine {
   virtual AutomationService& Programs() = 0;
 };
 
+/// What the toolkit has to know before the application object is made.
+void PrepareToolkit();
+
 /// The machine with this office, which outlives it.
 std::unique_ptr<Machine> MakeMachine(AutomationService& office);
 

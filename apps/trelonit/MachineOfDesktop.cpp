@@ -31,6 +31,8 @@ class DesktopAssociations : private MimeDefaults, public MimeAssociations {
 
 }  // namespace
 
+void PrepareToolkit() {}
+
 std::unique_ptr<Machine> MakeMachine(AutomationService& office) {
   return std::make_unique<DesktopMachine>(office);
 }

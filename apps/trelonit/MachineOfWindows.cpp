@@ -1,7 +1,11 @@
+#include <QApplication>
+
 #include "apps/trelonit/Machine.h"
 #include "editor/associations/ModAss.h"
 #include "platform/win32/ComAutomation.h"
+#include "platform/win32/CommandLine.h"
 #include "platform/win32/Win32Registry.h"
+#include "platform/win32/WindowsHeader.h"
 
 namespace trelonit {
 
@@ -19,7 +23,34 @@ class WindowsMachine : public Machine {
   ComAutomation programs_;
 };
 
+/// The choice of Windows 10 and 11, which a theme of high contrast goes before.
+bool UserWantsDarkPrograms() {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof contrast;
+  if (SystemParametersInfoW(SPI_GETHIGHCONTRAST, 0, &contrast, 0) &&
+      (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0) {
+    return false;
+  }
+  const std::unique_ptr<RegistryKey> key =
+      Win32Registry().Open(RegistryRoot::CurrentUser,
+                           "Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize");
+  const std::optional<RegistryValue> light = key ? key->Query("AppsUseLightTheme") : std::nullopt;
+  return light == RegistryValue(std::uint32_t{0});
+}
+
 }  // namespace
+
+void PrepareToolkit() {
+  // The system's own style has no dark colours in this toolkit: where the user has chosen them, the
+  // toolkit's style takes them. Else the frames of the windows stay as light as what is in them.
+  const bool dark = UserWantsDarkPrograms();
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", dark ? "windows:darkmode=2" : "windows:darkmode=0");
+  }
+  if (dark && !qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE")) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+  }
+}
 
 std::unique_ptr<Machine> MakeMachine(AutomationService& office) {
   return std::make_unique<WindowsMachine>(office);
@@ -30,9 +61,11 @@ std::unique_ptr<FileAssociations> MakeAssociations(const Services& services) {
 }
 
 std::optional<std::string> HandedFile(const QStringList& arguments) {
-  // The registry's command hands a name over without quotes: blanks in it have made several
-  // arguments of one name.
-  return arguments.mid(1).join(QLatin1Char(' ')).toStdString();
+  // The registry's command hands a name over without quotes, so that its blanks, which may be more
+  // than one in a row, seem to part arguments: the line itself is the name. Where the toolkit has
+  // taken options out of it, what it left is all that is known.
+  const bool whole = arguments.size() == static_cast<qsizetype>(OwnArguments().size());
+  return whole ? OwnCommandLine() : arguments.mid(1).join(QLatin1Char(' ')).toStdString();
 }
 
 }  // namespace trelonit

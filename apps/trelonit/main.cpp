@@ -1,4 +1,3 @@
-#include <cstdio>
 #include <exception>
 #include <optional>
 #include <string>
@@ -7,6 +6,7 @@
 #include "apps/trelonit/DesktopSession.h"
 #include "apps/trelonit/Machine.h"
 #include "platform/errors/Message.h"
+#include "platform/system/Caller.h"
 #include "platform/system/ProgramNames.h"
 #include "windows/services/Desktop.h"
 #include "windows/services/FontsAhead.h"
@@ -27,11 +27,11 @@ std::optional<int> AnswerCommandLine(int argc, char** argv) {
   }
   const std::string_view argument = argv[1];
   if (argc == 2 && argument == "--version") {
-    std::printf("trelonit %s\n", trelonit::applicationVersion);
+    trelonit::TellCaller(std::string("trelonit ") + trelonit::applicationVersion + '\n');
     return 0;
   }
   if (argc == 2 && (argument == "--help" || argument == "-h")) {
-    std::printf(
+    trelonit::TellCaller(
         "Использование: trelonit [ФАЙЛ]\n\n"
         "Расчет плоских стальных стропильных ферм: открывает рабочее окно программы.\n"
         "Проект (.tsav) восстанавливается в этом окне, документ (.txt, .rtf, .doc)\n"
@@ -50,13 +50,14 @@ int main(int argc, char** argv) {
     return *answer;
   }
   try {
+    trelonit::PrepareToolkit();
     trelonit::FontsAhead fonts;
     trelonit::GuardedApplication application(argc, argv);
     const trelonit::FontsAhead::Taken untilItEnds(fonts);
     application.Tell = Tell;
     const std::optional<std::string> file = trelonit::HandedFile(QApplication::arguments());
     if (!file) {
-      std::fprintf(stderr, "trelonit: можно открыть один файл; справка: trelonit --help\n");
+      trelonit::ComplainToCaller("trelonit: можно открыть один файл; справка: trelonit --help\n");
       return 2;
     }
     const trelonit::Desktop desktop;
@@ -64,7 +65,7 @@ int main(int argc, char** argv) {
     session.Start(*file, [&fonts] { fonts.WaitForList(); });
     return QApplication::exec();
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "trelonit: %s\n", error.what());
+    trelonit::ComplainToCaller(std::string("trelonit: ") + error.what() + '\n');
     return 1;
   }
 }

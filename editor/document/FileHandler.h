@@ -20,7 +20,7 @@ std::string ExtensionOf(const std::string& name);
 std::string BareName(const std::string& name);
 /// Whether the name tells its folder from the root on.
 bool HasPath(const std::string& name);
-/// A name from a command line, without the quotes round it, with its whole path.
+/// A name from a command line, without the quotes round it, with its whole path in long names.
 std::string LongPathName(const std::string& name);
 
 /// "txt", "rtf" and "doc", in any case; any other extension is plain text.

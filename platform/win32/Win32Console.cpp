@@ -2,32 +2,13 @@
 
 #include <cstdio>
 #include <io.h>
-#include <memory>
 
 #include "platform/system/Process.h"
 #include "platform/system/ProgramFolder.h"
-#include "platform/win32/Utf16.h"
+#include "platform/win32/CommandLine.h"
 #include "platform/win32/WindowsHeader.h"
 
 namespace trelonit {
-
-namespace {
-
-struct LocalMemory {
-  void operator()(void* memory) const { LocalFree(memory); }
-};
-
-std::vector<std::string> OwnArguments() {
-  int count = 0;
-  const std::unique_ptr<wchar_t*, LocalMemory> wide(CommandLineToArgvW(GetCommandLineW(), &count));
-  std::vector<std::string> arguments;
-  for (int i = 0; wide != nullptr && i < count; ++i) {
-    arguments.push_back(FromWide(wide.get()[i]));
-  }
-  return arguments;
-}
-
-}  // namespace
 
 Utf8Console::Utf8Console() : codePage_(GetConsoleOutputCP()), arguments_(OwnArguments()) {
   for (std::string& argument : arguments_) {

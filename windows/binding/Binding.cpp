@@ -1,5 +1,6 @@
 #include "windows/binding/Binding.h"
 
+#include <QDir>
 #include <QHeaderView>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -93,6 +94,10 @@ QString ToQt(const std::string& text) {
 
 std::string FromQt(const QString& text) {
   return text.toStdString();
+}
+
+std::string FileFromQt(const QString& name) {
+  return FromQt(QDir::toNativeSeparators(name));
 }
 
 void Follow(ControlState& state, QObject* owner, std::function<void()> show) {

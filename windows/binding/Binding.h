@@ -22,6 +22,8 @@ namespace trelonit {
 
 QString ToQt(const std::string& text);
 std::string FromQt(const QString& text);
+/// The name of a file with the separators of the system, which the toolkit writes as "/".
+std::string FileFromQt(const QString& name);
 
 /// Runs show now and whenever the state changes, as long as the owner lives.
 void Follow(ControlState& state, QObject* owner, std::function<void()> show);

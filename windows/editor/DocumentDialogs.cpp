@@ -56,7 +56,7 @@ FileChoice RunDialog(const FileChoice& offered, const QString& title,
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     return {{}, offered.FilterIndex};
   }
-  return {FromQt(dialog.selectedFiles().front()),
+  return {FileFromQt(dialog.selectedFiles().front()),
           static_cast<Long>(filters.indexOf(dialog.selectedNameFilter())) + 1};
 }
 
@@ -133,7 +133,7 @@ std::string DocumentDialogs::ShowSavePdf(const std::string& offered) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     return {};
   }
-  return FromQt(dialog.selectedFiles().front());
+  return FileFromQt(dialog.selectedFiles().front());
 }
 
 std::string DocumentDialogs::PdfWithDrawings(const RichTextBox& document, const std::string& title,
@@ -153,7 +153,7 @@ void DocumentDialogs::StorePdf(const RichTextBox& document, const std::string& t
     // Told here: a failure must not leave through the preview's own event loop.
     DesktopMessages messages;
     Guard(messages, "StorePdf", [&] {
-      DiskFiles().ReplaceFile(FromQt(dialog.selectedFiles().front()), *PdfOf(document, title));
+      DiskFiles().ReplaceFile(FileFromQt(dialog.selectedFiles().front()), *PdfOf(document, title));
     });
   }
 }

@@ -237,7 +237,7 @@ void RichTextView::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::CopyAction);
   event->accept();
   if (const QString file = FirstFile(*event->mimeData()); !file.isEmpty()) {
-    Tell(FileDropped, FromQt(file));
+    Tell(FileDropped, FileFromQt(file));
     return;
   }
   setTextCursor(cursorForPosition(event->position().toPoint()));

@@ -125,7 +125,7 @@ bool DocumentDesk::eventFilter(QObject* watched, QEvent* event) {
   drop.accept();
   if (type == QEvent::Drop) {
     // The other program waits for the end of the drop, the user may be asked something.
-    QTimer::singleShot(0, this, [this, file] { document_.Open(FromQt(file)); });
+    QTimer::singleShot(0, this, [this, file] { document_.Open(FileFromQt(file)); });
   }
   return true;
 }

@@ -21,6 +21,7 @@
 #include "windows/help/HelpKey.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/help/HtmlHelp.h"
+#include "windows/services/RichTextForms.h"
 
 namespace trelonit {
 
@@ -73,12 +74,8 @@ std::string RunDialog(const FileDialogRequest& request, QFileDialog::AcceptMode 
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     return {};
   }
-  return FromQt(dialog.selectedFiles().front());
+  return FileFromQt(dialog.selectedFiles().front());
 }
-
-/// The names under which programs hand rich text on.
-const QStringList richTextForms{QStringLiteral("text/rtf"), QStringLiteral("application/rtf"),
-                                QStringLiteral("text/richtext")};
 
 QString SettingName(const std::string& section, const std::string& key) {
   return ToQt(section) + QLatin1Char('/') + ToQt(key);
@@ -150,7 +147,7 @@ std::string DesktopClipboard::RichText() {
   if (content == nullptr) {
     return {};
   }
-  for (const QString& form : richTextForms) {
+  for (const QString& form : RichTextForms()) {
     if (content->hasFormat(form)) {
       return content->data(form).toStdString();
     }
@@ -163,7 +160,7 @@ void DesktopClipboard::SetRichText(const std::string& rtf, const std::string& pl
   auto content = std::make_unique<QMimeData>();
   content->setText(ToQt(plain));
   content->setHtml(ToQt(WriteHtml(ReadRtf(rtf), applicationTitle)));
-  for (const QString& form : richTextForms) {
+  for (const QString& form : RichTextForms()) {
     content->setData(form, QByteArray::fromStdString(rtf));
   }
   QApplication::clipboard()->setMimeData(content.release());
