@@ -1,0 +1,42 @@
+# shellcheck shell=bash
+# What scripts need that build programs for Windows or run them. Source it:
+#   source wine.sh; open_wine; header_prefix FOLDER
+
+# open_wine: a Windows of its own, in the folder "scratch", which goes with the script. A script
+# with a trap of its own calls close_wine there.
+scratch=
+open_wine() {
+  scratch=$(mktemp -d "${TMPDIR:-/tmp}/trelonit-wine.XXXXXX")
+  trap close_wine EXIT
+  export WINEPREFIX=$scratch/wine WINEDEBUG=${WINEDEBUG--all}
+  # No downloads, and nothing in the menus of this machine.
+  export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+  # Names of files are UTF-8.
+  export LC_ALL=C.UTF-8
+  echo "Preparing wine ..." >&2
+  env -u DISPLAY -u WAYLAND_DISPLAY wine wineboot --init >"$scratch/wineboot.log" 2>&1 || {
+    cat "$scratch/wineboot.log" >&2
+    exit 1
+  }
+}
+
+close_wine() {
+  local server
+  server=$(command -v wineserver || echo /usr/lib/wine/wineserver)
+  [ -n "$scratch" ] || return 0
+  "$server" -k || true
+  "$server" -w || true
+  rm -rf "$scratch"
+}
+
+# header_prefix FOLDER: fills it with the header-only libraries alone: the other headers of this
+# machine are not for Windows. Their packages are copied, since a linked one would find its way
+# back.
+header_prefix() {
+  local library
+  mkdir -p "$1/include" "$1/share/cmake"
+  for library in CLI nlohmann utf8cpp; do
+    ln -sfn "/usr/include/$library" "$1/include/$library"
+  done
+  cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$1/share/cmake"
+}
