@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <algorithm>
+#include <map>
+#include <utility>
 
 #include "opinion/Opinion.h"
 #include "windows/binding/Binding.h"
@@ -79,9 +81,30 @@ void UseGrid::FitFigures() {
 }
 
 void UseGrid::FitRows() {
+  // Most rows are of one line: how high such a one is depends on which of its columns are bold.
+  std::map<std::pair<bool, bool>, int> oneLine;
+  const auto measured = [this](int row) {
+    return std::max(sizeHintForRow(row), verticalHeader()->sectionSizeHint(row));
+  };
   for (int row = 0; row < rowCount(); ++row) {
-    setRowHeight(row, std::max(sizeHintForRow(row), verticalHeader()->sectionSizeHint(row)));
+    if (!IsOfOneLine(row)) {
+      setRowHeight(row, measured(row));
+      continue;
+    }
+    const std::pair fonts(item(row, checkColumn)->font().bold(),
+                          item(row, opinionColumn)->font().bold());
+    const auto known = oneLine.find(fonts);
+    setRowHeight(row, known != oneLine.end() ? known->second
+                                             : oneLine.emplace(fonts, measured(row)).first->second);
   }
+}
+
+bool UseGrid::IsOfOneLine(int row) const {
+  // More than any style keeps at the ends of a text.
+  constexpr int ends = 24;
+  const QTableWidgetItem& check = *item(row, checkColumn);
+  return QFontMetrics(check.font()).horizontalAdvance(check.text()) + ends <=
+         columnWidth(checkColumn);
 }
 
 void UseGrid::AddOpinion() {

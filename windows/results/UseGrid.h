@@ -29,6 +29,8 @@ class UseGrid : public QTableWidget {
   /// toolkit's own fitting would measure every cell anew whenever the grid takes another size.
   void FitFigures();
   void FitRows();
+  /// Surely; a name that nearly fills its column is measured.
+  bool IsOfOneLine(int row) const;
   void Copy() const;
   const ResultRow* ChosenRow() const;
 

@@ -7,13 +7,14 @@
 namespace trelonit::test {
 namespace {
 
-/// Half red and seen through, half nothing.
+/// Half red, the more seen through the lower, half nothing. A full red: the reader multiplies
+/// colours with their opacity, which loses others.
 QImage Sample(int side) {
   QImage image(side, side, QImage::Format_ARGB32);
   image.fill(Qt::transparent);
   for (int row = 0; row < side; ++row) {
     for (int column = 0; column < side / 2; ++column) {
-      image.setPixel(column, row, qRgba(200, row, 0, 128));
+      image.setPixel(column, row, qRgba(255, 0, 0, 255 - row / 2));
     }
   }
   return image;

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 #include <gtest/gtest.h>
+#include <set>
 
 #include "tests/windows/Pixels.h"
 #include "tests/windows/results/FilledResults.h"
@@ -46,6 +47,27 @@ TEST_F(ResultsWindow, ShowsTheListsOfTheForm) {
   EXPECT_EQ(seen.Rows, Lists.MSFlexGKoefUse);
   EXPECT_EQ(seen.Lines, Lists.lstForces);
   EXPECT_GT(seen.Rows.size(), 10U);
+}
+
+TEST_F(ResultsWindow, GivesEveryCheckTheLinesThatItNeeds) {
+  const auto heights = [this] {
+    std::vector<int> rows;
+    for (int row = 0; row < Table().rowCount(); ++row) {
+      rows.push_back(Table().rowHeight(row));
+    }
+    return rows;
+  };
+  std::set<int> seen;
+  for (const int width : {300, 360, 420, 500, 640, 900, 1400}) {
+    Table().setFixedWidth(width);
+    QApplication::processEvents();
+    const std::vector<int> shown = heights();
+    Table().resizeRowsToContents();
+    EXPECT_EQ(shown, heights()) << width;
+    seen.insert(shown.begin(), shown.end());
+  }
+  // One line and several.
+  EXPECT_GE(seen.size(), 3U);
 }
 
 TEST_F(ResultsWindow, HeadsAreBoldAndFailedChecksHaveTheWarningColour) {
