@@ -2,6 +2,8 @@
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "drawing/host/Drawing.h"
 
@@ -32,6 +34,13 @@ inline DrawingText TextAt(const std::string& text, PlacePoint point, double heig
           .TextAlignmentPoint = point,
           .Style = style,
           .Layer = "Dimension"};
+}
+
+/// The same with something on it.
+inline Drawing With(std::vector<DrawingEntity> entities) {
+  Drawing drawing = EmptySheet();
+  drawing.ModelSpace = std::move(entities);
+  return drawing;
 }
 
 /// One line of 10 m with a text over it.

@@ -8,12 +8,6 @@
 namespace trelonit::test {
 namespace {
 
-Drawing With(std::vector<DrawingEntity> entities) {
-  Drawing drawing = EmptySheet();
-  drawing.ModelSpace = std::move(entities);
-  return drawing;
-}
-
 /// The box round the letters of one text at the origin, 10 high.
 PlaneBox BoxOfText(const std::string& text, TextAlignment alignment, double rotation = 0,
                    const std::string& style = "STANDARD") {

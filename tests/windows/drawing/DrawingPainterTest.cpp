@@ -13,12 +13,6 @@ namespace {
 
 constexpr double pixel = 0.1;  ///< in drawing units, at ten pixels a unit
 
-Drawing With(std::vector<DrawingEntity> entities) {
-  Drawing drawing = EmptySheet();
-  drawing.ModelSpace = std::move(entities);
-  return drawing;
-}
-
 /// The ink of one text at the origin.
 QRectF TextInk(const std::string& text, TextAlignment alignment, double rotation = 0,
                const std::string& style = "STANDARD") {
