@@ -54,7 +54,7 @@ double Gap(const Corners& box1, const Corners& box2) {
       if (length == 0) {
         continue;
       }
-      const PlanePoint normal(-side.Y / length, side.X / length);
+      const PlanePoint normal{-side.Y / length, side.X / length};
       const Span span1 = SpanAlong(box1, normal);
       const Span span2 = SpanAlong(box2, normal);
       gap = std::max({gap, span2.Least - span1.Greatest, span1.Least - span2.Greatest});
@@ -66,7 +66,7 @@ double Gap(const Corners& box1, const Corners& box2) {
 PlaneBox BoxOf(const Corners& corners) {
   const Span x = SpanAlong(corners, {1, 0});
   const Span y = SpanAlong(corners, {0, 1});
-  return {PlanePoint(x.Least, y.Least), PlanePoint(x.Greatest, y.Greatest)};
+  return {{x.Least, y.Least}, {x.Greatest, y.Greatest}};
 }
 
 /// The texts of a drawing while their sizes are looked for.

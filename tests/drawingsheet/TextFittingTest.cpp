@@ -9,11 +9,11 @@ namespace {
 
 /// Level letters of this height, centred on the point.
 TextRoom Level(double x, double y, double width, double height, int kind = 0) {
-  return {.Corners = {PlanePoint(x - width / 2, y - height / 2),
-                      PlanePoint(x + width / 2, y - height / 2),
-                      PlanePoint(x + width / 2, y + height / 2),
-                      PlanePoint(x - width / 2, y + height / 2)},
-          .Anchor = PlanePoint(x, y),
+  return {.Corners = {PlanePoint{x - width / 2, y - height / 2},
+                      PlanePoint{x + width / 2, y - height / 2},
+                      PlanePoint{x + width / 2, y + height / 2},
+                      PlanePoint{x - width / 2, y + height / 2}},
+          .Anchor = PlanePoint{x, y},
           .Height = height,
           .Kind = kind};
 }
@@ -22,8 +22,8 @@ TextRoom Level(double x, double y, double width, double height, int kind = 0) {
 TextRoom Turned(TextRoom room, double angle) {
   for (PlanePoint& corner : room.Corners) {
     const PlanePoint arm = corner - room.Anchor;
-    corner = room.Anchor + PlanePoint(arm.X * std::cos(angle) - arm.Y * std::sin(angle),
-                                      arm.X * std::sin(angle) + arm.Y * std::cos(angle));
+    corner = room.Anchor + PlanePoint{arm.X * std::cos(angle) - arm.Y * std::sin(angle),
+                                      arm.X * std::sin(angle) + arm.Y * std::cos(angle)};
   }
   return room;
 }
