@@ -9,7 +9,7 @@
 #include <sys/types.h>
 #include <vector>
 
-#include "tests/support/Sanitized.h"
+#include "tests/support/Instrumented.h"
 
 namespace trelonit::test {
 
@@ -29,7 +29,7 @@ struct Launch {
   bool PlainUser = false;
   /// Bytes that a file may grow to: beyond them a write fails as on a full disk.
   std::optional<std::uint64_t> LargestFile;
-  /// The program is killed after this time.
+  /// The program is killed after this time, which lasts longer where it counts its lines.
   std::chrono::seconds TimeLimit{60};
 };
 

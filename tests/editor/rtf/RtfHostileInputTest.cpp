@@ -4,7 +4,7 @@
 
 #include "editor/rtf/RtfWriter.h"
 #include "tests/editor/rtf/RtfTexts.h"
-#include "tests/support/Sanitized.h"
+#include "tests/support/Instrumented.h"
 
 namespace trelonit::test {
 namespace {

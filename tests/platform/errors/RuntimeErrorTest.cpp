@@ -17,6 +17,7 @@ TEST(RuntimeError, DescribesEveryNumber) {
       {9, "Subscript out of range"},
       {11, "Division by zero"},
       {13, "Type mismatch"},
+      {51, "Internal error"},
       {52, "Bad file name or number"},
       {53, "File not found"},
       {57, "Device I/O error"},
@@ -26,8 +27,11 @@ TEST(RuntimeError, DescribesEveryNumber) {
       {75, "Path/File access error"},
       {76, "Path not found"},
       {91, "Object variable or With block variable not set"},
+      {326, "Resource not found"},
       {429, "ActiveX component can't create object"},
-      {438, "Object doesn't support this property or method"}};
+      {438, "Object doesn't support this property or method"},
+      // One that the platform does not name.
+      {1004, "Application-defined or object-defined error"}};
   for (const auto& [number, description] : descriptions) {
     const RuntimeError error{static_cast<ErrorNumber>(number)};
     EXPECT_EQ(error.Number(), number);

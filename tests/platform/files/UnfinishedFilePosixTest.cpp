@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "platform/posix/UnfinishedFile.h"
+#include "tests/support/ChildCounts.h"
 
 namespace trelonit::test {
 
@@ -31,12 +32,32 @@ Ended EndOf(const std::function<void()>& body) {
   const pid_t child = ::fork();
   if (child == 0) {
     body();
+    KeepCounts();
+    // What waits is delivered here.
+    ::sigset_t none{};
+    ::sigprocmask(SIG_SETMASK, &none, nullptr);
     ::_exit(7);
   }
   int status = 0;
   ::waitpid(child, &status, 0);
   return {.Signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0,
           .Status = WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+}
+
+/// Keeps the signal waiting from here on.
+void Block(int signal) {
+  ::sigset_t blocked{};
+  ::sigaddset(&blocked, signal);
+  ::sigprocmask(SIG_BLOCK, &blocked, nullptr);
+}
+
+/// Delivers the signal once: the one that the handler raises itself, to end the program, waits, so
+/// that the process can keep its counts before.
+void Interrupt(int signal) {
+  Block(signal);
+  std::raise(signal);
+  const ::sigset_t none{};
+  ::sigsuspend(&none);
 }
 
 class InterruptedProgram : public testing::TestWithParam<int> {
@@ -58,7 +79,7 @@ TEST_P(InterruptedProgram, TakesItsUnfinishedFileAlong) {
     TakeUnfinishedFileAlongWhenInterrupted();
     const UnfinishedFile unfinished(File());
     const UnfinishedFile second(Other());
-    std::raise(GetParam());
+    Interrupt(GetParam());
   });
   EXPECT_EQ(ended.Signal, GetParam());
   EXPECT_FALSE(fs::exists(File()));
@@ -71,7 +92,7 @@ TEST_P(InterruptedProgram, LeavesWhatIsFinished) {
     std::signal(GetParam(), SIG_DFL);
     TakeUnfinishedFileAlongWhenInterrupted();
     { const UnfinishedFile unfinished(File()); }
-    std::raise(GetParam());
+    Interrupt(GetParam());
   });
   EXPECT_EQ(ended.Signal, GetParam());
   EXPECT_TRUE(fs::exists(File()));
@@ -83,7 +104,7 @@ TEST_P(InterruptedProgram, WaitsWhileItIsHeld) {
     TakeUnfinishedFileAlongWhenInterrupted();
     {
       const HeldInterruption held;
-      std::raise(GetParam());
+      Interrupt(GetParam());
       fs::remove(Other());
     }
   });

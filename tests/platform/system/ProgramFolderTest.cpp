@@ -57,11 +57,16 @@ class ProgramFolder : public testing::Test {
   }
   void MakeOwnReadOnly() const { fs::permissions(Own(), fs::perms(0555)); }
 
-  /// An empty value takes the variable away.
-  fs::path Answer(const Environment& environment) const {
+  fs::path Answer(const Environment& environment) const { return Answer(environment, DropRights); }
+  fs::path AnswerWithAllRights(const Environment& environment) const {
+    return Answer(environment, [] {});
+  }
+
+ private:
+  fs::path Answer(const Environment& environment, void (*prepare)()) const {
     const fs::path answer = *folder_ / "answer" / "text";
     InChild([&]() -> std::string {
-      DropRights();
+      prepare();
       ::unsetenv("XDG_DATA_HOME");
       ::unsetenv("HOME");
       for (const auto& [name, value] : environment) {
@@ -80,7 +85,6 @@ class ProgramFolder : public testing::Test {
     return text;
   }
 
- private:
   std::shared_ptr<const fs::path> folder_ = TemporaryFolder();
 };
 
@@ -112,6 +116,7 @@ TEST_F(ProgramFolder, IsTheExecutablesOwnWhereItHoldsTheCatalogueAlready) {
 TEST_F(ProgramFolder, IsTheUsersOwnForAnInstalledProgramWhateverItMayWrite) {
   PutLicence();
   EXPECT_EQ(Answer({{"HOME", Home().string()}}), Home() / ".local/share/trelonit");
+  EXPECT_EQ(AnswerWithAllRights({{"XDG_DATA_HOME", Data().string()}}), Data() / "trelonit");
 }
 
 TEST_F(ProgramFolder, IsTheInstalledProgramsOwnWhereItHoldsTheCatalogue) {

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/Instrumented.h"
 #include "tests/workstation/design/ProjectLines.h"
 
 namespace trelonit::test {
@@ -209,7 +210,7 @@ class HugeProjectFile : public DamagedProjectFile {
     seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     return record;
   }
-  static constexpr double limit = 20;
+  static constexpr double limit = 20 * countingSlowness;
   double seconds = 0;
 };
 

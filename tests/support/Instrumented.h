@@ -1,0 +1,25 @@
+#pragma once
+
+namespace trelonit::test {
+
+// The tests themselves are never instrumented, so that the compiler cannot tell.
+
+/// Whether the program is built with sanitizers, which take memory and time.
+#ifdef TRELONIT_SANITIZED
+constexpr bool sanitized = true;
+#else
+constexpr bool sanitized = false;
+#endif
+
+/// Whether the program counts which of its lines the tests take.
+#ifdef TRELONIT_COUNTED
+constexpr bool counted = true;
+#else
+constexpr bool counted = false;
+#endif
+
+/// How many times longer the program may take where it counts: nothing is optimised there, and
+/// every branch waits for a locked addition.
+constexpr int countingSlowness = counted ? 10 : 1;
+
+}  // namespace trelonit::test
