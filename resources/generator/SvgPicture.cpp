@@ -104,6 +104,9 @@ class PictureReader {
     for (Tag tag; tags_.Next(tag);) {
       if (tag.Ends) {
         if (tag.Name == "g") {
+          if (groups_.empty()) {
+            throw std::runtime_error("the end of no group");
+          }
           groups_.pop_back();
         }
       } else if (tag.Name == "svg") {

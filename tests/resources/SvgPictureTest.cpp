@@ -46,6 +46,27 @@ TEST(SvgPaths, MakeCurvesOfArcs) {
   EXPECT_EQ(ReadPath("M2 0A2 2 0 1 0 0 2").Verbs, "MCCC");
 }
 
+TEST(SvgPaths, TurnBothWaysAcrossTheLineWhereAnglesStartAnew) {
+  // Half circles round (0, 0) over (-2, 0): both pass the angle of 180 degrees.
+  for (const char* data : {"M0 2A2 2 0 0 1 0 -2", "M0 -2A2 2 0 0 0 0 2"}) {
+    const SvgPath path = ReadPath(data);
+    ASSERT_EQ(path.Verbs, "MCC") << data;
+    EXPECT_NEAR(path.Numbers[6], -2, 1e-9) << data;
+    EXPECT_NEAR(path.Numbers[7], 0, 1e-9) << data;
+  }
+}
+
+TEST(SvgPaths, TakeArcsRelativeToWhereTheyStand) {
+  const SvgPath path = ReadPath("M1 1a2 2 0 0 1 2 2L9 9");
+  ASSERT_EQ(path.Verbs, "MCL");
+  EXPECT_NEAR(path.Numbers[6], 3, 1e-9);
+  EXPECT_NEAR(path.Numbers[7], 3, 1e-9);
+}
+
+TEST(SvgPaths, HaveNoCurveForAnArcThatEndsWhereItBegins) {
+  EXPECT_EQ(ReadPath("M1 2A3 3 0 0 1 1 2L4 5").Verbs, "ML");
+}
+
 TEST(SvgPaths, ThatAreNoneAreRefused) {
   for (const char* data :
        {"1 2", "M", "M1", "Mx", "M1 2Q3 4 5 6", "M1 2A2 3 0 0 1 0 2", "M1 2z3"}) {
@@ -75,6 +96,29 @@ TEST(SvgPictures, InheritWhatTheirGroupSays) {
   EXPECT_EQ(picture.Shapes[2].Numbers, (Numbers{4, 5, 6, 7, 2}));
 }
 
+TEST(SvgPictures, TellHowTheirLinesAndAreasAreDrawn) {
+  const SvgPicture picture =
+      ReadSvg(Drawing("<path d=\"M0 0\" fill-rule=\"evenodd\" stroke-linejoin=\"round\" "
+                      "stroke-dasharray=\"4 2\"/>\n<path d=\"M0 0\" fill-rule=\"nonzero\"/>"));
+  ASSERT_EQ(picture.Shapes.size(), 2U);
+  EXPECT_TRUE(picture.Shapes[0].EvenOdd);
+  EXPECT_TRUE(picture.Shapes[0].RoundJoins);
+  EXPECT_EQ(picture.Shapes[0].Dashes, (Numbers{4, 2}));
+  EXPECT_FALSE(picture.Shapes[1].EvenOdd);
+  EXPECT_FALSE(picture.Shapes[1].RoundJoins);
+  EXPECT_TRUE(picture.Shapes[1].Dashes.empty());
+}
+
+TEST(SvgPictures, HoldLettersWithTheirPlaceAndHeight) {
+  const SvgPicture picture =
+      ReadSvg(Drawing("<text x=\"1\" y=\"2\" font-size=\"12\" font-family=\"sans-serif\" "
+                      "font-style=\"italic\" text-anchor=\"middle\">Pн</text>"));
+  ASSERT_EQ(picture.Shapes.size(), 1U);
+  EXPECT_EQ(picture.Shapes[0].Is, PictureShape::Kind::Letters);
+  EXPECT_EQ(picture.Shapes[0].Letters, "Pн");
+  EXPECT_EQ(picture.Shapes[0].Numbers, (Numbers{1, 2, 12}));
+}
+
 TEST(SvgPictures, GiveColoursTheirRoles) {
   const auto role = [](const std::string& color) {
     return ReadSvg(Drawing("<path d=\"M0 0\" fill=\"" + color + "\"/>")).Shapes[0].Fill.Role;
@@ -94,7 +138,17 @@ TEST(SvgPictures, WithAnythingElseAreRefused) {
         "<text x=\"1\" y=\"2\" font-family=\"serif\">P</text>", "<path d=\"M0 0\""}) {
     EXPECT_THROW(ReadSvg(Drawing(shapes)), std::runtime_error) << shapes;
   }
-  EXPECT_THROW(ReadSvg("<svg></svg>"), std::runtime_error);
+  for (const char* drawing :
+       {"", "<svg></svg>", "<svg viewBox=\"0 0 20\"></svg>", "<svg viewBox=\"0 0 0 30\"></svg>",
+        "<svg viewBox=\"0 0 20 -30\"></svg>", "<svg viewBox=\"0 0 a 30\"></svg>",
+        "<svg viewBox=0></svg>", "<svg viewBox", "<svg viewBox=\"0 0 20 30"}) {
+    EXPECT_THROW(ReadSvg(drawing), std::runtime_error) << drawing;
+  }
+}
+
+TEST(SvgPictures, WithMoreEndsOfGroupsThanGroupsAreRefused) {
+  EXPECT_THROW(ReadSvg(Drawing("</g>")), std::runtime_error);
+  EXPECT_THROW(ReadSvg(Drawing("<g></g></g>")), std::runtime_error);
 }
 
 TEST(PictureSources, HoldEveryPictureByItsName) {

@@ -2,9 +2,11 @@
 
 #ifdef TRELONIT_COUNTED
 
-#include <gcov.h>
 #include <sys/resource.h>
 #include <unistd.h>
+
+// Of the library of the counts, whose own header is C alone.
+extern "C" void __gcov_dump();
 
 namespace trelonit::test {
 
