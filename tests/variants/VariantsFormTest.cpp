@@ -157,6 +157,60 @@ TEST_F(VariantsForm, RefusesANumberOfBestOnesThatIsNone) {
   EXPECT_TRUE(form.cmdStart.Enabled());
 }
 
+TEST_F(VariantsForm, SaysHowManyOfManyTheTableHolds) {
+  OpenSmall();
+  // 1,001 heights and 1,001 spans, two panel counts: 2,004,002.
+  Write(AxisName::Height, "1:2:0.001");
+  Write(AxisName::Span, "20:30:0.01");
+  Tick(AxisName::Span, true);
+  const std::string text = form.lblCount.Caption();
+  EXPECT_TRUE(text.starts_with("Вариантов: 2,004,002, примерно ")) << text;
+  EXPECT_TRUE(
+      text.ends_with(". В таблице и на графике - первые 200,000, лучшие и фронты - из "
+                     "всех."))
+      << text;
+  EXPECT_TRUE(form.cmdStart.Enabled());
+}
+
+TEST_F(VariantsForm, TakesNoNewsAndAppliesNothingBeforeAStudyIsStarted) {
+  OpenSmall();
+  const std::string progress = form.lblProgress.Caption();
+  form.TakeNews();
+  form.cmdCancel_Click();
+  form.cmdApply_Click();
+  EXPECT_EQ(form.lblProgress.Caption(), progress);
+  EXPECT_FALSE(form.IsRunning());
+  EXPECT_TRUE(desk.TakeMessages().empty());
+}
+
+TEST_F(VariantsForm, DoesNotStartWhileWhatIsWrittenIsWrong) {
+  OpenSmall();
+  Write(AxisName::Height, "высокая");
+  form.cmdStart_Click();
+  EXPECT_FALSE(form.IsRunning());
+  EXPECT_TRUE(form.List().Held().empty());
+}
+
+TEST_F(VariantsForm, NewsAfterTheEndChangeNothing) {
+  OpenSmall();
+  RunToTheEnd();
+  const std::string progress = form.lblProgress.Caption();
+  const std::size_t held = form.List().Held().size();
+  form.TakeNews();
+  EXPECT_EQ(form.lblProgress.Caption(), progress);
+  EXPECT_EQ(form.List().Held().size(), held);
+}
+
+TEST_F(VariantsForm, ShowsTheFirstChoiceWhereTheStoredOneIsUnknown) {
+  for (const char* key : {"Show", "Plot", "Colour"}) {
+    desk.Outside.Settings.Set("Variants", key, "то, чего нет");
+  }
+  ASSERT_TRUE(form.Form_Load());
+  EXPECT_EQ(form.cmbShow.ListIndex(), 0);
+  EXPECT_EQ(form.cmbPlot.ListIndex(), 0);
+  EXPECT_EQ(form.cmbColour.ListIndex(), 0);
+}
+
 TEST_F(VariantsForm, DoesNotOpenForAProjectThatCannotBeCalculated) {
   desk.Main.imgTreloType_Click(5);
   EXPECT_FALSE(form.Form_Load());
