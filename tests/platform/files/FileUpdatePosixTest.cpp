@@ -98,7 +98,7 @@ TEST_F(FileUpdatePosixTest, RaisesDiskFullWhereTheFileCannotGrow) {
   const std::string answer = InChild([&]() -> std::string {
     // Otherwise the limit ends the process instead of failing the write.
     std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{4096, 4096};
+    const rlimit limit{4096, RLIM_INFINITY};
     if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
       throw std::runtime_error("no limit");
     }
@@ -137,7 +137,7 @@ TEST_F(FileUpdatePosixTest, TouchesNothingWhereNoCopyCanBeKept) {
   EXPECT_EQ(InChildWithCopies(In("none"),
                               [&]() -> std::string {
                                 // The copy, of four bytes, does not fit.
-                                const rlimit limit{2, 2};
+                                const rlimit limit{2, RLIM_INFINITY};
                                 std::signal(SIGXFSZ, SIG_IGN);
                                 if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
                                   throw std::runtime_error("no limit");
@@ -152,7 +152,7 @@ TEST_F(FileUpdatePosixTest, TouchesNothingWhereNoCopyCanBeKept) {
 TEST_F(FileUpdatePosixTest, WritesInsideAFileThatCannotGrow) {
   Put("file", std::string(4096, 'o'), 0666);
   const std::string answer = InChild([&]() -> std::string {
-    const rlimit limit{4096, 4096};
+    const rlimit limit{4096, RLIM_INFINITY};
     if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
       throw std::runtime_error("no limit");
     }

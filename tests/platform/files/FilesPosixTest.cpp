@@ -44,7 +44,7 @@ class DiskFilesPosixTest : public FileFolder {
     return InChild([&]() -> std::string {
       // Otherwise the limit ends the process instead of failing the write.
       std::signal(SIGXFSZ, SIG_IGN);
-      const rlimit limit{4096, 4096};
+      const rlimit limit{4096, RLIM_INFINITY};
       if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
         throw std::runtime_error("no limit");
       }

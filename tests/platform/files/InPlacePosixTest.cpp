@@ -67,7 +67,7 @@ class FileInItsPlace : public FileFolder {
   }
   static void LimitFiles() {
     std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{4096, 4096};
+    const rlimit limit{4096, RLIM_INFINITY};
     if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
       throw std::runtime_error("no limit");
     }

@@ -32,7 +32,7 @@ class InterruptedSave : public FileFolder {
     const std::string answer = InChild([&]() -> std::string {
       std::signal(SIGXFSZ, SIG_DFL);
       const rlimit noCore{0, 0};
-      const rlimit limit{4096, 4096};
+      const rlimit limit{4096, RLIM_INFINITY};
       if (::setrlimit(RLIMIT_CORE, &noCore) != 0 || ::setrlimit(RLIMIT_FSIZE, &limit) != 0) {
         throw std::runtime_error("no limit");
       }
