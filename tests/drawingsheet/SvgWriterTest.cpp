@@ -1,5 +1,5 @@
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <regex>
 
 #include "drawing/sheet/SvgWriter.h"
 #include "tests/drawinghost/HostDesk.h"
@@ -68,18 +68,33 @@ TEST(DrawingSvg, HasTheTitleBlockThatIsWanted) {
   EXPECT_TRUE(Has(svg, "<title>Иванов</title>"));
 }
 
+/// The data of all outlines.
+std::vector<std::string> PathData(const std::string& svg) {
+  const std::string mark = " d=\"";
+  std::vector<std::string> paths;
+  for (std::size_t at = svg.find(mark); at != std::string::npos; at = svg.find(mark, at + 1)) {
+    const std::size_t begin = at + mark.size();
+    paths.push_back(svg.substr(begin, svg.find('"', begin) - begin));
+  }
+  return paths;
+}
+
 TEST(DrawingSvg, HasNothingButWholeNumbersOfMicrometres) {
+  const std::string digits = "0123456789";
   for (Long scheme = 1; scheme <= 4; ++scheme) {
     const std::string svg = WriteDrawingSvg(*ExportedDrawing(scheme, 8));
     EXPECT_EQ(svg, WriteDrawingSvg(*ExportedDrawing(scheme, 8)));
-    const std::regex data(
-        " d=\"((?:[MLQ ]-?[0-9]+(?:[.][0-9]{1,3})? -?[0-9]+(?:[.][0-9]{1,3})?|Z)*)\"");
-    const auto count = [&](const std::regex& what) {
-      return std::distance(std::sregex_iterator(svg.begin(), svg.end(), what),
-                           std::sregex_iterator());
-    };
-    EXPECT_EQ(count(data), count(std::regex(" d=\"")));
-    EXPECT_GT(count(data), 20);
+    const std::vector<std::string> paths = PathData(svg);
+    EXPECT_GT(paths.size(), 20U);
+    for (const std::string& path : paths) {
+      EXPECT_EQ(path.find_first_not_of("MLQZ -." + digits), std::string::npos) << path;
+      for (std::size_t at = path.find('.'); at != std::string::npos; at = path.find('.', at + 1)) {
+        const std::size_t end = std::min(path.find_first_not_of(digits, at + 1), path.size());
+        EXPECT_GE(end - at, 2U) << path;
+        EXPECT_LE(end - at, 4U) << path;
+        EXPECT_NE(path[end - 1], '0') << path;
+      }
+    }
   }
 }
 
