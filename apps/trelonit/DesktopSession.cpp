@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <chrono>
 
 #include "apps/DesignDrawing.h"
 #include "platform/system/ProgramFolder.h"
@@ -20,6 +21,13 @@
 #include "workstation/results/XlsxTable.h"
 
 namespace trelonit {
+
+namespace {
+
+/// What nobody waits for comes when the window has surely been painted.
+constexpr std::chrono::milliseconds tidyingDelay{200};
+
+}  // namespace
 
 DesktopSession::DesktopSession() : program_(Bundle(), MakeWindows()) {}
 
@@ -88,8 +96,8 @@ void DesktopSession::Start(const std::string& commandLine,
   window_ = std::make_unique<MainWindow>(program_.Main(), settings_);
   new DocumentDesk(*document_, *window_, settings_);
   window_->show();
-  // After the first paint: there may be a file to copy, and folders of a killed session to remove.
-  QTimer::singleShot(0, window_.get(), [] {
+  // There may be a file to copy, and folders of a killed session to remove.
+  QTimer::singleShot(tidyingDelay, window_.get(), [] {
     PlaceHelpFile(InstalledHelpFile(ExecutableFolder()), FindProgramFolder());
     RemoveLeftWorkFolders();
   });

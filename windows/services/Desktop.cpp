@@ -19,6 +19,7 @@ Desktop::Desktop() {
   // Of every window, dialogue and message, whoever opens it.
   QApplication::setWindowIcon(PictureIcon(QStringLiteral(":/pictures/trelonit.svg")));
   qApp->installEventFilter(&wheel_);
+  qApp->installEventFilter(&layouts_);
   if (buttons_.load(QStringLiteral("qtbase_ru"),
                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&buttons_);

@@ -2,6 +2,7 @@
 
 #include <QTranslator>
 
+#include "windows/services/LayoutsAtRest.h"
 #include "windows/services/WheelGuard.h"
 
 namespace trelonit {
@@ -15,6 +16,7 @@ class Desktop {
  private:
   QTranslator buttons_;
   WheelGuard wheel_;
+  LayoutsAtRest layouts_;
 };
 
 }  // namespace trelonit
