@@ -52,6 +52,8 @@ class Desk:
         shutil.rmtree(self.folder, ignore_errors=True)
         for name in ("home", "tmp", "work"):
             (self.folder / name).mkdir(parents=True)
+        # As /tmp is: some tests are another user.
+        (self.folder / "tmp").chmod(0o1777)
         flags = self.folder / "flags"
         flags.write_text(f"--gtest_filter={':'.join(filtered)}\n--gtest_fail_fast\n"
                          "--gtest_brief=1\n")
