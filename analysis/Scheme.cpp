@@ -238,9 +238,11 @@ std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum) {
   if (scheme == nullptr || scheme->LastLowerJoint == nullptr) {
     return std::nullopt;
   }
-  const Long lastLower = scheme->LastLowerJoint(panelNum);
-  return LoadBounds{.UpPForce = panelNum,
-                    .UpDistForce = panelNum - 1,
+  // A chord of fewer panels than none has no arrays either; the smallest of numbers has none below.
+  const Long panels = std::max<Long>(panelNum, -1);
+  const Long lastLower = scheme->LastLowerJoint(panels);
+  return LoadBounds{.UpPForce = panels,
+                    .UpDistForce = panels - 1,
                     .DwnPForce = lastLower,
                     .DwnDistForce = lastLower - 1};
 }

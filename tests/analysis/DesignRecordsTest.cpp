@@ -1,5 +1,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -165,13 +166,16 @@ TEST(DesignRecords, ReservedFifthSchemeHasLowerJointsUnderEverySecondColumn) {
 }
 
 TEST(DesignRecords, AChordWithoutPanelsHasNoLoadArrays) {
-  for (const Long n : {0, -1, -30000}) {
-    SCOPED_TRACE(n);
-    try {
-      ZeroLoads(BoundsOfLoads(1, n).value());
-      ADD_FAILURE() << "no error";
-    } catch (const RuntimeError& error) {
-      EXPECT_EQ(error.Number(), 9);
+  constexpr Long smallest = std::numeric_limits<Long>::min();
+  for (const Long scheme : {1, 2, 3, 4, 5}) {
+    for (const Long n : {0, -1, -30000, smallest + 1, smallest}) {
+      SCOPED_TRACE(testing::Message() << scheme << " with " << n);
+      try {
+        ZeroLoads(BoundsOfLoads(scheme, n).value());
+        ADD_FAILURE() << "no error";
+      } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 9);
+      }
     }
   }
 }
