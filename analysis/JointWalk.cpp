@@ -29,7 +29,7 @@ bool ClosesAtFourDecimals(Real residual) {
 }  // namespace
 
 PanelGeometry::PanelGeometry(const TreloData& data)
-    : L(data.LengthF), H(data.Hight), Lop(data.LenOporn), n(data.PanelNum) {
+    : L(data.LengthF), H(data.Hight), Lop(data.LenOporn), n(Subtractable(data.PanelNum)) {
   Alpha = ArcTangent(H / Lop);
   d = (L - 2 * Lop) / (n - 2);
   Beta = ArcTangent(H / d);

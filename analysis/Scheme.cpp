@@ -229,7 +229,7 @@ const Scheme* FindScheme(Long number) {
 double PanelLength(const TreloData& data) {
   const Scheme* scheme = FindScheme(data.TreloType);
   const bool ends = scheme == nullptr || scheme->OwnEndPanels;
-  return ends ? (Real(data.LengthF) - 2 * Real(data.LenOporn)) / (data.PanelNum - 2)
+  return ends ? (Real(data.LengthF) - 2 * Real(data.LenOporn)) / (Subtractable(data.PanelNum) - 2)
               : Real(data.LengthF) / data.PanelNum;
 }
 
@@ -238,8 +238,7 @@ std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum) {
   if (scheme == nullptr || scheme->LastLowerJoint == nullptr) {
     return std::nullopt;
   }
-  // A chord of fewer panels than none has no arrays either; the smallest of numbers has none below.
-  const Long panels = std::max<Long>(panelNum, -1);
+  const Long panels = Subtractable(panelNum);
   const Long lastLower = scheme->LastLowerJoint(panels);
   return LoadBounds{.UpPForce = panels,
                     .UpDistForce = panels - 1,

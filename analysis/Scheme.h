@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -89,6 +90,14 @@ constexpr Long schemeCount = 10;
 
 /// Length d of a regular panel, metres. Raises 11 for a panel count that leaves none.
 double PanelLength(const TreloData& data);
+
+/// A number of panels that a few more can be taken from: the smallest numbers there are, with which
+/// nothing can be calculated either, would have none below them.
+constexpr Long Subtractable(Long panelNum) {
+  constexpr Long few = 4;
+  constexpr Long smallest = std::numeric_limits<Long>::min() + few;
+  return panelNum < smallest ? smallest : panelNum;
+}
 
 /// Upper bounds of the load arrays of a scheme; nothing where its joints are not settled yet.
 std::optional<LoadBounds> BoundsOfLoads(Long treloType, Long panelNum);

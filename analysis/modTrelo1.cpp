@@ -7,7 +7,7 @@ namespace trelonit {
 namespace {
 
 TreloResult SolveScheme1(const TreloData& data) {
-  const Long n = data.PanelNum;
+  const Long n = Subtractable(data.PanelNum);
   const Long m = n / 2;
   const Long J = RequireKnotNum(2 * (std::int64_t{n} + 1));
   const PanelGeometry panels(data);

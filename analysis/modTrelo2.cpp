@@ -18,7 +18,7 @@ Reals LowerKnotLoads(const TreloData& data, const PanelGeometry& panels) {
 }
 
 TreloResult SolveScheme2(const TreloData& data) {
-  const Long n = data.PanelNum;
+  const Long n = Subtractable(data.PanelNum);
   const Long m = n / 2;
   const Long J = RequireKnotNum(2 * std::int64_t{n});
   const PanelGeometry panels(data);

@@ -9,7 +9,7 @@ namespace {
 // The joints are numbered in zigzag along the diagonals, and here the numbers are the model: upper
 // joint t is 2t + 1, lower joint i is 2i + 2, diagonal j joins joints j and j + 1.
 TreloResult SolveScheme3(const TreloData& data) {
-  const Long n = data.PanelNum;
+  const Long n = Subtractable(data.PanelNum);
   const Long J = RequireKnotNum(2 * std::int64_t{n} + 1);
   const Real L = data.LengthF;
   const Real d = L / n;

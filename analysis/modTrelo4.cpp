@@ -7,7 +7,7 @@ namespace trelonit {
 namespace {
 
 TreloResult SolveScheme4(const TreloData& data) {
-  const Long n = data.PanelNum;
+  const Long n = Subtractable(data.PanelNum);
   const Long last = n / 2 - 1;  // the last lower joint
   const Long J = RequireKnotNum(3 * (std::int64_t{n} / 2) + 1);
   const PanelGeometry panels(data);

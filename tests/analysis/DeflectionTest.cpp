@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 #include <rapidcheck/gtest.h>
 #include <stdexcept>
 #include <string>
@@ -371,8 +372,11 @@ TEST(Deflection, OfReservedSchemesIsZeroInSilence) {
 TEST(Deflection, OfANegativePanelCountIsZero) {
   TreloData data = EvenlyLoaded(1);
   const TreloResult result = Solved(data);
-  data.PanelNum = -4;
-  EXPECT_EQ(Progib(data, result, Areas(), true), 0);
+  constexpr Long smallest = std::numeric_limits<Long>::min();
+  for (const Long n : {-4, smallest, smallest + 1, smallest + 2, smallest + 3}) {
+    data.PanelNum = n;
+    EXPECT_EQ(Progib(data, result, Areas(), true), 0);
+  }
 }
 
 RC_GTEST_PROP(Deflection, GrowsWithTheLoads, ()) {

@@ -157,9 +157,12 @@ TEST_P(SchemeFailure, ComesFromLoadsBeyondTheRangeOfNumbers) {
 }
 
 TEST_P(SchemeFailure, ComesFromANegativePanelCount) {
-  TreloData data = Loaded(GetParam());
-  data.PanelNum = -30;
-  ExpectFailure(data, subscript);
+  constexpr Long smallest = std::numeric_limits<Long>::min();
+  for (const Long n : {-30, smallest, smallest + 1, smallest + 2, smallest + 3}) {
+    TreloData data = Loaded(GetParam());
+    data.PanelNum = n;
+    ExpectFailure(data, subscript);
+  }
 }
 
 TEST_P(SchemeFailure, ComesFromASpanOfZero) {
