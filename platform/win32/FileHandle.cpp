@@ -83,8 +83,8 @@ void FileHandle::Flush() {
 }
 
 void FileHandle::SetGoesWithItsHandle(bool goes) {
-  FILE_DISPOSITION_INFO disposition{};
-  disposition.DeleteFile = goes ? TRUE : FALSE;
+  // The headers disagree on the type of the member; a bool fits each of them.
+  FILE_DISPOSITION_INFO disposition{.DeleteFile = goes};
   Require(
       SetFileInformationByHandle(handle_, FileDispositionInfo, &disposition, sizeof disposition));
 }

@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "tests/drawinghost/HostDesk.h"
+#include "tests/support/ExtremeNumbers.h"
 
 namespace trelonit::test {
 

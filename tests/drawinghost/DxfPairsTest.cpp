@@ -6,6 +6,7 @@
 #include "drawing/host/dxf/DxfPairs.h"
 #include "platform/text/Text.h"
 #include "tests/drawinghost/HostDesk.h"
+#include "tests/support/AnyNumber.h"
 
 namespace trelonit::test {
 

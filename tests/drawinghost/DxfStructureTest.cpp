@@ -6,6 +6,7 @@
 #include "drawing/host/dxf/DxfWriter.h"
 #include "tests/drawinghost/DxfReading.h"
 #include "tests/drawinghost/HostDesk.h"
+#include "tests/support/ExtremeNumbers.h"
 
 namespace trelonit::test {
 

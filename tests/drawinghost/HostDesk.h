@@ -9,7 +9,6 @@
 #include "drawing/scheme/modACADExport.h"
 #include "platform/system/AutomationMembers.h"
 #include "tests/analysis/Designs.h"
-#include "tests/support/AnyNumber.h"
 #include "tests/support/TestServices.h"
 
 namespace trelonit::test {

@@ -6,6 +6,7 @@
 #include "drawing/host/DrawingPicture.h"
 #include "drawing/scheme/SchemeLayout.h"
 #include "tests/drawinghost/HostDesk.h"
+#include "tests/support/AnyNumber.h"
 
 namespace trelonit::test {
 

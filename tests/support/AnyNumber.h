@@ -1,26 +1,12 @@
 #pragma once
 
-#include <array>
-#include <limits>
 #include <rapidcheck.h>
+
+#include "tests/support/ExtremeNumbers.h"
 
 namespace trelonit::test {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-
 /// Any finite Double: every exponent alike, the ends of the range, zeros and tame numbers.
 rc::Gen<double> AnyNumber();
-
-/// The ends of the range of Double, zeros, and a number of the wrong sign.
-constexpr std::array<double, 9> extremeNumbers{0.0,
-                                               -0.0,
-                                               std::numeric_limits<double>::max(),
-                                               -std::numeric_limits<double>::max(),
-                                               std::numeric_limits<double>::min(),
-                                               -std::numeric_limits<double>::min(),
-                                               std::numeric_limits<double>::denorm_min(),
-                                               -std::numeric_limits<double>::denorm_min(),
-                                               -1};
 
 }  // namespace trelonit::test

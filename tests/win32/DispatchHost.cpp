@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
+#include <vector>
+
+#include "platform/win32/ComPointer.h"
+#include "platform/win32/Utf16.h"
 
 namespace trelonit::test {
 
@@ -37,17 +42,10 @@ class Enumeration : public CountedObject<IEnumVARIANT> {
 };
 
 /// A collection, which has nothing but its enumeration.
-class Collection : public CountedObject<IDispatch> {
+class Collection : public UntypedDispatch {
  public:
-  Collection(HostLogHandle log, bool ofTexts) : CountedObject(std::move(log)), ofTexts_(ofTexts) {}
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
-    *count = 0;
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-    return DISP_E_UNKNOWNNAME;
-  }
+  Collection(HostLogHandle log, bool ofTexts)
+      : UntypedDispatch(std::move(log)), ofTexts_(ofTexts) {}
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result,
                                    EXCEPINFO*, UINT*) override {
     if (member != DISPID_NEWENUM) {
@@ -74,6 +72,8 @@ class Collection : public CountedObject<IDispatch> {
   }
 
  private:
+  DISPID IdentifierOf(const std::string&) const override { return DISPID_UNKNOWN; }
+
   bool ofTexts_;
 };
 
@@ -211,17 +211,7 @@ std::string TextIn(const DISPPARAMS& parameters) {
 
 }  // namespace
 
-HRESULT DispatchHost::GetTypeInfoCount(UINT* count) {
-  *count = 0;
-  return S_OK;
-}
-
-HRESULT DispatchHost::GetTypeInfo(UINT, LCID, ITypeInfo**) {
-  return E_NOTIMPL;
-}
-
-HRESULT DispatchHost::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
-                                    DISPID* identifiers) {
+DISPID DispatchHost::IdentifierOf(const std::string& name) const {
   static const std::map<std::string, DISPID> members{{"Kinds", Kinds},
                                                      {"Echo", Echo},
                                                      {"Value", Value},
@@ -233,9 +223,8 @@ HRESULT DispatchHost::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
                                                      {"Parts", Parts},
                                                      {"Texts", Texts},
                                                      {"Number", Number}};
-  const auto found = members.find(FromWide(names[0]));
-  identifiers[0] = found == members.end() ? DISPID_UNKNOWN : found->second;
-  return count == 1 && found != members.end() ? S_OK : DISP_E_UNKNOWNNAME;
+  const auto found = members.find(name);
+  return found == members.end() ? DISPID_UNKNOWN : found->second;
 }
 
 HRESULT DispatchHost::Put(DISPID member, WORD kind, const DISPPARAMS& parameters) {

@@ -1,67 +1,10 @@
 #pragma once
 
-#include <atomic>
-#include <map>
-#include <memory>
 #include <string>
-#include <string_view>
-#include <vector>
 
-#include "platform/win32/ComPointer.h"
-#include "platform/win32/Utf16.h"
-#include "platform/win32/WindowsHeader.h"
+#include "tests/win32/CountedObject.h"
 
 namespace trelonit::test {
-
-/// What happened to the objects of one test host.
-struct HostLog {
-  /// "put" or "putref" and the kinds of value, in order.
-  std::vector<std::string> Sets;
-  /// Objects that somebody still holds.
-  int Alive = 0;
-};
-using HostLogHandle = std::shared_ptr<HostLog>;
-
-// The interfaces of COM have no destructor, by nature; the objects have a virtual one.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-
-/// Counts references and answers for one interface besides IUnknown.
-template <class Interface>
-class CountedObject : public Interface {
- public:
-  explicit CountedObject(HostLogHandle log) : log_(std::move(log)) { ++log_->Alive; }
-  virtual ~CountedObject() { --log_->Alive; }
-  CountedObject(const CountedObject&) = delete;
-  CountedObject& operator=(const CountedObject&) = delete;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** object) override {
-    if (identifier != __uuidof(IUnknown) && identifier != __uuidof(Interface)) {
-      *object = nullptr;
-      return E_NOINTERFACE;
-    }
-    *object = static_cast<Interface*>(this);
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      delete this;
-    }
-    return left;
-  }
-
- protected:
-  const HostLogHandle& Log() const { return log_; }
-
- private:
-  HostLogHandle log_;
-  std::atomic<ULONG> references_ = 0;
-};
-
-#pragma GCC diagnostic pop
 
 /// An automation host of the test's own, which tells how it was called. Members:
 ///   Kinds (any)          the kinds of its arguments, first to last, as text
@@ -74,15 +17,11 @@ class CountedObject : public Interface {
 ///   Parts                a collection of three hosts
 ///   Texts                a collection of a text
 ///   Number               the host's own number
-class DispatchHost : public CountedObject<IDispatch> {
+class DispatchHost : public UntypedDispatch {
  public:
   explicit DispatchHost(HostLogHandle log, int number = 0)
-      : CountedObject(std::move(log)), number_(number) {}
+      : UntypedDispatch(std::move(log)), number_(number) {}
 
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override;
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
-                                          DISPID* identifiers) override;
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* exception, UINT*) override;
 
@@ -102,6 +41,7 @@ class DispatchHost : public CountedObject<IDispatch> {
     Number
   };
 
+  DISPID IdentifierOf(const std::string& name) const override;
   HRESULT Put(DISPID member, WORD kind, const DISPPARAMS& parameters);
 
   int number_;

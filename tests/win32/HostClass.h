@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/win32/ComApartment.h"
+#include "platform/win32/ComPointer.h"
 #include "platform/win32/Win32Registry.h"
 #include "tests/win32/DispatchHost.h"
 

@@ -6,7 +6,9 @@
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/win32/ComObject.h"
+#include "platform/win32/ComPointer.h"
 #include "platform/win32/ComValues.h"
+#include "platform/win32/Utf16.h"
 
 namespace trelonit::test {
 
@@ -48,15 +50,6 @@ std::string NameOf(DISPID member) {
   return place < routines.size() ? routines.at(place) : others.at(place - routines.size());
 }
 
-DISPID IdentifierOf(const std::string& name) {
-  for (DISPID member = 1; !NameOf(member).empty(); ++member) {
-    if (NameOf(member) == name) {
-      return member;
-    }
-  }
-  return DISPID_UNKNOWN;
-}
-
 /// What a host answers that raises the error: its result where the number is one, otherwise an
 /// exception with the text.
 HRESULT ResultOf(const RuntimeError& error, EXCEPINFO* exception) {
@@ -74,23 +67,17 @@ HRESULT ResultOf(const RuntimeError& error, EXCEPINFO* exception) {
 }  // namespace
 
 HRESULT ServedObject::QueryInterface(REFIID identifier, void** object) {
-  return CountedObject::QueryInterface(identifier == servedHere ? IID_IDispatch : identifier,
-                                       object);
+  return UntypedDispatch::QueryInterface(identifier == servedHere ? IID_IDispatch : identifier,
+                                         object);
 }
 
-HRESULT ServedObject::GetTypeInfoCount(UINT* count) {
-  *count = 0;
-  return S_OK;
-}
-
-HRESULT ServedObject::GetTypeInfo(UINT, LCID, ITypeInfo**) {
-  return E_NOTIMPL;
-}
-
-HRESULT ServedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
-                                    DISPID* identifiers) {
-  identifiers[0] = IdentifierOf(FromWide(names[0]));
-  return count == 1 && identifiers[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
+DISPID ServedObject::IdentifierOf(const std::string& name) const {
+  for (DISPID member = 1; !NameOf(member).empty(); ++member) {
+    if (NameOf(member) == name) {
+      return member;
+    }
+  }
+  return DISPID_UNKNOWN;
 }
 
 HRESULT ServedObject::Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS* parameters,

@@ -6,7 +6,7 @@
 
 #include "platform/system/Services.h"
 #include "platform/win32/ComApartment.h"
-#include "tests/win32/DispatchHost.h"
+#include "tests/win32/CountedObject.h"
 
 namespace trelonit::test {
 
@@ -22,20 +22,17 @@ struct ServedWorld {
 /// An object of this process for other ones: what they ask of its members by COM is asked of it,
 /// and what it gives goes back, objects in their turn as served ones. Properties of objects are put
 /// by value alone, as those of the drawing program are.
-class ServedObject : public CountedObject<IDispatch> {
+class ServedObject : public UntypedDispatch {
  public:
   ServedObject(const ServedWorld& world, AutomationHandle inner)
-      : CountedObject(world.Counts), world_(world), inner_(std::move(inner)) {}
+      : UntypedDispatch(world.Counts), world_(world), inner_(std::move(inner)) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** object) override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override;
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
-                                          DISPID* identifiers) override;
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* exception, UINT*) override;
 
  private:
+  DISPID IdentifierOf(const std::string& name) const override;
   void Use(const std::string& member, WORD kind, const DISPPARAMS& parameters, VARIANT* result);
   AutomationValue Inward(VARIANT& value) const;
   void Outward(const AutomationValue& value, VARIANT& place) const;

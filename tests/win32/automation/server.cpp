@@ -11,6 +11,8 @@
 
 #include "platform/files/Files.h"
 #include "platform/files/Paths.h"
+#include "platform/win32/ComPointer.h"
+#include "platform/win32/Utf16.h"
 #include "platform/win32/Win32Console.h"
 #include "tests/drawing/RecordingHost.h"
 #include "tests/win32/automation/Orders.h"
