@@ -3,11 +3,9 @@
 namespace trelonit {
 
 const QStringList& RichTextForms() {
-  // Word processors look for this one alone. The toolkit takes a name of this kind for that of a
-  // registered format, both ways.
-  static const QStringList forms{
-      QStringLiteral("application/x-qt-windows-mime;value=\"Rich Text Format\""),
-      QStringLiteral("text/rtf")};
+  // Word processors look for the first alone. The toolkit has a longer name for formats of the
+  // system, but by that one it reads only: what it writes is registered by the name as it stands.
+  static const QStringList forms{QStringLiteral("Rich Text Format"), QStringLiteral("text/rtf")};
   return forms;
 }
 
