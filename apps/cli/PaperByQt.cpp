@@ -17,7 +17,7 @@ class Pages {
   /// The toolkit asks for its display as soon as the application is made.
   struct NoDisplay {
     NoDisplay() {
-      qputenv("QT_QPA_PLATFORM", "offscreen");
+      qputenv("QT_QPA_PLATFORM", TRELONIT_PAGE_PLATFORM);
       // What the toolkit finds missing on a machine without a desktop does not matter here.
       qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     }
