@@ -29,6 +29,15 @@ close_wine() {
   rm -rf "$scratch"
 }
 
+# For the trap of a script that has a display of tests/desktop/desk.sh too.
+close_wine_and_desk() {
+  local status=$?
+  set +e
+  close_wine
+  (exit "$status")
+  close_desk
+}
+
 # header_prefix FOLDER: fills it with the header-only libraries alone: the other headers of this
 # machine are not for Windows. Their packages are copied, since a linked one would find its way
 # back.

@@ -1,8 +1,13 @@
-#include <QApplication>
 #include <gtest/gtest.h>
 
+#include "windows/services/GuardedApplication.h"
+
 int main(int argc, char** argv) {
-  const QApplication application(argc, argv);
+  // The tests answer dialogues of the toolkit; those of the system they could not.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  const trelonit::GuardedApplication application(argc, argv);
+  QApplication::setOrganizationName(QStringLiteral("Trelonit"));
+  QApplication::setApplicationName(QStringLiteral("trelonit-windows-tests"));
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }
