@@ -24,7 +24,7 @@ namespace trelonit {
 
 namespace {
 
-/// What nobody waits for comes when the window has surely been painted.
+/// What nobody waits for comes behind the first paint.
 constexpr std::chrono::milliseconds tidyingDelay{200};
 
 }  // namespace
