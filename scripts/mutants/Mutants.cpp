@@ -8,7 +8,7 @@
 
 namespace mutants {
 
-int chosen = -1;
+bool inForce[mostMutants] = {};
 bool recording = false;
 
 namespace {
@@ -20,8 +20,15 @@ int count = 0;
 
 /// Before any constructor of the program: those may be changed as well.
 [[gnu::constructor(101)]] void Start() {
-  if (const char* mutant = std::getenv("MUTANT")) {
-    chosen = std::atoi(mutant);
+  const char* chosen = std::getenv("MUTANTS");
+  while (chosen != nullptr && *chosen != '\0') {
+    char* rest = nullptr;
+    const long mutant = std::strtol(chosen, &rest, 10);
+    if (rest == chosen || mutant < 0 || mutant >= mostMutants) {
+      std::abort();
+    }
+    inForce[mutant] = true;
+    chosen = *rest == ',' ? rest + 1 : rest;
   }
   const char* path = std::getenv("MUTANTS_REACHED");
   const int file = path == nullptr ? -1 : ::open(path, O_RDWR | O_CLOEXEC);

@@ -5,11 +5,13 @@
 #include <utility>
 
 // What scripts/mutate puts into the copy of the program that it changes: every change stands beside
-// what the source says, and MUTANT in the environment chooses the one that is in force.
+// what the source says, and MUTANTS in the environment (their numbers, commas between them) chooses
+// those that are in force.
 namespace mutants {
 
-/// The mutant in force; -1: none.
-extern int chosen;
+inline constexpr int mostMutants = 1 << 16;
+/// Whether a mutant is in force.
+extern bool inForce[mostMutants];
 /// Whether this is a recording run: no mutant is in force, and what is reached is noted.
 extern bool recording;
 enum Note { Reached = 1, NoSuchChange = 2 };
@@ -19,7 +21,7 @@ inline bool Chosen(int mutant) {
   if (recording) {
     Write(mutant, Reached);
   }
-  return mutant == chosen;
+  return inForce[mutant];
 }
 
 /// A place whose value is found at run time.

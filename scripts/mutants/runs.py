@@ -28,6 +28,7 @@ class Run(NamedTuple):
     seconds: float  # of processor time
     clock: float
     failed: str  # the test that failed, where the program could tell it
+    tried: bool  # whether there was a property that was tried by random cases
 
 
 def names_in(listing):
@@ -61,11 +62,11 @@ class Desk:
                        "TMPDIR": str(self.folder / "tmp"), "RC_PARAMS": FEW, **variables}
         command = ["prlimit", f"--cpu={int(limits[0]) + 1}", f"--as={MEMORY}", "--core=0",
                    str(BUILD / "bin" / program), f"--gtest_flagfile={flags}"]
-        told = self.folder / "told"
-        with told.open("wb") as output:
+        told, remarks = self.folder / "told", self.folder / "remarks"
+        with told.open("wb") as output, remarks.open("wb") as errors:
             process = subprocess.Popen(command, cwd=self.folder / "work", env=environment,
-                                       stdin=subprocess.DEVNULL, stdout=output,
-                                       stderr=subprocess.DEVNULL, start_new_session=True)
+                                       stdin=subprocess.DEVNULL, stdout=output, stderr=errors,
+                                       start_new_session=True)
         before = time.monotonic()
         ended = (0, 0, None)
         while not ended[0] and time.monotonic() - before < limits[1]:
@@ -81,7 +82,9 @@ class Desk:
         process.returncode = ended[1]
         failed = re.findall(r"^\[  FAILED  \] (\S+?),? ", told.read_text(errors="replace"), re.M)
         used = ended[2].ru_utime + ended[2].ru_stime if ended[2] else clock
-        return Run(ended[1] == 0, used, clock, failed[0] if failed else "")
+        # RapidCheck's first word.
+        tried = b"Using configuration:" in remarks.read_bytes()
+        return Run(ended[1] == 0, used, clock, failed[0] if failed else "", tried)
 
 
 class Desks:
@@ -106,6 +109,7 @@ class Record:
         self.seconds = []
         self.clock = []
         self.reach = []  # of each test, the set of mutants
+        self.tries = []  # whether it tries random cases
         self.no_change = set()
         known = self.kept()
         for program in programs:
@@ -115,10 +119,11 @@ class Record:
                 known[program] = {"key": key, **self.record(program, path)}
                 (WORK / "reached.json").write_text(json.dumps(known), encoding="utf-8")
             told = known[program]
-            for name, seconds, clock, reach in told["tests"]:
+            for name, seconds, clock, tries, reach in told["tests"]:
                 self.tests.append(Test(program, name))
                 self.seconds.append(seconds)
                 self.clock.append(clock)
+                self.tries.append(tries)
                 self.reach.append(set(reach))
             self.no_change |= set(told["no_change"])
         all_reached = set().union(*self.reach) if self.reach else set()
@@ -145,16 +150,17 @@ class Record:
             if not ended.passed:
                 raise SystemExit(f"{program} {name} fails without a mutant")
             no_change.update(place.start() for place in re.finditer(rb"[\x02\x03]", told))
-            return [name, ended.seconds, ended.clock,
+            return [name, ended.seconds, ended.clock, ended.tried,
                     [place.start() for place in re.finditer(rb"[\x01\x03]", told)]]
 
         with ThreadPoolExecutor(AT_ONCE) as pool:
             tests = list(pool.map(one, names))
         return {"tests": tests, "no_change": sorted(no_change)}
 
-
-    def of_mutant(self, mutant):
-        return [place for place, reach in enumerate(self.reach) if mutant in reach]
+    def of_mutants(self, mutants, programs):
+        """The tests of these programs that reach one of the mutants."""
+        return [place for place, reach in enumerate(self.reach)
+                if self.tests[place].program in programs and not reach.isdisjoint(mutants)]
 
     def stages(self, chosen, first):
         """The chosen tests (their places) as runs of a program: those that are to be the first,
@@ -176,11 +182,14 @@ class Record:
         return sorted(programs.items(),
                       key=lambda item: sum(self.seconds[place] for place in item[1]))
 
-    def notice(self, chosen, first, **variables):
+    def notice(self, chosen, first, often=True, **variables):
         """Whether one of the tests fails, crashes or runs ten times as long as before; and the
-        place of the one that failed, -1 where that is not known."""
-        for properties, more in ((FEW, 1), (MANY, 10)):
-            for program, places in self.stages(chosen, first):
+        place of the one that failed, -1 where that is not known. often: asks the properties once
+        more, by many random cases."""
+        tried = [place for place in chosen if self.tries[place]]
+        rounds = [(FEW, 1, chosen)] + [(MANY, 10, tried)] * often
+        for properties, more, asked in rounds:
+            for program, places in self.stages(asked, first):
                 limits = [3 * more + 10 * more * sum(one[place] for place in places)
                           for one in (self.seconds, self.clock)]
                 ended = self.desks.start(program, [self.tests[place].name for place in places],
