@@ -162,6 +162,16 @@ class Record:
         return [place for place, reach in enumerate(self.reach)
                 if self.tests[place].program in programs and not reach.isdisjoint(mutants)]
 
+    def soonest(self, chosen, budget):
+        """The shortest of the chosen tests, as many as pass within so many seconds."""
+        found, spent = [], 0.0
+        for place in sorted(chosen, key=lambda place: self.seconds[place]):
+            spent += self.seconds[place]
+            if spent > budget and found:
+                break
+            found.append(place)
+        return found
+
     def stages(self, chosen, first):
         """The chosen tests (their places) as runs of a program: those that are to be the first,
         then the others by their time. The parts grow, so that an endless loop ends soon."""
