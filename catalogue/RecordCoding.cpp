@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <span>
 
 #include "platform/text/CodePage1251.h"
 
@@ -48,8 +49,9 @@ FixedText<N> DecodeText(std::string_view bytes, std::size_t offset) {
 
 template <class Bits>
 void EncodeBits(Bits value, char* bytes) {
-  for (std::size_t place = 0; place < sizeof(Bits); ++place) {
-    bytes[place] = static_cast<char>(static_cast<unsigned char>(value >> (8 * place)));
+  for (char& byte : std::span(bytes, sizeof(Bits))) {
+    byte = static_cast<char>(static_cast<unsigned char>(value));
+    value >>= 8;
   }
 }
 

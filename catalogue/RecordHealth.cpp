@@ -9,12 +9,12 @@ namespace trelonit {
 
 namespace {
 
-/// A computed figure with as many digits as tables print.
+/// A computed figure, which is above zero, with as many digits as tables print.
 std::string Computed(double value, const NumberLocale& locale) {
   constexpr int digits = 5;
   constexpr int mostDecimals = 6;
-  const int before = value > 0 ? static_cast<int>(std::floor(std::log10(value))) + 1 : 1;
-  const int decimals = std::min(std::max(digits - before, 0), mostDecimals);
+  const int before = static_cast<int>(std::floor(std::log10(value))) + 1;
+  const int decimals = std::clamp(digits - before, 0, mostDecimals);
   return NumberToText(RoundToDecimals(value, decimals), locale);
 }
 

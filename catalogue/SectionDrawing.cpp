@@ -94,23 +94,24 @@ class Composer {
     if (!shape_.Hole.empty()) {
       drawing_.Holes.push_back(placed(shape_.Hole));
     }
+    // Every section has the origin in it or at its edge.
     for (const OutlineVertex& vertex : drawing_.Profiles.back()) {
       const double x = vertex.y;
       const double y = vertex.z;
-      const bool first = drawing_.Profiles.size() == 1 && &vertex == drawing_.Profiles[0].data();
-      drawing_.Left = first ? x : std::min(drawing_.Left, x);
-      drawing_.Right = first ? x : std::max(drawing_.Right, x);
-      drawing_.Bottom = first ? y : std::min(drawing_.Bottom, y);
-      drawing_.Top = first ? y : std::max(drawing_.Top, y);
+      drawing_.Left = std::min(drawing_.Left, x);
+      drawing_.Right = std::max(drawing_.Right, x);
+      drawing_.Bottom = std::min(drawing_.Bottom, y);
+      drawing_.Top = std::max(drawing_.Top, y);
     }
   }
 
-  void Add(SectionDimension::Side side, Real from, Real to, Real edge, double value) {
+  void Add(SectionDimension::Side side, Real from, Real to, Real edgeFrom, Real edgeTo,
+           double value) {
     drawing_.Dimensions.push_back({.At = side,
                                    .From = std::min<double>(from, to),
                                    .To = std::max<double>(from, to),
-                                   .EdgeFrom = edge,
-                                   .EdgeTo = edge,
+                                   .EdgeFrom = edgeFrom,
+                                   .EdgeTo = edgeTo,
                                    .Value = value});
   }
 
@@ -119,9 +120,7 @@ class Composer {
     const bool level = side == SectionDimension::Side::Below;
     const double from = level ? drawing_.Left : drawing_.Bottom;
     const double to = level ? drawing_.Right : drawing_.Top;
-    Add(side, from, to, 0, to - from);
-    drawing_.Dimensions.back().EdgeFrom = NearestCorner(level, from);
-    drawing_.Dimensions.back().EdgeTo = NearestCorner(level, to);
+    Add(side, from, to, NearestCorner(level, from), NearestCorner(level, to), to - from);
   }
 
   /// Of the corners with this X the lowest, or of those with this Y the leftmost.
@@ -140,9 +139,9 @@ class Composer {
   void Measure() {
     using Side = SectionDimension::Side;
     if (halfGap_ > 0) {
-      const bool above = IsCross();
-      Add(above ? Side::Above : Side::Below, -halfGap_, halfGap_,
-          above ? drawing_.Top : drawing_.Bottom, section_.Gdist);
+      const Side side = IsCross() ? Side::Above : Side::Below;
+      const double edge = IsCross() ? drawing_.Top : drawing_.Bottom;
+      Add(side, -halfGap_, halfGap_, edge, edge, section_.Gdist);
     }
     MeasureWalls();
     AddWhole(Side::Below);
@@ -183,11 +182,11 @@ class Composer {
   }
 
   void MeasureWeb(Real from, Real to, Real z) {
-    Add(SectionDimension::Side::Across, X(from), X(to), Y(z), profile_.s);
+    Add(SectionDimension::Side::Across, X(from), X(to), Y(z), Y(z), profile_.s);
   }
 
   void MeasureFlange(Real end) {
-    Add(SectionDimension::Side::Right, Y(0), Y(profile_.t), X(end), profile_.t);
+    Add(SectionDimension::Side::Right, Y(0), Y(profile_.t), X(end), X(end), profile_.t);
   }
 
   const SectionRec& section_;

@@ -259,6 +259,16 @@ TEST(CatalogueHealth, ReportsDimensionsThatMakeNoSection) {
   }
 }
 
+TEST(CatalogueHealth, ReportsSectionsWhoseInertiaIsLostInRounding) {
+  const std::vector<std::string> expected{"dimensions"};
+  ProfileRec tiny{.B = 1e-90, .H = 1e-90, .t = 1e-91, .s = 1e-91};
+  EXPECT_EQ(QuantitiesFound(18, tiny), expected) << "an area and no inertia";
+  ProfileRec flat{.B = 1, .H = 1e-130, .t = 1e-131, .s = 1e-131};
+  EXPECT_EQ(QuantitiesFound(18, flat), expected) << "inertia about one axis";
+  std::swap(flat.B, flat.H);
+  EXPECT_EQ(QuantitiesFound(18, flat), expected) << "inertia about the other";
+}
+
 TEST(CatalogueHealth, ReportsFiguresThatAreNoNumbers) {
   for (double ProfileRec::*figure : {&ProfileRec::A, &ProfileRec::Jy, &ProfileRec::Jz}) {
     for (const double value :
@@ -278,6 +288,15 @@ TEST(CatalogueHealth, ReportsAFigureThatIsMissing) {
   ASSERT_EQ(found.size(), 1u);
   EXPECT_EQ(found[0].Quantity, "A");
   EXPECT_EQ(found[0].Percent, -100);
+}
+
+TEST(CatalogueHealth, TellsOfASingleRecordThatItStandsAlone) {
+  ProfileRec wrong = LastRecord(1);
+  wrong.A = 0;
+  const std::vector<Deviation> found = VerifyRecord(1, wrong);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0].SizeIdx, 0);
+  EXPECT_EQ(found[0].TypeIdx, 1);
 }
 
 TEST(CatalogueHealth, ReportsEmptyRecords) {

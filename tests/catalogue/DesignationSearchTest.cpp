@@ -42,6 +42,22 @@ TEST(DesignationSearch, TakesLettersThatLookAlikeForOne) {
   EXPECT_EQ(Found({"Шв20П", "Шв20"}, "шв20п"), Designations{"Шв20П"});
 }
 
+TEST(DesignationSearch, TakesLargeLettersForSmallOnesFromTheFirstToTheLast) {
+  EXPECT_EQ(Found({"az1", "AZ2"}, "AZ"), (Designations{"az1", "AZ2"}));
+  EXPECT_EQ(Found({"ая1", "АЯ2"}, "АЯ"), (Designations{"ая1", "АЯ2"}));
+  EXPECT_EQ(Found({"@1", "[1"}, "`"), Designations{})
+      << "neighbours of the letters stay themselves";
+}
+
+TEST(DesignationSearch, KnowsWhereTheSizesBeginByAnyFigure) {
+  for (const char* figure : {"0", "5", "9"}) {
+    const std::string size = std::string(figure) + "x7";
+    EXPECT_EQ(DesignationSearch(figure).Rank("L" + size), 1) << figure;
+    EXPECT_EQ(DesignationSearch(size).Rank("L" + size), 0) << figure;
+  }
+  EXPECT_EQ(DesignationSearch(":5").Rank("L/:5"), 2) << "a sign beside the figures is none";
+}
+
 TEST(DesignationSearch, TakesACommaForThePointOfAFraction) {
   EXPECT_EQ(Found({"Тр50x2.5", "Тр50x2"}, "2,5"), Designations{"Тр50x2.5"});
   EXPECT_EQ(Found({"Шв6,5"}, "6.5"), Designations{"Шв6,5"});

@@ -118,6 +118,69 @@ TEST(SectionDrawing, TellsTheWallsOfALyingAngleWithTheirOwnLegs) {
   EXPECT_EQ(Measured(drawing, Side::Right), 8);
 }
 
+/// The measured wall and flange of a single profile.
+struct MeasuredParts {
+  SectionDimension Wall, Flange;
+};
+
+MeasuredParts PartsOf(Long standard, Long layout, const ProfileRec& profile) {
+  SectionRec section;
+  section.TypeIdx = standard;
+  section.Layout = layout;
+  section.Profile = profile;
+  MeasuredParts parts;
+  for (const SectionDimension& dimension : DrawSection(section).Dimensions) {
+    if (dimension.At == Side::Across) {
+      parts.Wall = dimension;
+    } else if (dimension.At == Side::Right) {
+      parts.Flange = dimension;
+    }
+  }
+  return parts;
+}
+
+void ExpectLine(const SectionDimension& line, double from, double to, double edge, double value) {
+  EXPECT_DOUBLE_EQ(line.From, from);
+  EXPECT_DOUBLE_EQ(line.To, to);
+  EXPECT_DOUBLE_EQ(line.EdgeFrom, edge);
+  EXPECT_DOUBLE_EQ(line.EdgeTo, edge);
+  EXPECT_DOUBLE_EQ(line.Value, value);
+}
+
+TEST(SectionDrawing, MeasuresTheWallOfAnAngleAwayFromTheFillets) {
+  const MeasuredParts parts = PartsOf(1, 1, {.B = 63, .H = 100, .t = 7, .s = 8});
+  ExpectLine(parts.Wall, 0, 8, 60, 8);
+  ExpectLine(parts.Flange, 0, 7, 63, 7);
+}
+
+TEST(SectionDrawing, MeasuresTheWallOfAChannelAtHalfItsHeight) {
+  const MeasuredParts parts = PartsOf(3, 5, {.B = 64, .H = 160, .t = 8, .s = 5});
+  ExpectLine(parts.Wall, 0, 5, 80, 5);
+  ExpectLine(parts.Flange, 0, 8, 64, 8);
+}
+
+TEST(SectionDrawing, MeasuresTheWallOfABeamInItsMiddle) {
+  const MeasuredParts parts = PartsOf(6, 6, {.B = 82, .H = 160, .t = 7, .s = 5});
+  ExpectLine(parts.Wall, -2.5, 2.5, 80, 5);
+  ExpectLine(parts.Flange, 0, 7, 41, 7);
+}
+
+TEST(SectionDrawing, MeasuresAHangingTeeBelowItsFlange) {
+  const MeasuredParts parts = PartsOf(8, 7, {.B = 100, .H = 150, .t = 9, .s = 6});
+  ExpectLine(parts.Wall, -3, 3, -90, 6);
+  ExpectLine(parts.Flange, -9, 0, 50, 9);
+}
+
+TEST(SectionDrawing, MeasuresTheRightWallOfABox) {
+  const MeasuredParts parts = PartsOf(18, 9, {.B = 80, .H = 120, .t = 4, .s = 4});
+  ExpectLine(parts.Wall, 36, 40, 0, 4);
+  EXPECT_EQ(parts.Flange.Value, 0) << "walls of one thickness";
+}
+
+TEST(SectionDrawing, MeasuresAGapOfAMillimetre) {
+  EXPECT_EQ(DrawSection(Angle(2, 1)).Dimensions.size(), 5U);
+}
+
 TEST(SectionDrawing, GivesARoundTubeItsDiameterAndWall) {
   SectionRec section;
   section.TypeIdx = 14;
