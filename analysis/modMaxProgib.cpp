@@ -1,6 +1,7 @@
 #include "analysis/modMaxProgib.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <numeric>
@@ -112,12 +113,14 @@ BarWeights WeightsOf(const Scheme& scheme, const TreloData& data, const TreloRes
 
 /// Nothing in it comes near a division by zero or the range of Double, so that no walk can fail.
 bool IsOrdinary(const Scheme& scheme, const TreloData& data, const CheckResult& check, double E) {
-  const auto ordinary = [](double value) { return 1e-6 <= value && value <= 1e12; };
   const double panels = scheme.OwnEndPanels ? data.LengthF - 2 * data.LenOporn : data.LengthF;
-  return ordinary(data.LengthF) && ordinary(data.Hight) && ordinary(data.LenOporn) &&
-         ordinary(panels) && ordinary(E) && ordinary(check.UpPoyas.Area) &&
-         ordinary(check.DwnPoyas.Area) && ordinary(check.Stoyka.Area) &&
-         ordinary(check.Raskos.Area) && ordinary(check.OpornRaskos.Area);
+  const std::array<double, 10> values{data.LengthF,           data.Hight,
+                                      data.LenOporn,          panels,
+                                      check.UpPoyas.Area,     check.DwnPoyas.Area,
+                                      check.Stoyka.Area,      check.Raskos.Area,
+                                      check.OpornRaskos.Area, E};
+  return std::all_of(values.begin(), values.end(),
+                     [](double value) { return 1e-6 <= value && value <= 1e12; });
 }
 
 /// Whether the forces are those of a truss with these joints.

@@ -142,11 +142,11 @@ void frmDataManager::ShowRecord() {
     const ProfileRec& record = Records[CurPos];
     Text[nameBox].SetText(record.Name.Padded());
     Text[typeBox].SetText(record.Type.Padded());
-    for (std::size_t place = 0; place < numberBoxes.size(); ++place) {
-      TextBox& box = Text[firstNumberBox + static_cast<Long>(place)];
+    Long subscript = firstNumberBox;
+    for (const NumberBox& number : numberBoxes) {
+      TextBox& box = Text[subscript++];
       // A number that is none keeps the box as it was.
-      PassOver(
-          [&] { box.SetText(NumberToText(record.*numberBoxes[place].Field, services_.Locale)); });
+      PassOver([&] { box.SetText(NumberToText(record.*number.Field, services_.Locale)); });
     }
   });
   showing_ = false;

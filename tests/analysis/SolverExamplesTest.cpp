@@ -148,6 +148,16 @@ TEST(Scheme2, TakesTheLastLowerLoadTwice) {
   EXPECT_FALSE(result.Balanced);
 }
 
+TEST(Scheme2, ClosesWhereTheLowerLoadsOfTheRightHalfAreAlike) {
+  // The one that the walk leaves out and the one that it takes twice are the same, and so are the
+  // moments: three columns of the first are one of the second and two of the third.
+  TreloData data = SquareDesign(2, 6);
+  for (const Long joint : {2, 3, 4}) {
+    data.DwnPForce[joint] = 6;
+  }
+  EXPECT_TRUE(Solved(data).Balanced);
+}
+
 TEST(Scheme2, LeavesTheLoadUnderTheMiddleOutOfTheWalk) {
   TreloData data = SquareDesign(2, 6);
   data.DwnPForce[2] = 6;

@@ -181,6 +181,7 @@ TEST(CatalogueHealth, AcceptsAnyCornerOfASmallTubeBy30245of94) {
     tube.A = area;
     EXPECT_EQ(QuantitiesFound(12, tube), std::vector<std::string>{"A"}) << area;
   }
+  EXPECT_NEAR(RuleOfStandard(12).Compute(tube).High.A, (100 * 100 - 86 * 86) / 100.0, 1e-10);
 }
 
 TEST(CatalogueHealth, HoldsLargeTubesBy30245of94ToTheirRadii) {
@@ -196,6 +197,9 @@ TEST(CatalogueHealth, LeavesTheOwnInertiaOfWallsOutWhereTheTableDoes) {
   EXPECT_EQ(tube.Jz, 9.28);
   const ExpectedFigures expected = RuleOfStandard(16).Compute(tube);
   EXPECT_NEAR(expected.Low.Jz, 9.28, 0.005);
+  // Two walls of 60 mm less the corners of two walls each: 2 * 36 * 6^3 / 12 mm4. Standard 12 has
+  // the same corners and leaves nothing out.
+  EXPECT_NEAR(RuleOfStandard(12).Compute(tube).Low.Jz - expected.Low.Jz, 0.1296, 1e-9);
   ProfileRec exact = tube;
   exact.Jz = 9.41;
   EXPECT_EQ(QuantitiesFound(16, exact), std::vector<std::string>{"Jz"});

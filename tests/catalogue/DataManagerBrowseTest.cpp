@@ -63,6 +63,32 @@ TEST_F(DataManagerBrowse, FindsTheNextRecordByAPartOfItsName) {
   EXPECT_EQ(form.CurPos, 224);
 }
 
+TEST_F(DataManagerBrowse, FindsTheNeighbour) {
+  EXPECT_EQ(Find("L24"), "");
+  EXPECT_EQ(Find("25"), "");
+  EXPECT_EQ(form.CurPos, 25);
+}
+
+TEST_F(DataManagerBrowse, GoesBackToTheFirstRecord) {
+  EXPECT_EQ(GoTo("7"), "");
+  EXPECT_EQ(GoTo("1"), "");
+  EXPECT_EQ(form.CurPos, 1);
+  form.GoToRecord(7);
+  form.GoToRecord(1);
+  EXPECT_EQ(form.CurPos, 1);
+}
+
+TEST(DataManagerBrowseOne, FindsTheOnlyRecordAndJudgesIt) {
+  MemoryDesk desk{NumberedFile(1)};
+  desk.Load();
+  frmDataManager& form = desk.Desk.Form;
+  form.txtFind.SetText("L1");
+  form.cmdFindNext_Click();
+  EXPECT_EQ(form.lblFound.Caption(), "Других записей с таким обозначением нет");
+  EXPECT_EQ(form.lblHealth.Caption(),
+            "Геометрия: такого стандарта в каталоге программы нет, проверить нечем.");
+}
+
 TEST_F(DataManagerBrowse, GoesOnFromTheBeginningAndSaysSo) {
   form.cmdLastpoz_Click();
   EXPECT_EQ(Find("L24"), "Поиск продолжен с начала");
@@ -137,6 +163,14 @@ TEST(DataManagerHealth, FollowsTheBoxesAsTheyAreTyped) {
             "Геометрия: такого стандарта в каталоге программы нет, проверить нечем.");
   form.cmdForv_Click();
   EXPECT_EQ(form.lblHealth.ForeColor(), colorWindowText);
+}
+
+TEST(DataManagerHealth, KnowsTheLastStandardToo) {
+  MemoryDesk desk;
+  frmDataManager& form = desk.Desk.Form;
+  form.cmdOwnCatalogue_Click();
+  form.cmdLastpoz_Click();
+  EXPECT_EQ(form.lblHealth.Caption(), "Геометрия: A, Jy и Jz сходятся с размерами.");
 }
 
 }  // namespace

@@ -177,6 +177,22 @@ TEST(SectionDrawing, MeasuresTheRightWallOfABox) {
   EXPECT_EQ(parts.Flange.Value, 0) << "walls of one thickness";
 }
 
+TEST(SectionDrawing, DrawsTubesBySharpTablesWithSharpCorners) {
+  for (const Long standard : {18, 20, 21}) {
+    SectionRec section;
+    section.TypeIdx = standard;
+    section.Layout = 9;
+    section.Profile = {.B = 80, .H = 80, .t = 4, .s = 4};
+    const SectionDrawing drawing = DrawSection(section);
+    ASSERT_EQ(drawing.Holes.size(), 1U);
+    for (const Outline& outline : {drawing.Profiles[0], drawing.Holes[0]}) {
+      for (const OutlineVertex& vertex : outline) {
+        EXPECT_EQ(static_cast<double>(vertex.Radius), 0) << standard;
+      }
+    }
+  }
+}
+
 TEST(SectionDrawing, MeasuresAGapOfAMillimetre) {
   EXPECT_EQ(DrawSection(Angle(2, 1)).Dimensions.size(), 5U);
 }

@@ -119,6 +119,9 @@ TEST(SectionGeometry, SubtractsAHole) {
   EXPECT_DOUBLE_EQ(figures.z0, (800.0 * 20 - 200.0 * 15) / 600);
   const double aboutBase = 20.0 * 40 * 40 * 40 / 3 - (10.0 * 20 * 20 * 20 / 12 + 200.0 * 15 * 15);
   EXPECT_NEAR(figures.Jy, (aboutBase - 600 * figures.z0 * figures.z0) / 1e4, 1e-10);
+  const AreaIntegrals aside = Integrate(Moved(Rectangle(10, 20), 2, 5));
+  EXPECT_DOUBLE_EQ(CentroidalFigures(Integrate(Rectangle(20, 40)) - aside).y0,
+                   (800.0 * 10 - 200.0 * 7) / 600);
 }
 
 TEST(SectionGeometry, CountsAClockwiseOutlineAsTakenAway) {
@@ -179,6 +182,7 @@ TEST(SectionGeometry, RefusesWhatCannotBeDrawn) {
   };
   EXPECT_EQ(errorOf({{0, 0}, {1, 0}}), 5);
   EXPECT_EQ(errorOf({{0, 0}, {1, 0}, {1, 0}, {0, 1}}), 5);
+  EXPECT_EQ(errorOf({{0, 0}, {1, 0}, {0, 1}, {0, 0}}), 5);
   EXPECT_EQ(errorOf({{0, 0}, {2, 0}, {1, 0}}), 5);
   EXPECT_EQ(errorOf(Rectangle(10, 10, -1)), 5);
   EXPECT_EQ(errorOf(Rectangle(10, 10, 5.001)), 5);

@@ -146,6 +146,8 @@ TEST(SectionShapes, GiveAQuarterRingItsOwnInertia) {
   EXPECT_NEAR(QuarterRingInertia(15, 5), (about - area * centroid * centroid) / 1e4, 1e-10);
   const double disc = pi / 16 - 4 / (9 * pi);
   EXPECT_NEAR(QuarterRingInertia(10, 0), disc, 1e-10);
+  // By the square of the square of a length.
+  EXPECT_NEAR(QuarterRingInertia(1.5, 0.5), QuarterRingInertia(15, 5) / 1e4, 1e-14);
 }
 
 RC_GTEST_PROP(SectionShapes, GrowWithTheirDimensions, ()) {
@@ -225,6 +227,15 @@ TEST(SectionShapes, RefuseDimensionsThatMakeNoSection) {
   for (const std::size_t tube : {roundTube - 1, roundTube}) {
     expectRefused(&ProfileRec::s, 30, tube);
   }
+}
+
+TEST(SectionShapes, TakeFlangesOfNearlyHalfTheHeight) {
+  const ProfileRec thick{.B = 60, .H = 40, .t = 19, .s = 10};
+  // 40 x 10 and two flanges of 50 x 19 on one side or 25 x 19 on both.
+  EXPECT_NEAR(ChannelSection(thick, 0).A, (400 + 2 * 950) / 100.0, 1e-10);
+  EXPECT_NEAR(ISection(thick, 0).A, (400 + 4 * 475) / 100.0, 1e-10);
+  // The back's corners are rounded with the wall's thickness.
+  EXPECT_NEAR(BentChannelSection(thick).A, (400 + 2 * 950 - 2 * (1 - pi / 4) * 100) / 100, 1e-10);
 }
 
 TEST(SectionShapes, RefuseASlopeThatLeavesNoEdge) {
