@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "platform/errors/RuntimeError.h"
 #include "platform/values/Arithmetic.h"
+#include "platform/values/Elementary.h"
 
 namespace trelonit {
 
@@ -153,7 +153,7 @@ class TrussBuilder {
                            .Subscript = subscript,
                            .A = a,
                            .B = b,
-                           .Length = std::hypot(to.X - from.X, to.Y - from.Y)});
+                           .Length = portable::Hypotenuse(to.X - from.X, to.Y - from.Y)});
   }
 
   void PutChord(ElementGroup group, BoundedArray<double> TreloResult::*forces,

@@ -1,8 +1,9 @@
 #include "analysis/TransposedWalk.h"
 
-#include <cmath>
 #include <cstddef>
 #include <utility>
+
+#include "platform/values/Elementary.h"
 
 namespace trelonit {
 
@@ -64,8 +65,8 @@ class Transposition {
   }
 
  private:
-  static double SineOf(double rise, double run) { return rise / std::hypot(rise, run); }
-  static double CosineOf(double rise, double run) { return run / std::hypot(rise, run); }
+  static double SineOf(double rise, double run) { return rise / portable::Hypotenuse(rise, run); }
+  static double CosineOf(double rise, double run) { return run / portable::Hypotenuse(rise, run); }
 
   void AddReactionOfColumns(std::vector<double>& loads) const {
     loads[0] += reaction_;

@@ -1,7 +1,8 @@
 #include "catalogue/SectionGeometry.h"
 
-#include <cmath>
 #include <cstddef>
+
+#include "platform/values/Elementary.h"
 
 namespace trelonit {
 namespace {
@@ -86,7 +87,7 @@ struct Turn {
     const Real sine = In.u * Out.w - In.w * Out.u;
     const Real cosine = In.u * Out.u + In.w * Out.w;
     RequireDrawable(1 + cosine > 0);
-    Angle = std::atan2(static_cast<double>(sine), static_cast<double>(cosine));
+    Angle = portable::Direction(sine, cosine);
     // The tangent of half the turn, without the loss that comes with computing the angle first.
     TangentLength = corner.Radius * Magnitude(sine) / (1 + cosine);
   }
@@ -122,7 +123,7 @@ MomentsAlong IntegrateAlong(const std::vector<Corner>& corners) {
       const Real side = turn.Angle < 0 ? -1.0 : 1.0;
       const Vector spoke = -side * corner.Radius * QuarterTurnLeft(turn.In);
       const Vector centre = to - spoke;
-      const Real start = std::atan2(static_cast<double>(spoke.w), static_cast<double>(spoke.u));
+      const Real start = portable::Direction(spoke.w, spoke.u);
       moments.AddArc(centre.u, corner.Radius, start, start + turn.Angle);
     }
   }

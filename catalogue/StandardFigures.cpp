@@ -8,6 +8,7 @@
 
 #include "catalogue/StandardShapes.h"
 #include "platform/values/BoundedArray.h"
+#include "platform/values/Elementary.h"
 
 namespace trelonit {
 namespace {
@@ -171,7 +172,8 @@ constexpr double edgeSlack = 1 + 1e-6;
 
 double FigureRule::Allowance(double computed) const {
   const double leading = std::floor(std::log10(std::abs(computed)));
-  const double unit = std::clamp(std::pow(10, leading - Digits + 1), FinestUnit, CoarsestUnit);
+  const double unit =
+      std::clamp(portable::PowerOfTen(leading - Digits + 1), FinestUnit, CoarsestUnit);
   return std::max(Percent / 100 * std::abs(computed), LastUnits * unit) * edgeSlack;
 }
 

@@ -8,6 +8,7 @@
 #include "catalogue/SectionProvenance.h"
 #include "checks/ElementGroups.h"
 #include "opinion/NormTexts.h"
+#include "platform/values/Elementary.h"
 
 namespace trelonit {
 
@@ -152,7 +153,7 @@ class Search {
       joints.push_back(JointName(opinion_.Model.Joints[place]));
       const double load = opinion_.Told.Loads[place];
       // In equilibrium but for its load: the load was not taken to the bars.
-      if (std::hypot(residual.Right, residual.Up + load) <= smallest_) {
+      if (portable::Hypotenuse(residual.Right, residual.Up + load) <= smallest_) {
         leftOut.push_back(joints.back());
       }
     }

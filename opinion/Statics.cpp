@@ -1,11 +1,11 @@
 #include "opinion/Statics.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "opinion/BandSystem.h"
 #include "platform/values/Arithmetic.h"
+#include "platform/values/Elementary.h"
 #include "platform/values/Units.h"
 
 namespace trelonit {
@@ -144,7 +144,7 @@ Statics SolveStatics(const Truss& truss, std::vector<double> loads) {
 }
 
 double Residual::Size() const {
-  return std::hypot(Right, Up);
+  return portable::Hypotenuse(Right, Up);
 }
 
 std::vector<Residual> Residuals(const Truss& truss, const Statics& statics) {

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "platform/values/Elementary.h"
+
 namespace trelonit {
 
 namespace {
@@ -17,7 +19,7 @@ constexpr std::array colours{"#0072b2", "#d55e00", "#009e73", "#cc79a7",
 PlotAxis::PlotAxis(double least, double greatest) {
   constexpr double wished = 6;
   const double range = std::max(greatest - least, std::max(std::abs(greatest), 1.0) * 1e-6);
-  const double power = std::pow(10, std::floor(std::log10(range / wished)));
+  const double power = portable::PowerOfTen(std::floor(std::log10(range / wished)));
   Step = power;
   for (const double times : {2.0, 5.0, 10.0}) {
     if (range / Step > wished) {

@@ -1,11 +1,12 @@
 #include "drawing/sheet/TextFitting.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <map>
 #include <set>
 #include <utility>
+
+#include "platform/values/Elementary.h"
 
 namespace trelonit {
 
@@ -50,7 +51,7 @@ double Gap(const Corners& box1, const Corners& box2) {
   for (const Corners* box : {&box1, &box2}) {
     for (std::size_t corner = 0; corner < box->size(); ++corner) {
       const PlanePoint side = (*box)[(corner + 1) % box->size()] - (*box)[corner];
-      const double length = std::hypot(side.X, side.Y);
+      const double length = portable::Hypotenuse(side.X, side.Y);
       if (length == 0) {
         continue;
       }

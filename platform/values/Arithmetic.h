@@ -4,6 +4,8 @@
 #include <limits>
 #include <type_traits>
 
+#include "platform/values/Elementary.h"
+
 namespace trelonit {
 
 /// Out of line, so that the checks themselves stay a compare and a jump.
@@ -93,13 +95,13 @@ inline Real SquareRoot(Real value) {
 }
 
 inline Real Sine(Real angle) {
-  return {std::sin(static_cast<double>(angle))};
+  return {portable::Sine(angle)};
 }
 inline Real Cosine(Real angle) {
-  return {std::cos(static_cast<double>(angle))};
+  return {portable::Cosine(angle)};
 }
 inline Real ArcTangent(Real slope) {
-  return {std::atan(static_cast<double>(slope))};
+  return {portable::ArcTangent(slope)};
 }
 inline Real Magnitude(Real value) {
   return {std::abs(static_cast<double>(value))};

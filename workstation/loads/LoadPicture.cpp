@@ -6,6 +6,7 @@
 
 #include "analysis/Scheme.h"
 #include "platform/errors/Guard.h"
+#include "platform/values/Elementary.h"
 
 namespace trelonit {
 
@@ -341,7 +342,7 @@ LoadPicture DrawLoads(const TreloData& truss, const OwnWeightState& ownWeight,
 
 std::optional<LoadSpot> SpotAt(const LoadPicture& picture, double x, double y) {
   const auto distance = [&](const LoadPicture::Target& target) {
-    return std::hypot(target.X - x, target.Y - y);
+    return portable::Hypotenuse(target.X - x, target.Y - y);
   };
   const auto nearest =
       std::min_element(picture.Targets.begin(), picture.Targets.end(),

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "analysis/Scheme.h"
+#include "platform/values/Elementary.h"
 #include "workstation/design/EnteredDesign.h"
 #include "workstation/live/GeometryFaults.h"
 #include "workstation/sketch/DimensionLines.h"
@@ -180,7 +181,7 @@ class SketchBuilder {
   double Slope(const TrussBar& bar) const {
     const TrussJoint& a = truss_.Joints[bar.A];
     const TrussJoint& b = truss_.Joints[bar.B];
-    return std::atan2(std::abs(b.Y - a.Y), b.X - a.X);
+    return portable::Direction(std::abs(b.Y - a.Y), b.X - a.X);
   }
 
   std::string SlopeText(const TrussBar& bar) const {
@@ -217,7 +218,8 @@ class SketchBuilder {
     const double over = up.Y - canvas_.LineHeight * 1.1;
     lines_.Text(text, {middle, over}, ink == SketchInk::Dimension ? SketchInk::Text : ink);
     lines_.Line({middle, over + canvas_.LineHeight / 2},
-                up + SketchPoint{away * radius * std::cos(slope / 2), radius * std::sin(slope / 2)},
+                up + SketchPoint{away * radius * portable::Cosine(slope / 2),
+                                 radius * portable::Sine(slope / 2)},
                 ink);
     slopesEnd_ = middle + canvas_.WidthOf(text) / 2;
   }
