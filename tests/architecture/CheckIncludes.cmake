@@ -1,7 +1,8 @@
 cmake_minimum_required(VERSION 3.22)
 
 # Fails when a source includes what its folder may not use, or asks which system it is for: that
-# stands in platform/posix and platform/win32, or in a source that CMake chooses.
+# stands in platform/posix and platform/win32, or in a source that CMake chooses. Logic that calls
+# an elementary function of the system's library fails too: its last bit is not the same everywhere.
 #   cmake -D ROOT=SOURCES -P CheckIncludes.cmake
 
 set(rules "")
@@ -147,6 +148,19 @@ foreach(source IN LISTS sources)
       string(APPEND forbidden "|${system_headers}")
     endif()
     file(STRINGS "${ROOT}/${source}" lines REGEX "${forbidden}")
+    foreach(line IN LISTS lines)
+      string(APPEND wrong "  ${source}: ${line}\n")
+    endforeach()
+  endif()
+endforeach()
+
+set(called_by platform/values resources/generator)
+foreach(source IN LISTS sources)
+  lies_in(ours "${source}" ${logic})
+  lies_in(calls "${source}" ${called_by})
+  if(ours AND NOT calls)
+    file(STRINGS "${ROOT}/${source}" lines
+      REGEX "std::(sin|cos|asin|acos|atan|atan2|hypot|exp|log|pow|cbrt)[(]")
     foreach(line IN LISTS lines)
       string(APPEND wrong "  ${source}: ${line}\n")
     endforeach()
