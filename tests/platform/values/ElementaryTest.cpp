@@ -321,16 +321,16 @@ TEST(PortableFunctions, GiveWhatTheLibraryOfTheSystemGave) {
 #endif
 
 TEST(ElementaryKernel, GivesTheSameWithoutTheInstruction) {
-  using Plain = ElementaryKernel<FusedByParts>;
+  using Parts = ElementaryKernel<FusedByParts>;
   Arguments some;
   for (int i = 0; i < 20000; ++i) {
     const double angle = some.Angle();
-    EXPECT_EQ(Plain::Sine(angle), portable::Sine(angle)) << angle;
-    EXPECT_EQ(Plain::Cosine(angle), portable::Cosine(angle)) << angle;
+    EXPECT_EQ(Parts::Sine(angle), portable::Sine(angle)) << angle;
+    EXPECT_EQ(Parts::Cosine(angle), portable::Cosine(angle)) << angle;
     const double a = some.OfAnySize();
     const double b = some.OfAnySize();
-    EXPECT_EQ(Plain::ArcTangent(a), portable::ArcTangent(a)) << a;
-    EXPECT_EQ(Plain::Direction(a, b), portable::Direction(a, b)) << a << ' ' << b;
+    EXPECT_EQ(Parts::ArcTangent(a), portable::ArcTangent(a)) << a;
+    EXPECT_EQ(Parts::Direction(a, b), portable::Direction(a, b)) << a << ' ' << b;
   }
 }
 
