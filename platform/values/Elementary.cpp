@@ -123,7 +123,7 @@ double PowerOfTen(double exponent) {
     return std::pow(10, exponent);
   }
   double power = 1;
-  for (double times = 0; times < size; ++times) {
+  for (int times = static_cast<int>(size); times > 0; --times) {
     power *= 10;
   }
   return exponent < 0 ? 1 / power : power;
