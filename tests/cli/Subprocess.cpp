@@ -142,12 +142,7 @@ void CloseIfOpen(int& descriptor) {
 Subprocess::Subprocess(const Launch& launch)
     : deadline_(Clock::now() + launch.TimeLimit * countingSlowness) {
   std::vector<std::string> argumentTexts = launch.Arguments;
-  std::map<std::string, std::string> additions = launch.Environment;
-  if (counted && launch.PlainUser) {
-    // Another user may not write the counts. Saying so would stand between the program's messages.
-    additions.try_emplace("GCOV_ERROR_FILE", "/dev/null");
-  }
-  std::vector<std::string> environmentTexts = MergedEnvironment(additions);
+  std::vector<std::string> environmentTexts = MergedEnvironment(launch.Environment);
   const std::vector<char*> arguments = Pointers(argumentTexts);
   const std::vector<char*> environment = Pointers(environmentTexts);
 

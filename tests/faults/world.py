@@ -150,6 +150,10 @@ class World:
             "FAULTS_BELOW": str(self.base),
             **fault.variables(),
         }
+        # Where the program counts its lines: the file of the counts.
+        counts = os.environ.get("LLVM_PROFILE_FILE")
+        if counts:
+            variables["LLVM_PROFILE_FILE"] = counts
         if seen:
             variables["FAULTS_SEEN"] = str(seen)
         return variables

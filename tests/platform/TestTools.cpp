@@ -12,7 +12,6 @@
 #include <system_error>
 
 #include "platform/errors/RuntimeError.h"
-#include "tests/support/ChildCounts.h"
 
 #ifndef _WIN32
 #include <array>
@@ -90,7 +89,6 @@ std::string InChild(const std::function<std::string()>& body) {
     } catch (const std::exception& error) {
       answer = std::string("exception ") + error.what();
     }
-    KeepCounts();
     const ssize_t written = ::write(ends[1], answer.data(), answer.size());
     ::_exit(written == static_cast<ssize_t>(answer.size()) ? 0 : 1);
   }
@@ -106,12 +104,10 @@ std::string InChild(const std::function<std::string()>& body) {
   return WIFEXITED(status) && WEXITSTATUS(status) == 0 ? answer : "died";
 }
 
-/// For a child process: the rights of a plain user. Root is above the permissions of files. What
-/// root started may become root again, for its counts; a program started then may not.
+/// For a child process: the rights of a plain user. Root is above the permissions of files.
 void DropRights() {
   constexpr unsigned nobody = 65534;
-  if (::geteuid() == 0 &&
-      (::setresgid(nobody, nobody, 0) != 0 || ::setresuid(nobody, nobody, 0) != 0)) {
+  if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) {
     throw std::runtime_error("root rights cannot be dropped");
   }
 }

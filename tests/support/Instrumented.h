@@ -18,8 +18,7 @@ constexpr bool counted = true;
 constexpr bool counted = false;
 #endif
 
-/// How many times longer the program may take where it counts: nothing is optimised there, and
-/// every branch waits for a locked addition.
+/// How many times longer the program may take where it counts: nothing is optimised there.
 constexpr int countingSlowness = counted ? 10 : 1;
 
 }  // namespace trelonit::test

@@ -12,7 +12,6 @@
 #include <unistd.h>
 
 #include "platform/posix/UnfinishedFile.h"
-#include "tests/support/ChildCounts.h"
 
 namespace trelonit::test {
 
@@ -32,32 +31,12 @@ Ended EndOf(const std::function<void()>& body) {
   const pid_t child = ::fork();
   if (child == 0) {
     body();
-    KeepCounts();
-    // What waits is delivered here.
-    ::sigset_t none{};
-    ::sigprocmask(SIG_SETMASK, &none, nullptr);
     ::_exit(7);
   }
   int status = 0;
   ::waitpid(child, &status, 0);
   return {.Signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0,
           .Status = WIFEXITED(status) ? WEXITSTATUS(status) : -1};
-}
-
-/// Keeps the signal waiting from here on.
-void Block(int signal) {
-  ::sigset_t blocked{};
-  ::sigaddset(&blocked, signal);
-  ::sigprocmask(SIG_BLOCK, &blocked, nullptr);
-}
-
-/// Delivers the signal once: the one that the handler raises itself, to end the program, waits, so
-/// that the process can keep its counts before.
-void Interrupt(int signal) {
-  Block(signal);
-  std::raise(signal);
-  const ::sigset_t none{};
-  ::sigsuspend(&none);
 }
 
 class InterruptedProgram : public testing::TestWithParam<int> {
@@ -79,7 +58,7 @@ TEST_P(InterruptedProgram, TakesItsUnfinishedFileAlong) {
     TakeUnfinishedFileAlongWhenInterrupted();
     const UnfinishedFile unfinished(File());
     const UnfinishedFile second(Other());
-    Interrupt(GetParam());
+    std::raise(GetParam());
   });
   EXPECT_EQ(ended.Signal, GetParam());
   EXPECT_FALSE(fs::exists(File()));
@@ -92,7 +71,7 @@ TEST_P(InterruptedProgram, LeavesWhatIsFinished) {
     std::signal(GetParam(), SIG_DFL);
     TakeUnfinishedFileAlongWhenInterrupted();
     { const UnfinishedFile unfinished(File()); }
-    Interrupt(GetParam());
+    std::raise(GetParam());
   });
   EXPECT_EQ(ended.Signal, GetParam());
   EXPECT_TRUE(fs::exists(File()));
@@ -104,7 +83,7 @@ TEST_P(InterruptedProgram, WaitsWhileItIsHeld) {
     TakeUnfinishedFileAlongWhenInterrupted();
     {
       const HeldInterruption held;
-      Interrupt(GetParam());
+      std::raise(GetParam());
       fs::remove(Other());
     }
   });

@@ -63,7 +63,7 @@ TEST(UserFolders, AreThoseOfTheSystemsListOfUsersWhereNoHomeIsTold) {
 /// A user whom the system's list does not have.
 void BecomeNobodyKnown() {
   constexpr unsigned unknown = 1'999'999'999;
-  if (::getpwuid(unknown) != nullptr || ::setresuid(unknown, unknown, 0) != 0) {
+  if (::getpwuid(unknown) != nullptr || ::setuid(unknown) != 0) {
     throw std::runtime_error("no user whom the system does not know");
   }
 }
