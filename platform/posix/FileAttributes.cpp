@@ -5,6 +5,7 @@
 #include <string_view>
 
 #ifdef __linux__
+#include <linux/limits.h>
 #include <sys/xattr.h>
 #endif
 
@@ -19,19 +20,14 @@ constexpr std::string_view usersOwn = "user.";
 
 /// The names, each with its end; empty for a file system without any.
 std::string NamesOf(const std::filesystem::path& path) {
-  const ssize_t size = ::listxattr(path.c_str(), nullptr, 0);
-  std::string names(size > 0 ? static_cast<std::size_t>(size) : 0, '\0');
+  std::string names(XATTR_LIST_MAX, '\0');
   const ssize_t read = ::listxattr(path.c_str(), names.data(), names.size());
   names.resize(read > 0 ? static_cast<std::size_t>(read) : 0);
   return names;
 }
 
 std::optional<std::string> ValueOf(const std::filesystem::path& path, const char* name) {
-  const ssize_t size = ::getxattr(path.c_str(), name, nullptr, 0);
-  if (size < 0) {
-    return std::nullopt;
-  }
-  std::string value(static_cast<std::size_t>(size), '\0');
+  std::string value(XATTR_SIZE_MAX, '\0');
   const ssize_t read = ::getxattr(path.c_str(), name, value.data(), value.size());
   if (read < 0) {
     return std::nullopt;

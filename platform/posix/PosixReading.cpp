@@ -48,9 +48,6 @@ class DiskBuffer : public std::streambuf {
     if (::fstat(file_.Number(), &status) != 0) {
       throw FromErrno();
     }
-    if (S_ISDIR(status.st_mode)) {
-      throw RuntimeError(ErrorNumber::PathFileAccess);
-    }
     if (S_ISFIFO(status.st_mode)) {
       RequireWriter();
     } else if (!S_ISREG(status.st_mode) && !(S_ISCHR(status.st_mode) && IsStandardInput(status))) {

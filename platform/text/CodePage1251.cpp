@@ -8,7 +8,7 @@ namespace trelonit {
 
 namespace {
 
-constexpr std::array<char16_t, 128> MakeUpperHalf() {
+consteval std::array<char16_t, 128> MakeUpperHalf() {
   std::array<char16_t, 128> table{
       0x0402, 0x0403, 0x201A, 0x0453, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
       0x20AC, 0x2030, 0x0409, 0x2039, 0x040A, 0x040C, 0x040B, 0x040F,  // 88

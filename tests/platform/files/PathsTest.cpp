@@ -60,6 +60,14 @@ TEST(MayOverwrite, IsTrueForAYesAlone) {
   }
 }
 
+#ifndef _WIN32
+
+TEST(LongName, IsTheNameItselfWhereTheSystemKnowsNoShortOnes) {
+  EXPECT_EQ(LongName("/home/PROJEC~1/a.tsav"), "/home/PROJEC~1/a.tsav");
+}
+
+#endif
+
 TEST(FolderOf, TellsWhatStandsInFrontOfTheName) {
   EXPECT_EQ(FolderOf("/база/GOST profile.dat"), "/база");
   EXPECT_EQ(FolderOf("/a.dat"), "/");

@@ -7,10 +7,15 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "platform/text/NumberText.h"
 #include "tests/support/AnyNumber.h"
 #include "tests/support/TestServices.h"
+
+#ifndef _WIN32
+#include "platform/posix/PosixLocale.h"
+#endif
 
 namespace trelonit::test {
 
@@ -188,6 +193,45 @@ TEST(BooleanToText, WritesTheEnglishWords) {
   EXPECT_EQ(BooleanToText(true), "True");
   EXPECT_EQ(BooleanToText(false), "False");
 }
+
+#ifndef _WIN32
+
+/// A locale that need not be installed.
+class OwnPunctuation : public std::numpunct<wchar_t> {
+ public:
+  OwnPunctuation(wchar_t separator, std::string grouping)
+      : separator_(separator), grouping_(std::move(grouping)) {}
+
+ protected:
+  wchar_t do_decimal_point() const override { return L','; }
+  wchar_t do_thousands_sep() const override { return separator_; }
+  std::string do_grouping() const override { return grouping_; }
+
+ private:
+  wchar_t separator_;
+  std::string grouping_;
+};
+
+NumberLocale LocaleWith(wchar_t separator, const std::string& grouping) {
+  // The locale owns its facet.
+  return NumberLocaleOf(
+      std::locale(std::locale::classic(), new OwnPunctuation(separator, grouping)));
+}
+
+TEST(NumberLocaleOf, TakesTheSeparatorsAndTheSizeOfTheLastGroup) {
+  const NumberLocale locale = LocaleWith(L'\u202F', "\3\2");
+  EXPECT_EQ(locale.DecimalSeparator, ",");
+  EXPECT_EQ(locale.GroupSeparator, "\u202F");
+  EXPECT_EQ(locale.GroupSize, 3);
+}
+
+TEST(NumberLocaleOf, MakesNoGroupsWhereTheLocaleHasNone) {
+  EXPECT_EQ(LocaleWith(L' ', "").GroupSeparator, "");
+  EXPECT_EQ(LocaleWith(L' ', std::string(1, '\0')).GroupSeparator, "");
+  EXPECT_EQ(LocaleWith(L'\0', "\3").GroupSeparator, "");
+}
+
+#endif
 
 /// Sets the variable that rules the system's locale, and puts it back.
 class SystemNumberLocaleTest : public testing::Test {
