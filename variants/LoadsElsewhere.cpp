@@ -28,9 +28,7 @@ ChordPlaces PlacesOf(const Truss& truss, Chord chord, double span) {
   }
   // The one in the middle: only the end panels have a length of their own.
   const std::size_t middle = places.Joints.size() / 2;
-  if (places.Joints.size() > 1) {
-    places.RegularPanel = places.Joints[middle] - places.Joints[middle - 1];
-  }
+  places.RegularPanel = places.Joints[middle] - places.Joints[middle - 1];
   return places;
 }
 
@@ -82,7 +80,7 @@ BoundedArray<double> PointElsewhere(const BoundedArray<double>& before, const Ch
     return after;
   }
   const Long lastBefore = before.UpperBound();
-  if (lastBefore < 2 || last < 1) {
+  if (lastBefore < 2) {
     Refuse("сосредоточенные нагрузки " + NameOf(chord) + " стоят только в его концах");
   }
   const double load = before[1];

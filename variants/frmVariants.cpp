@@ -6,7 +6,6 @@
 
 #include "platform/errors/Guard.h"
 #include "variants/Axis.h"
-#include "variants/Refusal.h"
 #include "variants/VariantsProject.h"
 
 namespace trelonit {
@@ -370,11 +369,7 @@ void frmVariants::cmdApply_Click() {
       return;
     }
     // The table holds no loads.
-    const Variant variant = run_->Make(*chosen_);
-    if (variant.Verdict == VariantVerdict::Impossible) {
-      Refuse(variant.Reason);
-    }
-    ShowAsProject(main_, variant.Inputs);
+    ShowAsProject(main_, run_->Make(*chosen_).Inputs);
     if (Unload) {
       Unload();
     }

@@ -100,6 +100,25 @@ TEST(LoadsElsewhere, AreRefusedWherePointLoadsDifferAndJointsMove) {
             "сдвинуть");
 }
 
+TEST(LoadsElsewhere, AreRefusedWhereTheyStandOnlyAtTheEndsOfAChord) {
+  // Two panels of triangles have two lower joints: nothing tells what an inner one would carry.
+  TreloData from = Design(3, 2, 24, 2, 0);
+  from.DwnPForce[0] = 4;
+  EXPECT_EQ(RefusalOf(from, Design(3, 4, 24, 2, 0)),
+            "сосредоточенные нагрузки нижнего пояса стоят только в его концах");
+}
+
+TEST(LoadsElsewhere, GoToTheEndsOfAChordThatHasNoInnerJoints) {
+  TreloData from = Design(3, 4, 24, 2, 0);
+  for (Long joint = 0; joint <= 3; ++joint) {
+    from.DwnPForce[joint] = 4;
+  }
+  TreloData to = Design(3, 2, 24, 2, 0);
+  Bring(from, to);
+  EXPECT_NEAR(to.DwnPForce[0], 8, 1e-12);
+  EXPECT_NEAR(to.DwnPForce[1], 8, 1e-12);
+}
+
 TEST(LoadsElsewhere, AreRefusedWhereTheNewChordIsTooShortForThem) {
   TreloData from = Design(1, 8, 24, 2, 3);
   from.DwnDistForce[0] = 1;

@@ -100,6 +100,28 @@ TEST(Study, EndsWithTheErrorOfWhoeverTakesTheVariants) {
   }
 }
 
+TEST(Study, EndsWithTheErrorOfAVariantThatCannotBePutTogether) {
+  VariantAxes axes{.Heights = {1.5, 2, 2.5}};
+  axes.Kinds[sectionRaskos - 1] = {{.Layout = 1, .Standard = 1}, {.Layout = 2, .Standard = 2}};
+  ProfileTypeArray catalogue = Catalogue();
+  const VariantSpace space(StartInputs(), axes, catalogue);
+  // Whoever has begun a study keeps the catalogue; this one does not.
+  catalogue = {};
+  const std::atomic<bool> never{false};
+  for (const unsigned jobs : {1U, 3U}) {
+    int taken = 0;
+    try {
+      RunStudy(
+          space, {.Jobs = jobs}, catalogue, [&taken](const std::vector<Variant>&) { ++taken; },
+          never);
+      FAIL();
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Number(), static_cast<int>(ErrorNumber::SubscriptOutOfRange));
+    }
+    EXPECT_EQ(taken, 0);
+  }
+}
+
 std::string RefusalOf(const VariantAxes& axes) {
   try {
     const VariantSpace space(StartInputs(), axes, Catalogue());

@@ -1,10 +1,13 @@
 // The window of the studies, as the logic has it.
 
+#include <atomic>
 #include <condition_variable>
 #include <gtest/gtest.h>
 #include <mutex>
+#include <thread>
 
 #include "checks/ElementGroups.h"
+#include "platform/errors/RuntimeError.h"
 #include "platform/files/Files.h"
 #include "tests/variants/Studies.h"
 #include "variants/VariantTable.h"
@@ -209,6 +212,82 @@ TEST_F(VariantsForm, ShowsTheFirstChoiceWhereTheStoredOneIsUnknown) {
   EXPECT_EQ(form.cmbShow.ListIndex(), 0);
   EXPECT_EQ(form.cmbPlot.ListIndex(), 0);
   EXPECT_EQ(form.cmbColour.ListIndex(), 0);
+}
+
+TEST_F(VariantsForm, ShowsNoProgressBeforeAStudyIsStarted) {
+  OpenSmall();
+  EXPECT_EQ(form.Share(), 0);
+}
+
+TEST_F(VariantsForm, TellsWhatBrokeAStudyOff) {
+  OpenSmall();
+  std::atomic<bool> first{true};
+  form.Moved = [&first] {
+    if (first.exchange(false)) {
+      throw RuntimeError(ErrorNumber::DiskFull);
+    }
+  };
+  form.cmdStart_Click();
+  while (form.IsRunning()) {
+    std::this_thread::yield();
+    form.TakeNews();
+  }
+  EXPECT_EQ(desk.TakeMessages(), (Messages{Tail("cmdStart_Click", 61, "Disk full")}));
+  EXPECT_TRUE(form.cmdStart.Enabled());
+}
+
+TEST_F(VariantsForm, StartsNoSecondStudyWhileOneRuns) {
+  OpenSmall();
+  Write(AxisName::Height, "1.5:3:0.0001");
+  form.cmdStart_Click();
+  WaitForNews();
+  form.TakeNews();
+  const std::size_t held = form.List().Held().size();
+  ASSERT_GT(held, 0U);
+  form.cmdStart_Click();
+  // A new one would begin with an empty table.
+  EXPECT_GE(form.List().Held().size(), held);
+  EXPECT_TRUE(form.IsRunning());
+}
+
+TEST_F(VariantsForm, RepeatsThatOwnWeightIsInTheLoadsAlready) {
+  desk.Main.lblOwnWeightTwice.SetCaption("Собственный вес, похоже, уже есть в нагрузках.");
+  desk.Main.lblOwnWeightTwice.SetVisible(true);
+  ASSERT_TRUE(form.Form_Load());
+  EXPECT_TRUE(form.lblNotice.Visible());
+  EXPECT_EQ(form.lblNotice.Caption(), "Собственный вес, похоже, уже есть в нагрузках.");
+}
+
+TEST_F(VariantsForm, TellsTheWindowWhatToDrawAnew) {
+  OpenSmall();
+  RunToTheEnd();
+  int refreshed = 0;
+  int chosen = 0;
+  form.Refreshed = [&refreshed] { ++refreshed; };
+  form.ChosenChanged = [&chosen] { ++chosen; };
+  form.cmbPlot.Select(frmVariants::byProgib);
+  EXPECT_EQ(refreshed, 1);
+  form.Sort({.Column = 0, .Descending = true});
+  EXPECT_EQ(refreshed, 2);
+  EXPECT_EQ(chosen, 0);
+  form.Choose(0);
+  EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(VariantsForm, DrawsMassOverDeflectionByScheme) {
+  OpenSmall();
+  form.cmbPlot.Select(frmVariants::byProgib);
+  form.cmbColour.Select(frmVariants::byScheme);
+  RunToTheEnd();
+  const std::vector<PlotPoint> points = form.Points();
+  ASSERT_EQ(points.size(), 6U);
+  for (std::size_t place = 0; place < points.size(); ++place) {
+    EXPECT_EQ(points[place].Across, form.List().Held()[place].Progib);
+    EXPECT_EQ(points[place].Kind, 1);
+  }
+  EXPECT_EQ(form.Labels().Across, "Прогиб, м");
+  EXPECT_EQ(form.Labels().Kind, "Схема");
+  EXPECT_EQ(form.Front().size(), form.List().Kept(VariantFilter::FrontByProgib).size());
 }
 
 TEST_F(VariantsForm, DoesNotOpenForAProjectThatCannotBeCalculated) {
