@@ -14,11 +14,11 @@ constexpr std::array<Long, 2> tees{8, 9};
 constexpr std::array<Long, 10> boxTubes{12, 13, 15, 16, 17, 18, 19, 20, 21, 22};
 constexpr std::array<Long, 1> roundTubes{14};
 
-constexpr Picture OwnImage(Integer layout) {
+consteval Picture OwnImage(Integer layout) {
   return {Picture::Source::SectionLayout, layout};
 }
 
-constexpr Picture PairBitmap(Integer identifier) {
+consteval Picture PairBitmap(Integer identifier) {
   return {Picture::Source::Bitmap, identifier};
 }
 

@@ -103,7 +103,7 @@ ExpectedFigures Tube8645(const ProfileRec& record) {
 }
 
 /// A figure printed (or computed) with the same decimals whatever its size.
-constexpr FigureRule Decimals(double percent, double unit, double lastUnits = 0.5) {
+consteval FigureRule Decimals(double percent, double unit, double lastUnits = 0.5) {
   return {percent, 1, unit, unit, lastUnits};
 }
 

@@ -46,9 +46,9 @@ class OpinionExplainer {
         return builder.Finish(clauseStability, formulaStability, figure);
       case MemberCheck::FlexX:
       case MemberCheck::FlexY:
-        return ExplainFlex(std::move(builder), row.Check, bar, judged);
+        break;
     }
-    return std::nullopt;
+    return ExplainFlex(std::move(builder), row.Check, bar, judged);
   }
 
  private:

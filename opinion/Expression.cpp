@@ -165,9 +165,9 @@ Real Value(const Expression& expression, const SymbolValues& symbols) {
     case Kind::Root:
       return SquareRoot(part(0));
     case Kind::Brackets:
-      return part(0);
+      break;
   }
-  return {};
+  return part(0);
 }
 
 /// Without an exponent, so that the text stays plain arithmetic for every reader.
@@ -221,9 +221,9 @@ std::string WithNumbers(const Expression& expression, const SymbolValues& symbol
     case Kind::Root:
       return std::string(rootName) + '(' + part(0) + ')';
     case Kind::Brackets:
-      return '(' + part(0) + ')';
+      break;
   }
-  return {};
+  return '(' + part(0) + ')';
 }
 
 std::string Substituted(const Expression& expression, const SymbolValues& symbols) {

@@ -306,11 +306,11 @@ std::string ProvenanceText(const ProfileRec& record) {
     case Provenance::Computed:
       return size + "моменты инерции вычислены по размерам, в таблице стандарта их нет.";
     case Provenance::Reconstructed:
-      return size +
-             "типоразмер восстановлен по соседним рядам, его величины вычислены по "
-             "размерам; в таблице стандарта его может не быть.";
+      break;
   }
-  return {};
+  return size +
+         "типоразмер восстановлен по соседним рядам, его величины вычислены по "
+         "размерам; в таблице стандарта его может не быть.";
 }
 
 std::vector<Finding> FindInSections(const SectionArray& sections, const Scheme& scheme) {

@@ -279,9 +279,9 @@ double BarJudgement::Figure(MemberCheck check) const {
     case MemberCheck::FlexX:
       return X.Flex;
     case MemberCheck::FlexY:
-      return Y.Flex;
+      break;
   }
-  return 0;
+  return Y.Flex;
 }
 
 const PlaneJudgement* BarJudgement::PlaneOf(MemberCheck check) const {
@@ -293,9 +293,9 @@ const PlaneJudgement* BarJudgement::PlaneOf(MemberCheck check) const {
       return &X;
     case MemberCheck::StabY:
     case MemberCheck::FlexY:
-      return &Y;
+      break;
   }
-  return nullptr;
+  return &Y;
 }
 
 const GroupJudgement* Opinion::FindGroup(ElementGroup group) const {

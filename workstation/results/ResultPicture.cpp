@@ -51,9 +51,9 @@ std::string GroupName(GroupOption group) {
     case optionStoyka:
       return "Стойки";
     case optionOpornRaskos:
-      return "Опорные раскосы";
+      break;
   }
-  return {};
+  return "Опорные раскосы";
 }
 
 }  // namespace trelonit
