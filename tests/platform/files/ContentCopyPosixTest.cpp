@@ -19,6 +19,7 @@ namespace fs = std::filesystem;
 
 int ErrorOf(const std::function<void()>& body);
 std::string InChild(const std::function<std::string()>& body);
+void DropRights();
 
 namespace {
 
@@ -57,6 +58,17 @@ TEST_F(ContentCopyTest, StandsAmongTheSystemsTemporaryFilesWhereTheUsersAreMissi
   const fs::path copy = With("data", "temporary", KeptCopy);
   EXPECT_EQ(copy.parent_path(), "/tmp");
   EXPECT_TRUE(fs::remove(copy));
+}
+
+TEST_F(ContentCopyTest, IsRefusedWhereNoFolderTakesIt) {
+  fs::create_directory(In("temporary"));
+  fs::permissions(In("temporary"), fs::perms(0555));
+  EXPECT_EQ(With("data", "temporary",
+                 [] {
+                   DropRights();
+                   return KeptCopy();
+                 }),
+            "error 70");
 }
 
 TEST_F(ContentCopyTest, GoesUnlessItIsKept) {

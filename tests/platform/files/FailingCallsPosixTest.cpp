@@ -82,6 +82,44 @@ TEST_F(FailingCalls, AreToldWhereNothingIsKnownOfAnOpenFile) {
   EXPECT_EQ(ErrorOf([&] { files.OpenForUpdate(In("file")); }), pathFileAccess);
 }
 
+TEST_F(FailingCalls, AreTakenForAFileThatMightStandThere) {
+  // A device that does not answer has not said that there is none: each of the questions about the
+  // file is one of them.
+  Put("file", "old");
+  const WatchedCall failing(SystemCall::Stat, [] { return EIO; });
+  EXPECT_TRUE(files.FileExists(In("file")));
+  EXPECT_EQ(ErrorOf([&] { files.OpenForReading(In("file")); }), deviceError);
+}
+
+TEST_F(FailingCalls, ReplaceNoFileThatNothingIsKnownOf) {
+  Put("file", "old");
+  int asked = 0;
+  for (int failing = 1; failing == 1 || asked >= failing; ++failing) {
+    ASSERT_LT(failing, 100);
+    asked = 0;
+    int error = 0;
+    {
+      const WatchedCall call(SystemCall::Stat, [&] { return ++asked == failing ? EIO : 0; });
+      error = ErrorOfReplacing("file", "new");
+    }
+    if (asked >= failing) {
+      EXPECT_EQ(error, deviceError) << failing;
+      EXPECT_EQ(Content("file"), "old") << failing;
+    } else {
+      EXPECT_EQ(error, 0);
+      EXPECT_EQ(Content("file"), "new");
+    }
+  }
+}
+
+TEST_F(FailingCalls, GiveTheNewFileANameFromTheStartWhereItGetsNoneAtTheEnd) {
+  Put("file", "old");
+  const WatchedCall failing(SystemCall::Linkat, [] { return EPERM; });
+  EXPECT_EQ(ErrorOfReplacing("file", "new"), 0);
+  EXPECT_EQ(Content("file"), "new");
+  EXPECT_EQ(Names(), std::set<std::string>{"file"});
+}
+
 TEST_F(FailingCalls, AreToldWhereAPipeCannotBeRead) {
   std::array<int, 2> ends{};
   ASSERT_EQ(::pipe(ends.data()), 0);

@@ -5,7 +5,18 @@
 namespace trelonit::test {
 
 /// Calls of this program for the system that a test can make fail.
-enum class SystemCall { Flock, Fstat, Fsync, Ftruncate, Gethostname, Pread, Pwrite, Read };
+enum class SystemCall {
+  Flock,
+  Fstat,
+  Fsync,
+  Ftruncate,
+  Gethostname,
+  Linkat,
+  Pread,
+  Pwrite,
+  Read,
+  Stat
+};
 
 /// While it lives, every such call of this thread is asked about first: the answer is the number of
 /// the system's error with which it fails, or 0 where it is to happen. There is one at a time.

@@ -83,6 +83,12 @@ int gethostname(char* name, std::size_t size) noexcept {
                                         : Real<int(char*, std::size_t)>("gethostname")(name, size);
 }
 
+int linkat(int folder, const char* from, int other, const char* to, int flags) noexcept {
+  return Fails(SystemCall::Linkat) ? -1
+                                   : Real<int(int, const char*, int, const char*, int)>("linkat")(
+                                         folder, from, other, to, flags);
+}
+
 ssize_t pread(int file, void* bytes, std::size_t size, off_t place) {
   return Fails(SystemCall::Pread)
              ? -1
@@ -99,6 +105,10 @@ ssize_t read(int file, void* bytes, std::size_t size) {
   return Fails(SystemCall::Read)
              ? -1
              : Real<ssize_t(int, void*, std::size_t)>("read")(file, bytes, size);
+}
+
+int stat(const char* path, struct stat* status) noexcept {
+  return Fails(SystemCall::Stat) ? -1 : Real<int(const char*, struct stat*)>("stat")(path, status);
 }
 }
 
