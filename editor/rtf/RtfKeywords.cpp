@@ -11,11 +11,11 @@ namespace {
 
 using enum RtfAction;
 
-constexpr std::int32_t AlignmentValue(ParagraphAlignment value) {
+consteval std::int32_t AlignmentValue(ParagraphAlignment value) {
   return static_cast<std::int32_t>(value);
 }
 
-constexpr std::int32_t ScriptValue(RtfScript value) {
+consteval std::int32_t ScriptValue(RtfScript value) {
   return static_cast<std::int32_t>(value);
 }
 

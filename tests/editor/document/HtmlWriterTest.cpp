@@ -38,6 +38,20 @@ p.justified { text-align: justify; }
 )");
 }
 
+TEST(HtmlWriter, AlignsParagraphsAndLeavesEmptyRunsOut) {
+  RichDocument document;
+  document.Paragraphs.resize(2);
+  document.Paragraphs[0].Alignment = ParagraphAlignment::Right;
+  document.Paragraphs[0].Runs = {{u"", {}}, {u"вправо", {}}};
+  document.Paragraphs[1].Alignment = ParagraphAlignment::Justified;
+  document.Paragraphs[1].Runs = {{u"", {}}};
+  const std::string page = WriteHtml(document, "");
+  EXPECT_NE(page.find("<p class=\"right\"><span class=\"f1\">вправо</span></p>\n"
+                      "<p class=\"justified\"><br></p>\n"),
+            std::string::npos)
+      << page;
+}
+
 std::string StylesOf(const CharFormat& format) {
   RichDocument document;
   document.Paragraphs[0].Runs = {{u"x", format}};

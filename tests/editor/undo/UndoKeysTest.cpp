@@ -372,5 +372,28 @@ TEST_F(Undo, LocksTheUpdatesDuringAKeyAndNoLonger) {
   EXPECT_EQ(box.Locks, 0);
 }
 
+TEST_F(Undo, RedoesWhatTheKeyboardPutIn) {
+  // The key of a Latin f types а on a Russian layout.
+  Integer key = 'F';
+  undo.RichBox_KeyDown(key, 0);
+  undo.RichBox_Typed("а");
+  box.SetSelText("а");
+  EXPECT_EQ(Newest().NewText, "а");
+  undo.Undo();
+  EXPECT_EQ(box.Text(), "");
+  undo.Redo();
+  EXPECT_EQ(box.Text(), "а");
+}
+
+TEST_F(Undo, TakesTheTextOfAKeyOnceAndOnlyWhereOneWasTyped) {
+  undo.RichBox_Typed("before any key");
+  EXPECT_EQ(undo.UndoCount(), 0);
+  Integer key = 'F';
+  undo.RichBox_KeyDown(key, 0);
+  undo.RichBox_Typed("а");
+  undo.RichBox_Typed("б");
+  EXPECT_EQ(Newest().NewText, "а");
+}
+
 }  // namespace
 }  // namespace trelonit::test
