@@ -78,9 +78,9 @@ PaperSides PaperSize(PaperFormat format) {
     case PaperFormat::A1:
       return {841, 594};
     case PaperFormat::A0:
-      return {1189, 841};
+      break;
   }
-  return {};
+  return {1189, 841};
 }
 
 std::string DrawingSheet::ScaleNote() const {

@@ -58,6 +58,18 @@ TEST(Setup, HandsAnErrorOfTheHostToItsCaller) {
   EXPECT_TRUE(desk.Messages.Shown.empty());
 }
 
+TEST(RandomNumbers, OfTheSystemAreSharesOfOne) {
+  const double first = clsAutoCAD::SystemRandomNumber();
+  bool differ = false;
+  for (int turn = 0; turn < 10; ++turn) {
+    const double next = clsAutoCAD::SystemRandomNumber();
+    EXPECT_GE(next, 0);
+    EXPECT_LT(next, 1);
+    differ = differ || next != first;
+  }
+  EXPECT_TRUE(differ);
+}
+
 }  // namespace
 
 }  // namespace trelonit::test

@@ -216,6 +216,14 @@ TEST(SetUp, OfTheDrawingClassFillsTheDocument) {
   EXPECT_EQ(FindDimStyle(*desk.Sheet, "NordDim")->Variables, expected);
 }
 
+TEST(DimStyles, HaveNoPropertiesOfTheirOwn) {
+  DocumentDesk desk;
+  const AutomationHandle style = desk.AddNamed("DimStyles", "NordDim");
+  constexpr int notSupported = 438;
+  EXPECT_EQ(RaisedBy([&] { Member(style, "Width"); }), notSupported);
+  EXPECT_EQ(RaisedBy([&] { SetMember(style, "Width", 1.0); }), notSupported);
+}
+
 }  // namespace
 
 }  // namespace trelonit::test

@@ -61,5 +61,32 @@ TEST(PlacedDrawing, RaisesOverflowForADrawingBeyondAllNumbers) {
   }
 }
 
+TEST(PlacedDrawing, LeavesTextsOutOnTheScreenThatWouldStandOnBars) {
+  // A bar through the middle of a text, which no smaller size takes away from it.
+  const Drawing drawing =
+      With({LineOn("Main", {-100, 5}, {100, 5}), TextAt("Н", {0, 0}, 10, TextAlignment::Left)});
+  const PlacedDrawing placed(drawing);
+  EXPECT_EQ(placed.Fit(10, true).LeftOut, 0U);
+  EXPECT_EQ(placed.Fit(10, false).LeftOut, 1U);
+  // A bar that is not shown is in nobody's way.
+  Drawing hidden = drawing;
+  for (DrawingLayer& layer : hidden.Layers) {
+    layer.LayerOn = layer.Name != "Main";
+  }
+  EXPECT_EQ(PlacedDrawing(hidden).Fit(10, false).LeftOut, 0U);
+}
+
+TEST(PlacedDrawing, KeepsRoomOverTextsThatHangFromTheirPoint) {
+  // A fifth of the height.
+  for (const TextAlignment alignment :
+       {TextAlignment::TopLeft, TextAlignment::TopCentre, TextAlignment::TopRight}) {
+    EXPECT_NEAR(BoxOfText("Н", alignment).Greatest.Y, -2, 1e-9);
+  }
+  for (const TextAlignment alignment :
+       {TextAlignment::MiddleLeft, TextAlignment::MiddleCentre, TextAlignment::MiddleRight}) {
+    EXPECT_NEAR(BoxOfText("Н", alignment).Greatest.Y, 5, 1e-9);
+  }
+}
+
 }  // namespace
 }  // namespace trelonit::test

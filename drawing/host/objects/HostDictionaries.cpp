@@ -51,7 +51,7 @@ class ContentObject : public HostObject<Self> {
 
 /// A member that takes a name and gives an object.
 template <class Self, AutomationHandle (Self::*Routine)(const std::string&)>
-constexpr HostMember<Self> NamedCall(std::string_view name) {
+consteval HostMember<Self> NamedCall(std::string_view name) {
   return {.Name = name,
           .Call = [](Self& self, const HostArguments& arguments) -> AutomationValue {
             return (self.*Routine)(NameIn(arguments.front()));

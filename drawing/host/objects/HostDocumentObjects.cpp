@@ -53,7 +53,7 @@ void SetVariable(HostDocument& document, const HostArguments& arguments) {
 }
 
 template <class Self, AutomationHandle (*Make)(const DocumentReference&)>
-constexpr HostMember<Self> Part(std::string_view name) {
+consteval HostMember<Self> Part(std::string_view name) {
   return {.Name = name, .Get = [](Self& self) -> AutomationValue {
             Alive(self.Document());
             return Make(self.Document());
@@ -61,7 +61,7 @@ constexpr HostMember<Self> Part(std::string_view name) {
 }
 
 template <class Self, const ActiveRecord& Which>
-constexpr HostMember<Self> Active(std::string_view name) {
+consteval HostMember<Self> Active(std::string_view name) {
   return {
       .Name = name,
       .Get = [](Self& self) -> AutomationValue { return Which.Get(self.Document()); },

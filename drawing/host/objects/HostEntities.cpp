@@ -109,7 +109,7 @@ class EntityObject : public HostRecordObject<Self>, public EntityBase {
   }
 
  protected:
-  static constexpr auto CommonMembers() {
+  static consteval auto CommonMembers() {
     constexpr std::size_t setArguments = 2;
     constexpr std::size_t getArguments = 3;
     return std::array{
