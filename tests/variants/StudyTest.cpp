@@ -146,6 +146,17 @@ TEST(VariantSpace, RefusesMoreThanAHundredMillion) {
   EXPECT_EQ(RefusalOf(axes), "вариантов больше 100 000 000");
 }
 
+TEST(VariantSpace, GivesTheDesignEachSteelWithItsStrength) {
+  const VariantAxes axes{.Panels = {8, 10}, .Steels = {{"С245", 2450}, {"С345", 3450}}};
+  const VariantSpace space(StartInputs(), axes, Catalogue());
+  ASSERT_EQ(space.Count(), 4U);
+  EXPECT_EQ(space.At(0).SteelName, "С245");
+  EXPECT_EQ(space.At(1).SteelName, "С345");
+  EXPECT_EQ(space.At(1).Ry, 3450);
+  EXPECT_EQ(space.At(1).PanelNum, 8);
+  EXPECT_EQ(space.At(2).Ry, 2450);
+}
+
 TEST(VariantSpace, GivesAGroupOfAnotherKindTheFirstSizeOfItsStandard) {
   const SectionLayout* paired = nullptr;
   for (Long number = 1; number <= sectionLayoutCount; ++number) {

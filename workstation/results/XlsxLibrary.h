@@ -1,6 +1,9 @@
 #pragma once
 
+#include <string>
 #include <xlsxwriter.h>
+
+#include "workstation/results/ResultTable.h"
 
 namespace trelonit {
 
@@ -29,5 +32,9 @@ struct XlsxLibrary {
 /// loading would be the longest part of the program's start before its own first line. Raises 53
 /// where it is not installed.
 const XlsxLibrary& LoadXlsxLibrary();
+
+/// The bytes of a workbook with this table. Raises 61 where it cannot be stored, 57 where the
+/// library refuses anything else.
+std::string WriteXlsx(const XlsxLibrary& library, const ResultTable& table);
 
 }  // namespace trelonit

@@ -131,8 +131,9 @@ class Sheet {
   std::map<int, lxw_format*> formats_;
 };
 
-std::string WriteXlsx(const ResultTable& table) {
-  const XlsxLibrary& library = LoadXlsxLibrary();
+}  // namespace
+
+std::string WriteXlsx(const XlsxLibrary& library, const ResultTable& table) {
   const ScratchFolder folder;
   const std::string path = Utf8OfPath(folder.Path() / "table.xlsx");
   std::string tmpdir = Utf8OfPath(folder.Path());
@@ -158,10 +159,8 @@ std::string WriteXlsx(const ResultTable& table) {
   return ReadBytes(files, path);
 }
 
-}  // namespace
-
 SpreadsheetWriter XlsxWriter() {
-  return WriteXlsx;
+  return [](const ResultTable& table) { return WriteXlsx(LoadXlsxLibrary(), table); };
 }
 
 }  // namespace trelonit

@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "platform/errors/RuntimeError.h"
+#include "tests/workstation/design/SelectionLadder.h"
 #include "tests/workstation/design/SmallTruss.h"
+#include "workstation/design/SelectionComparison.h"
 #include "workstation/dialogs/frmSearch.h"
 
 namespace trelonit::test {
@@ -182,6 +186,81 @@ TEST(SearchFormOfADesign, ShowsTheLayoutsThatTheMainFormShows) {
     EXPECT_EQ(form.lblProfilName[option].Caption(),
               SizeName(desk.Main, section.TypeIdx, section.SizeIdx));
   }
+}
+
+TEST_F(SearchForm, RepeatsTheSelectionWhereItIsAsked) {
+  SelectionProposal repeated = proposal;
+  repeated.Sections[sectionRaskos].Profile.Name = "repeated";
+  repeated.Rounds = 3;
+  const auto fill = [&] {
+    form.Fill({.Proposal = proposal, .Repeated = [&repeated] { return repeated; }}, pictures, 1);
+  };
+  fill();
+  EXPECT_TRUE(form.chkRepeat.Enabled());
+  EXPECT_EQ(form.lblRounds.Caption(), "");
+  form.chkRepeat.SetChecked(true);
+  EXPECT_EQ(SizesShown(), (Texts{"up", "down", "repeated", "vertical", "support"}));
+  EXPECT_EQ(form.lblRounds.Caption(), "Кругов подбора до неизменности: 3");
+  form.chkRepeat.SetChecked(false);
+  EXPECT_EQ(SizesShown(), (Texts{"up", "down", "diagonal", "vertical", "support"}));
+  EXPECT_EQ(form.lblRounds.Caption(), "");
+  repeated.Circles = true;
+  form.chkRepeat.SetChecked(true);
+  EXPECT_EQ(form.lblRounds.Caption(), "Размеры чередуются, взят лучший из кругов подбора: 3");
+}
+
+TEST_F(SearchForm, ClearsTheBoxOfARepeatedSelectionThatFails) {
+  form.Fill({.Proposal = proposal,
+             .Repeated = []() -> SelectionProposal {
+               throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+             }},
+            pictures, 1);
+  form.chkRepeat.SetChecked(true);
+  EXPECT_FALSE(form.chkRepeat.Checked());
+  EXPECT_EQ(SizesShown(), (Texts{"up", "down", "diagonal", "vertical", "support"}));
+}
+
+TEST_F(SearchForm, DoesNotOfferToRepeatASelectionThatRepeatsItself) {
+  form.Fill({.Proposal = proposal,
+             .ByOpinion = [this] { return std::optional(proposal); },
+             .Repeated = [this] { return proposal; }},
+            pictures, 1);
+  EXPECT_TRUE(form.chkRepeat.Enabled());
+  form.chkOpinion.SetChecked(true);
+  EXPECT_FALSE(form.chkRepeat.Enabled());
+  form.chkOpinion.SetChecked(false);
+  EXPECT_TRUE(form.chkRepeat.Enabled());
+}
+
+TEST_F(SearchForm, ComparesTheProposalWithTheDesignAsItIs) {
+  Ladder ladder(optionRaskos, {1.3, 1.2, 0.9, 0.8}, 2);
+  const SelectionProposal selected = ladder.Select();
+  form.Fill({.Proposal = selected, .Before = ladder.Model.Last, .Locale = CommaLocale()}, pictures,
+            1);
+  EXPECT_EQ(form.lblSizeBefore[optionRaskos].Caption(), "S2");
+  EXPECT_EQ(form.lblUseBefore[optionRaskos].Caption(), "1,200");
+  EXPECT_EQ(form.lblUseBefore[optionRaskos].ForeColor(), colorRed);
+  EXPECT_EQ(form.lblUse[optionRaskos].Caption(), "0,900");
+  EXPECT_EQ(form.lblUse[optionRaskos].ForeColor(), colorWindowText);
+  EXPECT_EQ(form.lblSizeBefore[optionUpPoyas].Caption(), "thick");
+}
+
+TEST_F(SearchForm, TellsTheMassBeforeAndAfterAndWhatThatIsInHundredths) {
+  Ladder ladder(optionRaskos, {1.3, 1.2, 0.9, 0.8}, 4);
+  const SelectionProposal selected = ladder.Select();
+  Calculation before = ladder.Model.Last;
+  const auto massAfter = [&](double massBefore) {
+    before.CheckData.Mass = massBefore;
+    form.Fill({.Proposal = selected, .Before = before, .Locale = PointLocale()}, pictures, 1);
+    return form.lblMass.Caption();
+  };
+  const double after = CompareSelection(before, selected).MassAfter;
+  const std::string shown = FormatShown(after, 3, PointLocale());
+  EXPECT_EQ(massAfter(2 * after), "Масса фермы: " + FormatShown(2 * after, 3, PointLocale()) +
+                                      " т, станет " + shown + " т (-50.0 %)");
+  EXPECT_EQ(massAfter(after / 2), "Масса фермы: " + FormatShown(after / 2, 3, PointLocale()) +
+                                      " т, станет " + shown + " т (+100.0 %)");
+  EXPECT_EQ(massAfter(0), "Масса фермы: 0.000 т, станет " + shown + " т");
 }
 
 }  // namespace

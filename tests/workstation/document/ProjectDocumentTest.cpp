@@ -206,5 +206,14 @@ TEST_F(Document, OnAMachineWithoutAStateFolderOpensAndSaves) {
   EXPECT_FALSE(session.Document->OfferRecovery());
 }
 
+TEST_F(Document, TellsItsWindowWheneverItIsNoted) {
+  Session session(disk);
+  int told = 0;
+  session.Document->Changed = [&told] { ++told; };
+  session.Type("30");
+  EXPECT_EQ(told, 1);
+  session.Document->Changed = nullptr;
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -179,5 +179,18 @@ RC_GTEST_PROP(RecoveryText, ReadsBackWhatItWrote, ()) {
   RC_ASSERT(read->Time == copy.Time);
 }
 
+TEST_F(Recovery, IsWrittenOnlyWhereSomethingHasChangedSince) {
+  Session session(disk);
+  session.Type("30");
+  session.Document->KeepRecoveryCopy();
+  // Whoever looks sees whether it is written anew.
+  disk.Put("state/1.recovery", "untouched");
+  session.Document->KeepRecoveryCopy();
+  EXPECT_EQ(disk.Content("state/1.recovery"), "untouched");
+  session.Type("31");
+  session.Document->KeepRecoveryCopy();
+  EXPECT_NE(disk.Content("state/1.recovery"), "untouched");
+}
+
 }  // namespace
 }  // namespace trelonit::test

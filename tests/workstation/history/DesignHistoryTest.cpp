@@ -110,6 +110,17 @@ TEST_F(History, ForgetsTheOldestWhereItWouldTakeMoreThanItsBytes) {
   EXPECT_FALSE(small.CanUndo());
 }
 
+TEST_F(History, OfOneDesignThatTakesAllItsBytesHasNoSteps) {
+  DesignHistory tiny(1);
+  tiny.Begin(WithSpan("20"));
+  EXPECT_TRUE(tiny.Note(WithSpan("3"), "txtLengthF"));
+  EXPECT_EQ(tiny.Steps(), 0U);
+  // There is no step left that typing on could be a part of.
+  EXPECT_TRUE(tiny.Note(WithSpan("30"), "txtLengthF"));
+  EXPECT_EQ(tiny.Steps(), 0U);
+  EXPECT_EQ(tiny.Now().Texts.LengthF, "30");
+}
+
 TEST_F(History, HoldsADayOfWorkInItsTenMegabytes) {
   // A truss of 30 panels, changed once a quarter of a minute through eight hours.
   for (int step = 1; step <= 1920; ++step) {

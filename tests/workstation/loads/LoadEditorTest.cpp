@@ -155,5 +155,54 @@ TEST_F(Editor, SizesThatMakeNoTrussHaveNoPicture) {
   }
 }
 
+TEST_F(Editor, HasTheLoadsAsRowsOfColumns) {
+  Main.Model.Inputs.Loads.UpPForce[2] = 2.5;
+  // 11 joints and 10 panels on each chord.
+  ASSERT_EQ(loads.Rows().size(), 42U);
+  EXPECT_EQ(loads.Columns(loads.Rows()[2]),
+            (std::vector<std::string>{"верхний", "узел", "2", "2.5"}));
+}
+
+TEST_F(Editor, FillsCopiesAndDeletesTheChosenRows) {
+  EXPECT_TRUE(loads.Type(1, "2.5"));
+  EXPECT_TRUE(loads.FillDown({1, 2, 3}));
+  EXPECT_EQ(Main.Model.Inputs.Loads.UpPForce[3], 2.5);
+  EXPECT_EQ(loads.Copy({1, 4}), "верхний\tузел\t1\t2.5\nверхний\tузел\t4\t\n");
+  EXPECT_TRUE(loads.Delete({1, 3}));
+  EXPECT_EQ(Main.Model.Inputs.Loads.UpPForce[1], 0);
+  EXPECT_EQ(Main.Model.Inputs.Loads.UpPForce[2], 2.5);
+  EXPECT_FALSE(loads.FillDown({1}));
+  EXPECT_TRUE(loads.lblLoadError.Visible());
+}
+
+TEST_F(Editor, MarksAllPlacesAgainWhereAllAreChosen) {
+  Main.imgDistForce_Click();
+  Main.chkAllPanels.SetChecked(true);
+  int changed = 0;
+  Main.LoadsChanged = [&changed] { ++changed; };
+  EXPECT_TRUE(loads.Type(2, "1"));
+  EXPECT_GT(changed, 0);
+  for (Long panel = 0; panel < 10; ++panel) {
+    EXPECT_EQ(Main.Preview.linPoyas[panel].BorderColor, colorRed) << panel;
+  }
+}
+
+TEST_F(Editor, HasNothingPickedWhereTheToolHasNoPlaces) {
+  Main.cmbKnotNum.Clear();
+  EXPECT_EQ(loads.Picked(), std::nullopt);
+  // A place that the tool does not offer is not chosen.
+  loads.Pick({.Of = Chord::Upper, .Panel = false, .Number = 99});
+  EXPECT_NE(loads.Picked(), (LoadSpot{.Of = Chord::Upper, .Panel = false, .Number = 99}));
+}
+
+TEST_F(Editor, DrawsTheChosenPanelApart) {
+  loads.Pick({.Of = Chord::Lower, .Panel = true, .Number = 7});
+  const LoadPicture picture = loads.Draw(Size());
+  const auto chosen =
+      std::count_if(picture.Lines.begin(), picture.Lines.end(),
+                    [](const LoadLine& line) { return line.Ink == LoadInk::Chosen; });
+  EXPECT_EQ(chosen, 1);
+}
+
 }  // namespace
 }  // namespace trelonit::test

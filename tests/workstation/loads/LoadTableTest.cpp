@@ -157,6 +157,26 @@ TEST_F(LoadsAsTable, TellsTextThatIsNoTable) {
             "величина) или один (величина).");
 }
 
+TEST_F(LoadsAsTable, RefusesPlacesThatAreNoWholeNumbers) {
+  for (const std::string number : {"-1", "сто", "", "1000000"}) {
+    const std::string error = ErrorOf("нижний\tузел\t" + number + "\t2");
+    EXPECT_EQ(error, "Строка 1: номер «" + number + "», а нужно целое число от 0.");
+  }
+}
+
+TEST_F(LoadsAsTable, TakesValuesOnlyWhereARowIsChosen) {
+  EXPECT_EQ(ErrorOf("5\n6", 99), "Не выбрана строка, с которой начинать.");
+  EXPECT_FALSE(TypeLoad(state, 99, "5").Loads.has_value());
+}
+
+TEST_F(LoadsAsTable, PassesOverEmptyLinesAndOwnWeightOfATable) {
+  Take(PasteLoads(state, 0,
+                  "верхний\tузел\t1\t2\n\nоба\tсобств. вес\tвсе\t0.0123\nнижний\tузел\t2\t3"));
+  EXPECT_EQ(state.Loads.UpPForce[1], 2);
+  EXPECT_EQ(state.Loads.DwnPForce[2], 3);
+  EXPECT_EQ(state.Loads.UpDistForce[0], 0);
+}
+
 TEST_F(LoadsAsTable, TellsALongTextByItsBeginning) {
   std::string text;
   for (int letter = 0; letter < 1000000; ++letter) {

@@ -189,5 +189,29 @@ TEST(Help, TellsThatTheViewerFails) {
             (Messages{Tail("Help comand", 429, "ActiveX component can't create object")}));
 }
 
+TEST(VariantsEntry, IsThereForAProgramThatHasTheWindow) {
+  Desk desk;
+  int opened = 0;
+  frmMain form(desk.Outside.Bundle(), {.ShowVariants = [&opened] { ++opened; }});
+  form.Form_Load();
+  const frmMain::MenuItem entry = form.FindMenuItem("mnuVariants");
+  EXPECT_EQ(entry.Caption, "Варианты ...");
+  entry.Click();
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(form.tabMain.Tab(), 2);
+  // Not from a geometry that makes no truss.
+  form.tabMain.SetTab(0);
+  form.txtHight.SetText("0");
+  entry.Click();
+  EXPECT_EQ(opened, 1);
+}
+
+TEST(VariantsEntry, IsMissingWithoutTheWindow) {
+  StartedDesk desk;
+  const frmMain::MenuItem entry = desk.Main.FindMenuItem("mnuVariants");
+  EXPECT_EQ(entry.Caption, "");
+  EXPECT_FALSE(entry.Enabled);
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -247,5 +247,33 @@ TEST(ResultsWindow, IsUnloadedByItsButton) {
   EXPECT_EQ(unloaded, 1);
 }
 
+TEST(ResultsWindow, StoresItsTablesByTheWritersThatItHas) {
+  frmKoeffOfUse form;
+  const ResultTable table{.Title = "Стержни", .Columns = {}, .Rows = {}};
+  EXPECT_FALSE(form.mnuSaveCsv.Enabled());
+  EXPECT_FALSE(form.mnuSaveXlsx.Enabled());
+  form.mnuSaveCsv_Click(table);
+  form.mnuSaveXlsx_Click(table);
+  Lines stored;
+  form.SetTableFiles([&](const ResultTable& told) { stored.push_back("csv " + told.Title); },
+                     [&](const ResultTable& told) { stored.push_back("xlsx " + told.Title); });
+  EXPECT_TRUE(form.mnuSaveCsv.Enabled());
+  EXPECT_TRUE(form.mnuSaveXlsx.Enabled());
+  form.mnuSaveXlsx_Click(table);
+  form.mnuSaveCsv_Click(table);
+  EXPECT_EQ(stored, (Lines{"xlsx Стержни", "csv Стержни"}));
+}
+
+TEST(ResultsWindow, TurnsTheAppendixOnAndOff) {
+  frmKoeffOfUse form;
+  form.mnuAppendix_Click();
+  EXPECT_TRUE(form.mnuAppendix.Checked());
+  std::vector<bool> told;
+  form.AppendixChanged = [&told](bool on) { told.push_back(on); };
+  form.mnuAppendix_Click();
+  form.mnuAppendix_Click();
+  EXPECT_EQ(told, (std::vector<bool>{false, true}));
+}
+
 }  // namespace
 }  // namespace trelonit::test

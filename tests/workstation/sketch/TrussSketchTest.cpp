@@ -4,6 +4,7 @@
 
 #include "platform/text/Text.h"
 #include "tests/support/TestServices.h"
+#include "tests/workstation/main/Desk.h"
 #include "workstation/sketch/TrussSketch.h"
 
 namespace trelonit::test {
@@ -200,6 +201,14 @@ TEST(TrussSketch, SaysThatASchemeIsNotCalculated) {
 TEST(TrussSketch, IsEmptyWhereThereIsNoRoom) {
   EXPECT_TRUE(DrawnOf(SizesOf(1, 24, 3, 3, 8), 60, 40).Strokes.empty());
   EXPECT_TRUE(DrawnOf(SizesOf(1, 24, 3, 12, 8), 60, 40).Strokes.empty());
+}
+
+TEST(TrussSketch, OfTheMainFormIsThatOfWhatIsTyped) {
+  StartedDesk desk;
+  desk.Main.txtLengthF.SetText("24");
+  const TrussSketch drawn = desk.Main.SketchTruss(CanvasOf(640, 260));
+  const std::vector<std::string> figures = FiguresOf(drawn, SketchInk::Text);
+  EXPECT_NE(std::find(figures.begin(), figures.end(), "24"), figures.end());
 }
 
 }  // namespace
