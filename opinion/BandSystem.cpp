@@ -30,8 +30,7 @@ void BandSystem::BringPivotUp(std::size_t column, std::size_t lastRow, std::vect
     RaiseDivisionByZero();
   }
   if (pivot != column) {
-    const std::size_t lastColumn = std::min(column + above_, size_ - 1);
-    std::swap_ranges(&At(column, column), &At(column, lastColumn) + 1, &At(pivot, column));
+    std::swap_ranges(&At(column, column), &At(column, column + above_) + 1, &At(pivot, column));
     std::swap(right[column], right[pivot]);
   }
 }
@@ -39,13 +38,12 @@ void BandSystem::BringPivotUp(std::size_t column, std::size_t lastRow, std::vect
 std::vector<double> BandSystem::Solve(std::vector<double> right) && {
   for (std::size_t column = 0; column < size_; ++column) {
     const std::size_t lastRow = std::min(column + below_, size_ - 1);
-    const std::size_t lastColumn = std::min(column + above_, size_ - 1);
     BringPivotUp(column, lastRow, right);
     const double* const pivotRow = &At(column, column);
     for (std::size_t row = column + 1; row <= lastRow; ++row) {
       double* const cells = &At(row, column);
       if (const double factor = cells[0] / pivotRow[0]; factor != 0) {
-        for (std::size_t k = 1; k <= lastColumn - column; ++k) {
+        for (std::size_t k = 1; k <= above_; ++k) {
           cells[k] -= factor * pivotRow[k];
         }
         right[row] -= factor * right[column];

@@ -25,6 +25,7 @@ class BandSystem {
   std::size_t below_;
   /// Row exchange moves a row up by at most the lower band, and its end with it.
   std::size_t above_;
+  /// Every row has its whole band; what stands beyond the last column there is never asked for.
   std::size_t width_;
   std::vector<double> cells_;
 };

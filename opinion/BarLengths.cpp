@@ -23,7 +23,7 @@ double LongestStretch(const Truss& truss, Chord chord, std::size_t panels) {
 }  // namespace
 
 double LengthBetweenHeldPoints(const Truss& truss, Chord chord, Long bracing) {
-  const std::size_t whole = truss.JointsOf(chord).size() - 1;
+  const std::size_t whole = truss.JointsOf(chord).size();  // more panels than it has
   switch (bracing) {
     case 1:
       return LongestStretch(truss, chord, whole);

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "checks/ElementGroups.h"
+#include "opinion/Buckling.h"
 #include "opinion/ExplanationBuilder.h"
 #include "opinion/NormTexts.h"
 #include "platform/errors/Guard.h"
@@ -50,17 +51,6 @@ constexpr Plane planeY{"Y",
                        &GroupCheck::KStabY,
                        &GroupCheck::KFlexY,
                        &GroupCheck::KUserY};
-
-/// The formula that the program's own calculation takes here: its comparisons are strict.
-int ToldPhiFormula(double conditionalSlenderness) {
-  if (conditionalSlenderness < 2.5) {
-    return 8;
-  }
-  if (conditionalSlenderness < 4.5) {
-    return 9;
-  }
-  return conditionalSlenderness <= 35 ? 10 : 0;
-}
 
 /// Explains the figures of one group of the check record.
 class ToldExplainer {
@@ -185,7 +175,9 @@ class ToldExplainer {
   void PutPhi(ExplanationBuilder& builder, const Plane& plane) const {
     builder.Given("E", design_.Numbers.E, "МПа");
     builder.Step("λ̄", formulaConditional, check_.*plane.FlexBar);
-    const int formula = ToldPhiFormula(check_.*plane.FlexBar);
+    // At the very bounds of the formulas the calculation has no φ, and so nothing to explain.
+    const int formula =
+        BucklingCoefficient(check_.*plane.FlexBar, design_.Numbers.Ry, design_.Numbers.E).Formula;
     const PhiText text = TextOfPhi(formula);
     builder.Step("φ", text.Formula, check_.*plane.Phi, {}, text.Clause);
     if (formula == 0) {
@@ -235,7 +227,7 @@ std::vector<Explanation> ExplainToldGroup(const JudgedDesign& design, ElementGro
   const ElementGroupRow& row = RowOf(group);
   const Scheme* scheme = FindScheme(design.Data.TreloType);
   const bool exists = scheme != nullptr && (group != ElementGroup::Stoyka || scheme->HasVerticals);
-  if (!exists || (design.Check.*row.Block).Area == 0) {
+  if (!exists) {
     return explanations;
   }
   const auto add = [&](auto&& explain) { PassOver([&] { explanations.push_back(explain()); }); };

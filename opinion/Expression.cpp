@@ -172,9 +172,9 @@ Real Value(const Expression& expression, const SymbolValues& symbols) {
 
 /// Without an exponent, so that the text stays plain arithmetic for every reader.
 std::string PlainNumber(double value, int digits) {
-  const int magnitude =
-      Finite(value) == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(value))));
-  const int decimals = std::clamp(digits - 1 - magnitude, 0, 300);
+  // Of 0 the logarithm is infinite, which asks for the most decimals; they are cut off again.
+  const double magnitude = std::floor(std::log10(std::abs(Finite(value))));
+  const int decimals = static_cast<int>(std::clamp(digits - 1 - magnitude, 0.0, 300.0));
   std::string text(350 + static_cast<std::size_t>(decimals), '\0');
   const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
   text.resize(static_cast<std::size_t>(length));

@@ -74,9 +74,8 @@ class Search {
   std::string Metres(double value) const { return Shown(value, 3) + " м"; }
   /// Small differences keep their first digits.
   std::string Tonnes(double value) const {
-    const double size = std::abs(value);
-    return (size != 0 && size < 0.001 ? NumberToText(RoundToDecimals(value, 12), locale_)
-                                      : Shown(value, 3)) +
+    return (std::abs(value) < 0.001 ? NumberToText(RoundToDecimals(value, 12), locale_)
+                                    : Shown(value, 3)) +
            " т";
   }
 

@@ -27,6 +27,10 @@ double Greatest(const std::vector<double>& values) {
   return greatest;
 }
 
+bool IsStability(MemberCheck check) {
+  return check == MemberCheck::StabX || check == MemberCheck::StabY;
+}
+
 /// With a negative area and negative coefficients a bar would pass everything.
 Real Positive(double value) {
   if (!(value > 0)) {
@@ -269,19 +273,11 @@ Opinion Form(const JudgedDesign& design) {
 }  // namespace
 
 double BarJudgement::Figure(MemberCheck check) const {
-  switch (check) {
-    case MemberCheck::Strength:
-      return Strength;
-    case MemberCheck::StabX:
-      return X.Stability;
-    case MemberCheck::StabY:
-      return Y.Stability;
-    case MemberCheck::FlexX:
-      return X.Flex;
-    case MemberCheck::FlexY:
-      break;
+  const PlaneJudgement* plane = PlaneOf(check);
+  if (plane == nullptr) {
+    return Strength;
   }
-  return Y.Flex;
+  return IsStability(check) ? plane->Stability : plane->Flex;
 }
 
 const PlaneJudgement* BarJudgement::PlaneOf(MemberCheck check) const {
@@ -341,8 +337,7 @@ GroupJudgement JudgeGroup(const JudgedTruss& truss, ElementGroup group, const Se
     }
     bars[place] = judge.Judge(place);
     for (const MemberCheckRow& row : memberChecks) {
-      const bool stability = row.Check == MemberCheck::StabX || row.Check == MemberCheck::StabY;
-      if (stability && !bars[place].Compressed) {
+      if (IsStability(row.Check) && !bars[place].Compressed) {
         continue;
       }
       const auto check = static_cast<std::size_t>(row.Check);

@@ -51,16 +51,15 @@ class Equilibrium {
   };
 
   void OrderUnknowns() {
-    std::vector<std::pair<std::size_t, std::size_t>> order;
+    std::vector<std::pair<std::pair<std::size_t, std::size_t>, std::size_t>> order;
     order.reserve(truss_.Bars.size());
     for (std::size_t bar = 0; bar < truss_.Bars.size(); ++bar) {
-      const auto [first, second] = std::minmax(truss_.Bars[bar].A, truss_.Bars[bar].B);
-      order.emplace_back(first * truss_.Joints.size() + second, bar);
+      order.emplace_back(std::minmax(truss_.Bars[bar].A, truss_.Bars[bar].B), bar);
     }
     std::sort(order.begin(), order.end());
     // Behind the two reactions of the left support, before the one of the right.
     std::size_t unknown = 2;
-    for (const auto& [key, bar] : order) {
+    for (const auto& [joints, bar] : order) {
       unknownOfBar_[bar] = unknown++;
     }
   }
@@ -88,8 +87,11 @@ class Equilibrium {
     for (const Coefficient& coefficient : coefficients_) {
       const std::size_t r = coefficient.*row;
       const std::size_t c = coefficient.*column;
-      below = std::max(below, r > c ? r - c : 0);
-      above = std::max(above, c > r ? c - r : 0);
+      if (r > c) {
+        below = std::max(below, r - c);
+      } else {
+        above = std::max(above, c - r);
+      }
     }
     BandSystem system(Size(), below, above);
     for (const Coefficient& coefficient : coefficients_) {

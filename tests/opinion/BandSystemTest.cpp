@@ -143,6 +143,17 @@ TEST(BandSystem, KeepsTheEndOfARowThatMovesUp) {
   EXPECT_EQ(found, (std::vector<double>{1, 2, 1}));
 }
 
+// x + y = 2 and x + 1e20 y = 1e20 + 1, which rounds to 1e20: next to x = y = 1. With the second row
+// on top, x would be what 1e20 - 1e20 leaves of it, 0.
+TEST(BandSystem, ExchangesNoRowsWithEqualCoefficients) {
+  BandSystem system(2, 1, 1);
+  system.At(0, 0) = 1;
+  system.At(0, 1) = 1;
+  system.At(1, 0) = 1;
+  system.At(1, 1) = 1e20;
+  EXPECT_EQ(std::move(system).Solve({2, 1e20}), (std::vector<double>{1, 1}));
+}
+
 TEST(BandSystem, OfOneEquationDivides) {
   BandSystem system(1, 0, 0);
   system.At(0, 0) = 4;

@@ -41,6 +41,8 @@ const std::vector<HeldCase>& HeldCases() {
       {3, 2, 6, 3, {6, 3, 6, 3}, {3, 1.5, 3, 3}},
       // Panels 4, 1, 1, 1, 1, 4.
       {4, 6, 12, 4, {12, 6, 5, 4}, {4, 2, 4, 2}},
+      // A model for the table: no length reaches a metre.
+      {1, 4, 0.8, 0.2, {0.8, 0.4, 0.4, 0.2}, {0.8, 0.4, 0.4, 0.2}},
   };
   return cases;
 }

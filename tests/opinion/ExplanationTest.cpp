@@ -8,6 +8,7 @@
 
 #include "checks/ElementGroups.h"
 #include "opinion/Expression.h"
+#include "tests/opinion/ExplanationTools.h"
 #include "tests/opinion/OpinionCase.h"
 #include "tests/workstation/design/AnyDesign.h"
 
@@ -163,18 +164,6 @@ RC_GTEST_PROP(Explanations, OfTheOpinionNameTheBarThatRules, ()) {
     }
     RC_ASSERT(found);
   }
-}
-
-const Explanation& Find(const std::vector<Explanation>& explanations, ElementGroup group,
-                        const std::string& check) {
-  const auto found =
-      std::find_if(explanations.begin(), explanations.end(), [&](const Explanation& explanation) {
-        return explanation.Group == group && explanation.Check == check;
-      });
-  if (found == explanations.end()) {
-    throw std::logic_error("not explained: " + check);
-  }
-  return *found;
 }
 
 // The support post of the first of the hand worked designs, with its numbers put in.

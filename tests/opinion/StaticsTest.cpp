@@ -143,6 +143,49 @@ RC_GTEST_PROP(OpinionStatics, ReactionsCarryAllLoadsTogether, ()) {
   RC_ASSERT(std::abs(statics.ReactLeft + statics.ReactRight - total) <= 1e-9 * size);
 }
 
+/// The same truss with its joints numbered from the other end.
+Truss NumberedFromTheRight(Truss truss) {
+  const auto renumber = [last = truss.Joints.size() - 1](std::size_t& place) {
+    place = last - place;
+  };
+  std::reverse(truss.Joints.begin(), truss.Joints.end());
+  std::for_each(truss.Upper.begin(), truss.Upper.end(), renumber);
+  std::for_each(truss.Lower.begin(), truss.Lower.end(), renumber);
+  for (TrussBar& bar : truss.Bars) {
+    renumber(bar.A);
+    renumber(bar.B);
+  }
+  renumber(truss.LeftSupport);
+  renumber(truss.RightSupport);
+  return truss;
+}
+
+RC_GTEST_PROP(OpinionStatics, DoesNotHangOnTheNumbersOfTheJoints, ()) {
+  const JudgedTruss truss = SolveTruss(PickDesign(PickScheme()));
+  const Truss renumbered = NumberedFromTheRight(truss.Model);
+  std::vector<double> loads = truss.Forces.Loads;
+  std::reverse(loads.begin(), loads.end());
+  const Statics found = SolveStatics(renumbered, loads);
+  RC_ASSERT(AlmostEqual(AllForces(found), AllForces(truss.Forces), 1e-9));
+
+  const auto movements = [&](const Truss& model) {
+    const std::vector<double> areas(model.Bars.size(), 10);
+    std::vector<double> numbers;
+    for (const Displacement& moved : Displacements(model, truss.Forces.Forces, areas, 206000)) {
+      numbers.insert(numbers.end(), {moved.Down, moved.Right});
+    }
+    return numbers;
+  };
+  std::vector<double> expected = movements(truss.Model);
+  std::vector<double> moved = movements(renumbered);
+  // Joint by joint from the other end, and the two directions of each the other way round.
+  std::reverse(expected.begin(), expected.end());
+  for (std::size_t joint = 0; joint < expected.size(); joint += 2) {
+    std::swap(expected[joint], expected[joint + 1]);
+  }
+  RC_ASSERT(AlmostEqual(moved, expected, 1e-7));
+}
+
 // By hand: panels of 2 and 3 m, so that a joint between an end panel and a regular one takes
 // (q1 2 + q2 3) / 2.
 TEST(JointLoads, AreHalfOfThePanelsBesideWithTheirTrueLengths) {
