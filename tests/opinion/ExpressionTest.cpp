@@ -70,6 +70,8 @@ TEST(Expression, KnowsSymbolsOfAnyAlphabet) {
   const SymbolValues symbols{{"N", 2}, {"γn", 3}, {"λ̄", 5}, {"Ry", 7}, {"sqrt", 11}, {"α", 0.5}};
   EXPECT_EQ(Evaluated("N*γn+λ̄/Ry", symbols), 6 + 5.0 / 7);
   EXPECT_EQ(Evaluated("180-60*α", symbols), 150);
+  // This letter ends with the least byte that a longer character can have, 0x80.
+  EXPECT_EQ(Evaluated("р+1", {{"р", 13}}), 14);
   // Without brackets behind it, it is a name like others.
   EXPECT_EQ(Evaluated("sqrt+1", symbols), 12);
 }
@@ -194,6 +196,14 @@ TEST(WithNumbers, WritesPlainDigitsWithoutAnExponent) {
   EXPECT_EQ(written(-0.25, 5), "(-0.25)");
 }
 
+TEST(WithNumbers, WritesUpToThreeHundredDecimals) {
+  const Expression x = ParseExpression("x");
+  const auto written = [&](double value) { return WithNumbers(x, {{"x", value}}, 5); };
+  EXPECT_EQ(written(1e-200), "0." + std::string(199, '0') + "1");
+  EXPECT_EQ(written(1e-300), "0." + std::string(299, '0') + "1");
+  EXPECT_EQ(written(1e-301), "0");
+}
+
 TEST(WithNumbers, RefusesAValueThatIsNoNumber) {
   const Expression x = ParseExpression("180/x");
   for (const double value :
@@ -233,6 +243,17 @@ TEST(Substituted, TakesNoMoreDigitsThanItNeeds) {
             "0.041625/0.096");
   // 180 - 60 / 3 = 160; five digits of the third bring 160.0002, six 160.00002.
   EXPECT_EQ(Substituted(ParseExpression("180-60*α"), {{"α", 1.0 / 3}}), "180-60*0.3333333");
+}
+
+TEST(Substituted, TakesTheFewestDigitsOfADifferenceThatIsZero) {
+  EXPECT_EQ(Substituted(ParseExpression("a-b"), {{"a", 1.0 / 3}, {"b", 1.0 / 3}}),
+            "0.33333-0.33333");
+}
+
+// With 17 digits every Double is itself; more of them help no number that has no place for its own.
+TEST(Substituted, StopsAtSeventeenDigits) {
+  EXPECT_EQ(Substituted(ParseExpression("a/b"), {{"a", 1e-305}, {"b", 1.0 / 3}}),
+            "0/0.33333333333333331");
 }
 
 TEST(Substituted, ReadsBackANegativeNumber) {
