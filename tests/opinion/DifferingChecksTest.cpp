@@ -160,6 +160,50 @@ TEST(CheckDiffers, ShowsWhichSideOfOneAFigureIsOn) {
   EXPECT_NE(texts[0].find("в расчете 1.00004, не проходит"), std::string::npos) << texts[0];
 }
 
+TEST(CheckDiffers, ShowsNoMoreThanTwelveDecimals) {
+  OpinionCase design = Stout();
+  design.Check.UpPoyas.KStrength = std::nextafter(1.0, 2.0);
+  const Texts texts = TextsOf(design.Find(), FindingCode::CheckDiffers);
+  ASSERT_EQ(texts.size(), 1U);
+  EXPECT_NE(texts[0].find("в расчете 1.000000000000, не проходит"), std::string::npos) << texts[0];
+}
+
+TEST(CheckDiffers, LetsAToldFigureOfExactlyOnePass) {
+  OpinionCase design = Stout();
+  design.Numbers.Ry = 0.01;
+  design.Calculate();
+  design.Check.UpPoyas.KStrength = 1;
+  const Texts texts = TextsOf(design.Find(), FindingCode::CheckDiffers);
+  ASSERT_EQ(texts.size(), 1U);
+  EXPECT_NE(texts[0].find("в расчете 1.000, проходит; по СНиП"), std::string::npos) << texts[0];
+}
+
+// The lower chord, pulled, panels of 3 m, a radius of 0.75 cm: 300 / 0.75 = 400, the limit of table
+// 20* for static loads.
+TEST(CheckDiffers, LetsAFigureOfExactlyOneByTheNormPass) {
+  OpinionCase design = Stout();
+  design.Sections[sectionDwnPoyas] = Single(16, 9, 300000);
+  design.Calculate();
+  ASSERT_EQ(design.Check.DwnPoyas.KFlexX, 1);
+  ASSERT_EQ(design.Form().FindGroup(ElementGroup::DwnPoyas)->Figure(MemberCheck::FlexX), 1);
+  const auto found = [&] {
+    std::vector<Finding> some = OfCode(design.Find(), FindingCode::CheckDiffers);
+    some.erase(std::remove_if(some.begin(), some.end(),
+                              [](const Finding& finding) {
+                                return finding.Group != ElementGroup::DwnPoyas ||
+                                       finding.Check != MemberCheck::FlexX;
+                              }),
+               some.end());
+    return some;
+  };
+  EXPECT_TRUE(found().empty());
+  design.Check.DwnPoyas.KFlexX = 1.5;
+  ASSERT_EQ(found().size(), 1U);
+  EXPECT_NE(found()[0].Text.find("не проходит; по СНиП 1.000, проходит: стержень"),
+            std::string::npos)
+      << found()[0].Text;
+}
+
 TEST(CheckDiffers, NamesNoBarWhereNoneIsCompressed) {
   OpinionCase design = Stout();
   design.Check.DwnPoyas.KStabX = 2;

@@ -49,8 +49,35 @@ TEST(NotBalanced, TellsOfALoadThatReachesNoBar) {
             Texts{"Расчет собрал в узлы не ту нагрузку, которая задана: Н1 (-4.000 т)."});
   EXPECT_EQ(OfCode(found, notBalanced)[0].Grade, Severity::Warning);
   EXPECT_EQ(OfCode(found, notBalanced)[0].Told, 4);
+  // In equilibrium nothing is left over.
+  EXPECT_EQ(OfCode(found, notBalanced)[0].Opinion, 0);
   EXPECT_EQ(OfCode(found, loadDiffers)[0].Grade, Severity::Warning);
   EXPECT_EQ(OfCode(found, loadDiffers)[0].Told, -4);
+  EXPECT_EQ(OfCode(found, loadDiffers)[0].Opinion, 0);
+}
+
+// 1e9 t at Н1, of which the calculation takes nothing, are the greatest force of this truss, whose
+// slopes are flat: a billionth of it is 1 t. The middle post is given just this force.
+TEST(NotBalanced, TakesABillionthOfTheGreatestForceForNone) {
+  TreloData data = Design(2, 4, 8, 4, 2);
+  data.DwnPForce[1] = 1e9;
+  OpinionCase design(data);
+  design.Result.StoykaForce[2] = 1;
+  ASSERT_EQ(design.Form().SmallestForce(), 1);
+  EXPECT_EQ(TextsOf(design.Find(), notBalanced),
+            Texts{"Узлы не в равновесии под усилиями расчета: Н1; наибольшая невязка "
+                  "999,999,999.000 т. Нагрузка узлов Н1 в усилия стержней не вошла."});
+}
+
+TEST(NotBalanced, BeginsAtTheLeftSupport) {
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    OpinionCase design(SnowyTruss(scheme));
+    design.Result.ReactLeft += 1;
+    const std::string support = scheme == 1 ? "Н0" : "В0";
+    EXPECT_EQ(TextsOf(design.Find(), notBalanced),
+              Texts{"Узлы не в равновесии под усилиями расчета: " + support +
+                    "; наибольшая невязка 1.000 т."});
+  }
 }
 
 // 4 t on the last lower joint: reactions 1 and 3 t. From the middle on the walk takes each lower
@@ -104,6 +131,31 @@ TEST(LoadDiffers, TellsOfTheExchangedLengthsOfTheFirstScheme) {
             Texts{"Расчет собрал в узлы не ту нагрузку, которая задана: В3 (+1.500 т)."});
 }
 
+// (1 - 2) t/m make (1 - 2) (2 - 3) / 2 = 0.5 t.
+TEST(LoadDiffers, GivesEveryDifferenceItsSign) {
+  EXPECT_EQ(TextsOf(LastPanels(2, 1, 2).Find(), loadDiffers),
+            Texts{"Расчет собрал в узлы не ту нагрузку, которая задана: В3 (+0.500 т)."});
+}
+
+TEST(LoadDiffers, NamesAllJointsAndTellsTheFirstOfTheGreatest) {
+  for (Long scheme = 1; scheme <= 4; ++scheme) {
+    OpinionCase design(SnowyTruss(scheme));
+    BoundedArray<double>& ofSupport =
+        scheme == 1 ? design.Result.DwnKnotLoad : design.Result.UpKnotLoad;
+    ofSupport[0] += 0.25;
+    design.Result.UpKnotLoad[1] += 1;
+    design.Result.UpKnotLoad[2] -= 1;
+    const std::vector<Finding> found = OfCode(design.Find(), loadDiffers);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_NE(found[0].Text.find(scheme == 1 ? "Н0 (+0.250 т)" : "В0 (+0.250 т)"),
+              std::string::npos)
+        << found[0].Text;
+    EXPECT_NE(found[0].Text.find("В1 (+1.000 т)"), std::string::npos) << found[0].Text;
+    EXPECT_NE(found[0].Text.find("В2 (-1.000 т)"), std::string::npos) << found[0].Text;
+    EXPECT_NEAR(found[0].Told.value(), 1, 1e-12);
+  }
+}
+
 TEST(LoadDiffers, IsNoneWithEqualLoadsOrEqualPanels) {
   EXPECT_EQ(TextsOf(LastPanels(2, 4, 4).Find(), loadDiffers), Texts());
   EXPECT_EQ(TextsOf(LastPanels(2.5, 4, 1).Find(), loadDiffers), Texts());
@@ -113,6 +165,9 @@ TEST(LoadDiffers, KeepsTheFirstDigitsOfASmallDifference) {
   // (q3 - q4) (3 - 2) / 2 t.
   EXPECT_EQ(TextsOf(LastPanels(2, 1.0004, 1).Find(), loadDiffers),
             Texts{"Расчет собрал в узлы не ту нагрузку, которая задана: В3 (-0.0002 т)."});
+  // 1/6000 t, to a thousandth of a milligram.
+  EXPECT_EQ(TextsOf(LastPanels(2, 1 + 1.0 / 3000, 1).Find(), loadDiffers),
+            Texts{"Расчет собрал в узлы не ту нагрузку, которая задана: В3 (-0.000166666667 т)."});
 }
 
 RC_GTEST_PROP(LoadDiffers, AppearsWhereTheToldJointLoadsAreNotTheEnteredOnes, ()) {
@@ -166,6 +221,7 @@ TEST(OwnWeightTwice, TellsOfAnAmountThatAllPanelsHold) {
       OfCode(design.Find({.DoubledOwnWeight = InsideOf(design)}), FindingCode::OwnWeightTwice)[0];
   EXPECT_EQ(found.Grade, Severity::Warning);
   EXPECT_EQ(found.Told, 0.0367);
+  EXPECT_EQ(found.Opinion, 0);
   // Only the project's form can tell that the load was restored with own weight on.
   EXPECT_EQ(TextsOf(design.Find(), FindingCode::OwnWeightTwice), Texts());
 }

@@ -128,6 +128,13 @@ TEST(Refusal, OfNumbersThatAreNotPositive) {
   }
 }
 
+// However soft: what is beyond the formulas of phi has the program's own figure.
+TEST(Refusal, IsNoneOfAnyPositiveModulus) {
+  for (const double E : {0.5, 1.0}) {
+    EXPECT_EQ(RefusalAfter(1, [=](OpinionCase& design) { design.Numbers.E = E; }), "") << E;
+  }
+}
+
 TEST(Refusal, WithoutBracing) {
   for (const Integer bracing : std::initializer_list<Integer>{-1, 0, 5}) {
     EXPECT_EQ(RefusalAfter(1, [=](OpinionCase& design) { design.Data.UpPoyasBrace = bracing; }),
@@ -210,6 +217,12 @@ TEST(Refusal, OfLoadsThatDoNotReachAllJoints) {
                            [=](OpinionCase& design) {
                              auto& loads = design.Data.*member;
                              loads.ResizeUpper(loads.UpperBound() - 1);
+                           }),
+              otherTruss);
+    EXPECT_EQ(RefusalAfter(1,
+                           [=](OpinionCase& design) {
+                             auto& loads = design.Data.*member;
+                             loads = BoundedArray<double>(1, loads.UpperBound());
                            }),
               otherTruss);
   }

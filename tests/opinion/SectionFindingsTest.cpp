@@ -127,11 +127,21 @@ TEST(PhiGap, AppearsExactlyAtTheBoundsOfTheFormulas) {
     EXPECT_EQ(found[0].Grade, Severity::Warning);
     EXPECT_EQ(found[0].Group, ElementGroup::DwnPoyas);
     EXPECT_EQ(found[0].Check, MemberCheck::FlexX);
+    EXPECT_EQ(found[0].Told, 0);
     for (const double side : {0.0, 100.0}) {
       const double beside = std::nextafter(gap.Radius, side) + (side - gap.Radius) * 1e-12;
       EXPECT_EQ(TextsOf(LowerChord(gap.Panel, beside).Find(), FindingCode::PhiGap), Texts());
     }
   }
+}
+
+TEST(PhiGap, TellsOfAPhiOfZeroAtABoundAndOfNothingElse) {
+  OpinionCase atBound = LowerChord(3, 3.75);
+  atBound.Check.DwnPoyas.PhiX = 0.7;
+  EXPECT_EQ(TextsOf(atBound.Find(), FindingCode::PhiGap), Texts());
+  OpinionCase beside = LowerChord(3, 4);
+  beside.Check.DwnPoyas.PhiX = 0;
+  EXPECT_EQ(TextsOf(beside.Find(), FindingCode::PhiGap), Texts());
 }
 
 TEST(PhiGap, IsFoundOutOfThePlaneAsWell) {
