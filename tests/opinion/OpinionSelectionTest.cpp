@@ -7,6 +7,7 @@
 #include "checks/ElementGroups.h"
 #include "opinion/Opinion.h"
 #include "tests/checks/Checks.h"
+#include "tests/opinion/OpinionCase.h"
 #include "tests/workstation/design/AnyDesign.h"
 #include "tests/workstation/design/SelectionLadder.h"
 #include "workstation/design/OpinionSelection.h"
@@ -240,6 +241,67 @@ TEST(SelectionByOpinion, EndsWhereTwoSizesWouldTakeTurns) {
   EXPECT_EQ(proposal.Sections[sectionUpPoyas].SizeIdx, 2);
   EXPECT_TRUE(proposal.Impossible.empty());
   EXPECT_LE(LargestUse(proposal.Check.UpPoyas), 1);
+}
+
+/// Four squares of 2 m with this load on the inner upper joints, half of it at the ends. One group
+/// has the choice between two sizes in the plane and is stout out of it; the others are stout.
+class OfTwoSizes {
+ public:
+  OfTwoSizes(SectionPlace place, double load, double area, double inertia) : place_(place) {
+    design_.TreloData = SquareDesign(1, 4);
+    Fill(design_.TreloData.UpPForce, load);
+    design_.TreloData.UpPForce[0] = load / 2;
+    design_.TreloData.UpPForce[4] = load / 2;
+    catalogue_ = ProfileTypeArray(1, 2);
+    catalogue_[1].Rec = BoundedArray<ProfileRec>(1, 2);
+    catalogue_[1].Rec[1] = Single(area, inertia, 5e6).Profile;
+    catalogue_[1].Rec[2] = Single(500, 5e6, 5e6).Profile;
+    catalogue_[2].Rec = BoundedArray<ProfileRec>(1, 1);
+    catalogue_[2].Rec[1] = Single(500, 5e6, 5e6).Profile;
+    for (SectionRec& section : design_.ElementSection) {
+      section = {.TypeIdx = 2, .SizeIdx = 1, .Profile = catalogue_[2].Rec[1], .Layout = 6};
+    }
+    design_.ElementSection[place].TypeIdx = 1;
+  }
+
+  /// The size that is chosen where E is this.
+  Long Chosen(double E = 206000) const {
+    CheckNumbers numbers = StartNumbers();
+    numbers.E = E;
+    numbers.LimitUser = 400;
+    const SelectionProposal proposal = SelectByOpinion(design_, catalogue_, numbers, false);
+    EXPECT_TRUE(proposal.Impossible.empty());
+    return proposal.Sections[place_].SizeIdx;
+  }
+
+ private:
+  SectionPlace place_;
+  trelonit::Design design_;
+  ProfileTypeArray catalogue_;
+};
+
+// The lower chord: radius 0.5 cm, 200 / 0.5 = 400, the limit of a pulled bar and the user's.
+TEST(SelectionByOpinion, TakesASizeThatIsJustUsedUp) {
+  EXPECT_EQ(OfTwoSizes(sectionDwnPoyas, 8, 100, 25).Chosen(), 1);
+  EXPECT_EQ(OfTwoSizes(sectionDwnPoyas, 8, 100, 24.9).Chosen(), 2);
+}
+
+// 2 * 0.001 t on half a square centimetre: 2e-3 * 98.1 / (0.5 * 216) = 0.002.
+TEST(SelectionByOpinion, TakesASizeBelowASquareCentimetreWhereItPasses) {
+  EXPECT_EQ(OfTwoSizes(sectionUpPoyas, 0.001, 0.5, 50).Chosen(), 1);
+}
+
+// Slenderness 200 / 2.5 = 80; with E = 1024 Ry the conditional one is 80 / 32 = 2.5, where the
+// calculation has no phi for a compressed chord and breaks off. The norm would let the size pass.
+TEST(SelectionByOpinion, TakesNoSizeThatTheCalculationBreaksOffWith) {
+  EXPECT_EQ(OfTwoSizes(sectionUpPoyas, 8, 100, 625).Chosen(240 * 1024.0), 2);
+  EXPECT_EQ(OfTwoSizes(sectionUpPoyas, 8, 100, 640).Chosen(240 * 1024.0), 1);
+}
+
+// Ry / E = 0.2, and a slenderness of 200 / 19.88 = 10.06, x = 4.499: formula (9) gives 1.47 - 2.6 +
+// 5.089 x - 1.0785 x^2 = -0.06. The calculation has a negative figure, which is below 1.
+TEST(SelectionByOpinion, TakesNoSizeThatHasNoPositivePhi) {
+  EXPECT_EQ(OfTwoSizes(sectionUpPoyas, 8, 100, 100 * 19.88 * 19.88).Chosen(1200), 2);
 }
 
 TEST(SelectionByOpinion, TakesALargerSizeThanTheProgramsOwnWhereTheNormAsksForOne) {
