@@ -2,7 +2,7 @@
 
 namespace trelonit::test {
 
-// The tests themselves are never instrumented, so that the compiler cannot tell.
+// Sanitizers watch no tests, so that the compiler cannot tell.
 
 /// Whether the program is built with sanitizers, which take memory and time.
 #ifdef TRELONIT_SANITIZED
