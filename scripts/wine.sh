@@ -33,6 +33,7 @@ close_wine() {
 close_wine_and_desk() {
   local status=$?
   set +e
+  keep_screen "$status"
   close_wine
   (exit "$status")
   close_desk

@@ -27,17 +27,25 @@ end_process() {
   wait "$1" 2>/dev/null || true
 }
 
+# keep_screen STATUS: what was to be seen where the script fails.
+screen_kept=
+keep_screen() {
+  if [ "$1" -eq 0 ] || [ -z "$main_window" ] || [ -n "$screen_kept" ]; then
+    return
+  fi
+  screen_kept=yes
+  import -window root "$desk_folder/failed.png" 2>/dev/null &&
+    cp "$desk_folder/failed.png" "${TMPDIR:-/tmp}/trelonit-desktop-failed.png" &&
+    echo "The screen at that moment: ${TMPDIR:-/tmp}/trelonit-desktop-failed.png" >&2
+  if [ -s "$desk_folder/program.log" ]; then
+    cat "$desk_folder/program.log" >&2
+  fi
+}
+
 close_desk() {
   local status=$? place
   trap - EXIT
-  if [ "$status" -ne 0 ] && [ -n "$main_window" ]; then
-    import -window root "$desk_folder/failed.png" 2>/dev/null &&
-      cp "$desk_folder/failed.png" "${TMPDIR:-/tmp}/trelonit-desktop-failed.png" &&
-      echo "The screen at that moment: ${TMPDIR:-/tmp}/trelonit-desktop-failed.png" >&2
-    if [ -s "$desk_folder/program.log" ]; then
-      cat "$desk_folder/program.log" >&2
-    fi
-  fi
+  keep_screen "$status"
   # The program before its display, so that it does not complain about the loss.
   for ((place = ${#desk_processes[@]} - 1; place >= 0; --place)); do
     end_process "${desk_processes[place]}"
