@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTabWidget>
@@ -39,6 +40,12 @@ Widget& FindAccessible(const QWidget& window, const std::string& name) {
     }
   }
   throw std::logic_error("no widget with accessible name " + name);
+}
+
+/// A whole name of a file as this system writes it: from the root of its first drive on, where it
+/// has drives.
+inline std::string WholeName(const std::string& name) {
+  return FileFromQt(QDir::rootPath() + ToQt(name));
 }
 
 /// Presses near the left end: beyond a short caption a wide box takes no press.

@@ -1,9 +1,9 @@
 #include <QPointer>
-#include <QTimer>
 
 #include "platform/system/AutomationMembers.h"
 #include "tests/drawinghost/HostDesk.h"
 #include "tests/windows/DialogHands.h"
+#include "tests/windows/Modal.h"
 #include "windows/drawing/DrawingDesk.h"
 
 namespace trelonit::test {
@@ -28,26 +28,11 @@ class Exporting : public testing::Test {
         .mnuFileAutoCAD_Click();
     EXPECT_TRUE(Messages.Shown.empty());
   }
-  static DrawingWindow* Window() {
-    return dynamic_cast<DrawingWindow*>(QApplication::activeModalWidget());
-  }
   /// Shows the drawings and acts on the window; it is closed afterwards.
-  bool Shown(const std::function<void(DrawingWindow&)>& act = {}) {
-    bool seen = false;
-    QTimer::singleShot(0, &Parent, [&] {
-      if (DrawingWindow* window = Window()) {
-        seen = true;
-        if (act) {
-          act(*window);
-        }
-        if (Window() != nullptr) {
-          Window()->close();
-        }
-      }
-    });
+  bool Shown(const std::function<void(DrawingWindow&)>& act = [](DrawingWindow&) {}) {
+    const OnceModal<DrawingWindow> user(act);
     Desk.ShowDrawings(&Parent);
-    QTest::qWait(5);
-    return seen;
+    return user.Acted();
   }
   static int Tabs(DrawingWindow& window) { return Find<QTabWidget>(window, "Drawings").count(); }
 

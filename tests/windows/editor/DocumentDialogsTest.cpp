@@ -18,7 +18,7 @@ namespace {
 
 class DocumentDialogsOnScreen : public ::testing::Test {
  protected:
-  std::string Path(const QString& name) const { return FromQt(folder_.filePath(name)); }
+  std::string Path(const QString& name) const { return FileFromQt(folder_.filePath(name)); }
   std::string MakeFile(const QString& name) const {
     QFile file(folder_.filePath(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -171,7 +171,9 @@ TEST_F(DocumentDialogsOnScreen, ShowThePagesAndStoreThemAsPdf) {
 TEST_F(DocumentDialogsOnScreen, PreviewThePagesOnNoMoreThanTheScreen) {
   Preview([](QDialog& preview) {
     const QSize room = preview.screen()->availableSize();
-    ASSERT_LT(room.width(), 900);
+    if (room.width() >= 900) {
+      GTEST_SKIP() << "this screen has room for the usual size";
+    }
     EXPECT_LE(preview.frameGeometry().width(), room.width());
     EXPECT_LE(preview.frameGeometry().height(), room.height());
   });
@@ -213,12 +215,10 @@ TEST_F(DocumentDialogsOnScreen, TellThatAPdfCannotBeStored) {
   Preview([&](QDialog& preview) {
     std::string told;
     const OnceModal<QFileDialog> naming([&](QFileDialog& dialog) {
-      // A folder that is no more there when the file is written.
-      const QString gone = ToQt(Path("gone"));
-      QDir().mkdir(gone);
-      dialog.setDirectory(gone);
+      // A folder stands where the file would.
+      QDir().mkdir(ToQt(Path("a.pdf")));
+      dialog.setDirectory(ToQt(Path("")));
       Find<QLineEdit>(dialog, "fileNameEdit").setText(QStringLiteral("a.pdf"));
-      QDir().rmdir(gone);
       static_cast<QDialog&>(dialog).done(QDialog::Accepted);
     });
     const OnceModal<QMessageBox> telling([&told](QMessageBox& box) { told = FromQt(box.text()); });

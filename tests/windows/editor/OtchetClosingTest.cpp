@@ -1,5 +1,6 @@
 // How the document window closes.
 
+#include "tests/windows/Modal.h"
 #include "tests/windows/editor/OtchetScreen.h"
 
 namespace trelonit::test {
@@ -74,23 +75,14 @@ TEST_F(OtchetWindowClosing, EndsTheModalShowing) {
   Load();
   int refusals = 0;
   bool inFront = false;
-  QTimer user;
-  user.setInterval(20);
-  QObject::connect(&user, &QTimer::timeout, [&] {
-    if (refusals == 0) {
-      inFront = Window->isVisible() && Window->isModal() &&
-                QApplication::activeModalWidget() == Window.get();
-      Enter("x");
-      Answer(MessageAnswer::Cancel);
-      Answer(MessageAnswer::No);
-    }
-    if (!Window->close()) {
-      ++refusals;
-    }
+  const OnceModal<OtchetWindow> user([&](OtchetWindow& window) {
+    inFront = &window == Window.get() && window.isVisible() && window.isModal();
+    Enter("x");
+    Answer(MessageAnswer::Cancel);
+    refusals += window.close() ? 0 : 1;
+    Answer(MessageAnswer::No);
   });
-  user.start();
   Window->ShowModal();
-  user.stop();
   EXPECT_TRUE(inFront);
   EXPECT_EQ(refusals, 1);
   EXPECT_FALSE(Window->isVisible());

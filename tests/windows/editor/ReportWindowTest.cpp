@@ -2,7 +2,6 @@
 
 #include <QListWidget>
 #include <QTextBlock>
-#include <QTimer>
 
 #include "tests/windows/Modal.h"
 #include "tests/windows/editor/OtchetScreen.h"
@@ -46,8 +45,10 @@ class ReportWindowOnScreen : public ::testing::Test {
            [this](frmOtchetMain& shown) {
              form = &shown;
              document = std::make_unique<OtchetWindow>(shown, *box, screen.Window.get());
-             QTimer::singleShot(20, document.get(), [this] { act_(); });
-             document->ShowModal();
+             {
+               const OnceModal<OtchetWindow> user([this](OtchetWindow&) { act_(); });
+               document->ShowModal();
+             }
              document.reset();
            },
        .ShowFind = [this](frmFind& find) { document->ShowFind(find); },
@@ -204,9 +205,10 @@ TEST_F(ReportWindowOnScreen, StaysAsItIsWhereABadFileIsOpened) {
 }
 
 TEST_F(ReportWindowOnScreen, IsNotThereWhereADocumentIsOpened) {
-  screen.Outside.Files.Content["/home/a.txt"] = "beam";
+  const std::string name = WholeName("home/a.txt");
+  screen.Outside.Files.Content[name] = "beam";
   std::string text;
-  Show([this] { screen.Root.Open("/home/a.txt"); },
+  Show([&] { screen.Root.Open(name); },
        [&] {
          Soon([this] { return box->TextLength() > 0; });
          text = ShownText();

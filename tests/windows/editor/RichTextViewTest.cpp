@@ -321,14 +321,14 @@ TEST_F(BoxKeys, ReplaceWhatAnInputMethodTells) {
 }
 
 TEST_F(BoxKeys, TellTheFileThatIsDropped) {
+  const std::string name = WholeName("tmp/отчет.rtf");
   QMimeData data;
-  data.setUrls({QUrl(QStringLiteral("http://example.org/x")),
-                QUrl::fromLocalFile(QStringLiteral("/tmp/отчет.rtf"))});
+  data.setUrls({QUrl(QStringLiteral("http://example.org/x")), QUrl::fromLocalFile(ToQt(name))});
   Drop(data);
   EXPECT_TRUE(dropTaken_);
   EXPECT_TRUE(files_.empty());
   QApplication::processEvents();
-  EXPECT_EQ(files_, std::vector<std::string>{"/tmp/отчет.rtf"});
+  EXPECT_EQ(files_, std::vector<std::string>{name});
   EXPECT_EQ(box_.Text(), "");
 }
 
