@@ -147,7 +147,7 @@ TEST(DesktopFileDialog, AsksForANameToSave) {
     EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
     Take(dialog, chosen);
   });
-  EXPECT_EQ(DesktopDialogs().AskSaveName(request), FromQt(chosen));
+  EXPECT_EQ(DesktopDialogs().AskSaveName(request), FileFromQt(chosen));
   EXPECT_TRUE(once.Acted());
 }
 
@@ -161,7 +161,7 @@ TEST(DesktopFileDialog, DoesNotAskBeforeReplacing) {
     Take(dialog, chosen);
     EXPECT_FALSE(dialog.isVisible());
   });
-  EXPECT_EQ(DesktopDialogs().AskSaveName(request), FromQt(chosen));
+  EXPECT_EQ(DesktopDialogs().AskSaveName(request), FileFromQt(chosen));
 }
 
 TEST(DesktopFileDialog, AsksForAFileToOpen) {
@@ -175,7 +175,7 @@ TEST(DesktopFileDialog, AsksForAFileToOpen) {
     EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
     Take(dialog, chosen);
   });
-  EXPECT_EQ(DesktopDialogs().AskOpenName(request), FromQt(chosen));
+  EXPECT_EQ(DesktopDialogs().AskOpenName(request), FileFromQt(chosen));
 }
 
 TEST(DesktopFileDialog, GivesNothingWhenItIsCancelled) {
