@@ -1,6 +1,9 @@
 #include "windows/services/FontsAhead.h"
 
+#include <QBuffer>
 #include <QFontDatabase>
+#include <QFontMetrics>
+#include <QImageReader>
 #include <QLibrary>
 #include <clocale>
 
@@ -18,6 +21,21 @@ Reading FindReading() {
       QLibrary::resolve(QStringLiteral("fontconfig"), version, "FcInit"));
 }
 
+/// Which fonts step in where one has no letter is found once for each script, and for all threads.
+void FindSubstitutes() {
+  const QFontMetrics metrics{QFont()};
+  metrics.horizontalAdvance(QStringLiteral("Trelonit"));
+  metrics.horizontalAdvance(QStringLiteral("Ферма"));
+}
+
+/// Whatever picture the toolkit reads first, be it the frame of a group, it asks every reader that
+/// it has.
+void LoadImageReaders() {
+  QBuffer nothing;
+  nothing.open(QIODevice::ReadOnly);
+  QImageReader(&nothing).canRead();
+}
+
 }  // namespace
 
 FontsAhead::FontsAhead() {
@@ -29,9 +47,14 @@ FontsAhead::FontsAhead() {
       read();
     }
     listRead_.set_value();
-    if (ready.get()) {
-      QFontDatabase::families();
+    if (!ready.get()) {
+      return;
     }
+    QFontDatabase::families();
+    if (read != nullptr) {
+      FindSubstitutes();
+    }
+    LoadImageReaders();
   });
 }
 
