@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
-#include <span>
 
 #include "platform/text/CodePage1251.h"
 
@@ -45,14 +44,20 @@ FixedText<N> DecodeText(std::string_view bytes, std::size_t offset) {
   return text;
 }
 
-// Numbers go byte by byte: the files are little-endian on every machine.
+// The files are little-endian on every machine.
+
+template <class Bits>
+std::array<char, sizeof(Bits)> Turned(std::array<char, sizeof(Bits)> bytes) {
+  if constexpr (std::endian::native == std::endian::big) {
+    std::reverse(bytes.begin(), bytes.end());
+  }
+  return bytes;
+}
 
 template <class Bits>
 void EncodeBits(Bits value, char* bytes) {
-  for (char& byte : std::span(bytes, sizeof(Bits))) {
-    byte = static_cast<char>(static_cast<unsigned char>(value));
-    value >>= 8;
-  }
+  const auto field = Turned<Bits>(std::bit_cast<std::array<char, sizeof(Bits)>>(value));
+  std::copy(field.begin(), field.end(), bytes);
 }
 
 template <class Bits>
@@ -60,11 +65,9 @@ Bits DecodeBits(std::string_view bytes, std::size_t offset) {
   if (bytes.size() < offset + sizeof(Bits)) {
     return 0;
   }
-  Bits value = 0;
-  for (std::size_t place = 0; place < sizeof(Bits); ++place) {
-    value |= static_cast<Bits>(static_cast<unsigned char>(bytes[offset + place])) << (8 * place);
-  }
-  return value;
+  std::array<char, sizeof(Bits)> field;
+  std::copy_n(bytes.data() + offset, field.size(), field.begin());
+  return std::bit_cast<Bits>(Turned<Bits>(field));
 }
 
 }  // namespace
