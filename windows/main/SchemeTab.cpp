@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <array>
+#include <optional>
 
 #include "analysis/Scheme.h"
 #include "windows/binding/Binding.h"
@@ -29,15 +30,43 @@ constexpr double smallLetters = 0.9;
 const QString takenHead = QStringLiteral("расчет, м");
 const QString heldHead = QStringLiteral("по подписи, м");
 
+/// A figure beside an option, in one line. The toolkit measures every label three times, in case it
+/// wraps, and there are two dozen of these.
+class FigureLabel : public QLabel {
+ public:
+  QSize sizeHint() const override { return minimumSizeHint(); }
+  QSize minimumSizeHint() const override {
+    if (measured_ != text() || font_ != font()) {
+      measured_ = text();
+      font_ = font();
+      size_ = fontMetrics().size(0, text());
+    }
+    return size_;
+  }
+
+ private:
+  mutable std::optional<QString> measured_;
+  mutable QFont font_;
+  mutable QSize size_;
+};
+
 /// A place for a figure beside an option.
 QLabel* AddFigure(QGridLayout* rows, int row, int column) {
-  auto* label = new QLabel;
+  auto* label = new FigureLabel;
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   QFont small = label->font();
   small.setPointSizeF(small.pointSizeF() * smallLetters);
   label->setFont(small);
   rows->addWidget(label, row, column);
   return label;
+}
+
+/// For a box in a column that is wider than its entries: none of them is measured.
+void TakeWidthOfColumn(QComboBox& box, int leastLetters) {
+  box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  box.setMinimumContentsLength(leastLetters);
+  // Else it would be as high as an icon, which no entry has.
+  box.setIconSize({1, 1});
 }
 
 /// Takes groups closer together, so that all of them have room on a small screen.
@@ -167,6 +196,7 @@ void SchemeTab::AddGeometry(QBoxLayout* column) {
                          "равной длинны !"));
   auto* panels = new QComboBox;
   panels->setObjectName(QStringLiteral("cmbPanelNum"));
+  TakeWidthOfColumn(*panels, 2);
   Bind(form_.cmbPanelNum, panels);
   rows->addRow(LabelFor(panels, QStringLiteral("&Кол-во панелей фермы")), panels);
   marks_->Add(GeometryInput::Span, span);
@@ -236,6 +266,7 @@ void SchemeTab::AddDeflection(QBoxLayout* column) {
 
   auto* limit = new QComboBox;
   limit->setObjectName(QStringLiteral("cmbLenlim"));
+  TakeWidthOfColumn(*limit, 7);
   limit->setAccessibleName(QStringLiteral("Предельный прогиб в долях пролета"));
   Bind(form_.cmbLenlim, limit);
   rows->addWidget(limit, 0, 1, 1, 2);

@@ -58,6 +58,17 @@ TEST_F(BracingLengths, FollowEveryKey) {
   EXPECT_EQ(HeldOf("UpPoyas")[3], "3.00");
 }
 
+TEST_F(BracingLengths, TakeTheRoomOfALabel) {
+  for (const char* span : {"36", "1234567"}) {
+    TypeInto("txtLengthF", span);
+    const QLabel& figure = Held("UpPoyas", 1);
+    QLabel label(figure.text());
+    label.setFont(figure.font());
+    EXPECT_EQ(figure.sizeHint(), label.sizeHint()) << span;
+    EXPECT_EQ(figure.minimumSizeHint(), label.minimumSizeHint()) << span;
+  }
+}
+
 TEST_F(BracingLengths, AreADashWhereThereIsNoTruss) {
   TypeInto("txtLengthF", "abc");
   EXPECT_EQ(HeldOf("UpPoyas"), (Texts{"—", "—", "—", "—"}));
