@@ -1,17 +1,18 @@
 #pragma once
 
 #include <QBoxLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QScreen>
 #include <QString>
+
+#include "windows/binding/Frames.h"
 
 namespace trelonit {
 
 /// A group box with a layout of its own.
 template <class Layout>
 Layout* AddGroup(QBoxLayout* parent, const QString& title, int stretch = 0) {
-  auto* box = new QGroupBox(title);
+  auto* box = new Group(title);
   auto* layout = new Layout(box);
   parent->addWidget(box, stretch);
   return layout;

@@ -18,6 +18,7 @@
 #include "platform/console/ConsoleServices.h"
 #include "platform/errors/RuntimeError.h"
 #include "windows/binding/Binding.h"
+#include "windows/binding/Frames.h"
 #include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/binding/Units.h"
@@ -163,7 +164,7 @@ void DrawingWindow::AddToolBar() {
 }
 
 void DrawingWindow::AddTabs() {
-  tabs_ = new QTabWidget;
+  tabs_ = new Tabs;
   tabs_->setObjectName(QStringLiteral("Drawings"));
   tabs_->setDocumentMode(true);
   tabs_->setTabsClosable(true);

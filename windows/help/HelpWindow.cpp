@@ -150,7 +150,7 @@ void HelpWindow::AddFindBar() {
 }
 
 void HelpWindow::AddSides() {
-  sides_ = new QTabWidget;
+  sides_ = new Tabs;
   sides_->setObjectName(QStringLiteral("Sides"));
   sides_->tabBar()->setAccessibleName(QStringLiteral("Разделы справки"));
   sides_->addTab(AddContents(), QStringLiteral("Содержание"));

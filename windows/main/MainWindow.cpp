@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "windows/binding/Binding.h"
+#include "windows/binding/Frames.h"
 #include "windows/binding/Layouts.h"
 #include "windows/help/HelpKey.h"
 #include "windows/main/HistoryDesk.h"
@@ -137,7 +138,7 @@ QWidget* MainWindow::NewOwnWeightBanner() {
 }
 
 QTabWidget* MainWindow::NewTabs() {
-  auto* tabs = new QTabWidget;
+  auto* tabs = new Tabs;
   tabs->setObjectName(QStringLiteral("tabMain"));
   // The first page is shown as soon as the tabs have it: filled, it would be laid out there, before
   // its controls have their fonts and the window its size, and then again.

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "windows/binding/Binding.h"
+#include "windows/binding/Frames.h"
 #include "windows/binding/Layouts.h"
 #include "windows/results/BarTableView.h"
 #include "windows/results/CopyAction.h"
@@ -153,7 +154,7 @@ QWidget* KoeffOfUseWindow::NewPictures() {
 }
 
 QWidget* KoeffOfUseWindow::NewPages() {
-  pages_ = new QTabWidget;
+  pages_ = new Tabs;
   pages_->setObjectName(QStringLiteral("Pages"));
   pages_->tabBar()->setAccessibleName(QStringLiteral("Объяснение и таблица стержней"));
   QWidget* explanation = NewExplanation();
