@@ -178,13 +178,11 @@ void frmFind::cmdReplaceAll_Click() {
   }
   AddToHistory(cboFind);
   AddToHistory(cboReplace);
-  bool cancelled = false;
-  Long count = 0;
-  {
+  const auto [count, cancelled] = [this] {
     const Run run(*this);
-    count = ReplaceFromHere();
-    cancelled = cancelRun_;
-  }
+    const Long replaced = ReplaceFromHere();
+    return std::pair(replaced, cancelRun_);
+  }();
   const bool foundNothing = count == 0 && !cancelled;
   if (foundNothing) {
     SayNotFound();

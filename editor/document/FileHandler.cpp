@@ -57,11 +57,11 @@ bool TellsKind(const std::string& extension) {
 }
 
 std::string FromUtf16(std::string_view bytes, std::size_t high) {
-  std::u16string units;
-  units.reserve(bytes.size() / 2);
-  for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
-    units.push_back(static_cast<char16_t>(static_cast<unsigned char>(bytes[at + high]) << 8 |
-                                          static_cast<unsigned char>(bytes[at + 1 - high])));
+  std::u16string units(bytes.size() / 2, u'\0');
+  for (std::size_t unit = 0; unit < units.size(); ++unit) {
+    const std::string_view pair = bytes.substr(2 * unit, 2);
+    units[unit] = static_cast<char16_t>(static_cast<unsigned char>(pair[high]) << 8 |
+                                        static_cast<unsigned char>(pair[1 - high]));
   }
   return Utf8(units);
 }

@@ -130,8 +130,7 @@ MemoryRichTextBox::Place MemoryRichTextBox::Locate(Long position) const {
     ++near_.Paragraph;
     near_.Start = next;
   }
-  near_.Offset = wanted - near_.Start;
-  return near_;
+  return {near_.Paragraph, near_.Start, wanted - near_.Start};
 }
 
 void MemoryRichTextBox::SetSelStart(Long start) {
@@ -249,7 +248,7 @@ std::u16string MemoryRichTextBox::TextToSearch(std::size_t paragraph, std::size_
 
 Long MemoryRichTextBox::Find(const std::string& text, Long start, Long options) const {
   std::u16string wanted = Units(text);
-  if (wanted.empty() || start > length_) {
+  if (wanted.empty()) {
     return notFound;
   }
   const bool wholeWord = (options & findWholeWord) != 0;

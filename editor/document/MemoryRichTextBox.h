@@ -50,9 +50,13 @@ class MemoryRichTextBox : public RichTextBox {
   /// A position: its paragraph, where that begins, and the distance from there. Within a line end
   /// the offset is one more than the paragraph's length.
   struct Place {
+    std::size_t Paragraph;
+    std::size_t Start;
+    std::size_t Offset;
+  };
+  struct ParagraphStart {
     std::size_t Paragraph = 0;
     std::size_t Start = 0;
-    std::size_t Offset = 0;
   };
 
   const TextRuns& RunsOf(std::size_t paragraph) const {
@@ -77,7 +81,7 @@ class MemoryRichTextBox : public RichTextBox {
   /// Chosen with nothing selected; holds until the caret moves.
   std::optional<CharFormat> typingFormat_;
   /// Where the last position was found: the next one is mostly near.
-  mutable Place near_;
+  mutable ParagraphStart near_;
 };
 
 }  // namespace trelonit

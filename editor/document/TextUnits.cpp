@@ -1,6 +1,7 @@
 #include "editor/document/TextUnits.h"
 
 #include <array>
+#include <utility>
 
 #include "platform/text/Text.h"
 
@@ -37,8 +38,7 @@ std::u16string Units(std::string_view text) {
   units.reserve(characters.size());
   char32_t previous = 0;
   for (const char32_t character : characters) {
-    if (character == U'\n' && previous == U'\r') {
-      previous = 0;
+    if (std::exchange(previous, character) == U'\r' && character == U'\n') {
       continue;
     }
     if (character == U'\r' || character == U'\n') {
@@ -50,7 +50,6 @@ std::u16string Units(std::string_view text) {
     } else {
       units += static_cast<char16_t>(character);
     }
-    previous = character;
   }
   return units;
 }

@@ -12,80 +12,78 @@ std::int32_t SizeOf(std::int32_t number) {
   return number > 0 ? std::min(number, rtfLargestSize) : rtfPlainSize;
 }
 
-/// The words for one script's own look; among the main script's characters they say nothing of
-/// these.
-bool ApplyOwnLook(RtfCharState& characters, RtfAction action,
-                  std::optional<std::int32_t> parameter) {
+/// The words for one script's own look; among the main script's characters they say nothing.
+void ApplyOwnLook(RtfCharState& characters, RtfAction action, std::int32_t number, bool on) {
   if (characters.Script == RtfScript::Main) {
-    return false;
+    return;
   }
   RtfScriptLook& own = characters.OwnLook();
   switch (action) {
     case RtfAction::OwnBold:
-      own.Bold = parameter.value_or(1) != 0;
-      return true;
+      own.Bold = on;
+      return;
     case RtfAction::OwnItalic:
-      own.Italic = parameter.value_or(1) != 0;
-      return true;
+      own.Italic = on;
+      return;
     case RtfAction::OwnFont:
-      own.Font = parameter.value_or(0);
-      return true;
+      own.Font = number;
+      return;
     case RtfAction::OwnFontSize:
-      own.Size = SizeOf(parameter.value_or(0));
-      return true;
+      own.Size = SizeOf(number);
+      return;
     default:
-      return false;
+      return;
   }
 }
 
 }  // namespace
 
-bool ApplyLook(RtfCharState& characters, const RtfKeyword& keyword,
+void ApplyLook(RtfCharState& characters, const RtfKeyword& keyword,
                std::optional<std::int32_t> parameter) {
   const std::int32_t number = parameter.value_or(0);
   // A word that is switched off has the parameter 0.
-  const bool on = parameter.value_or(1) != 0;
+  const bool on = parameter != 0;
   switch (keyword.Action) {
     case RtfAction::Plain:
       characters = {};
-      return true;
+      return;
     case RtfAction::Script:
       characters.Script = static_cast<RtfScript>(keyword.Value);
-      return true;
+      return;
     // A word for all scripts that stands behind one for the present script alone replaces it.
     case RtfAction::Bold:
       characters.Bold = on;
       characters.OwnLook().Bold.reset();
-      return true;
+      return;
     case RtfAction::Italic:
       characters.Italic = on;
       characters.OwnLook().Italic.reset();
-      return true;
+      return;
     case RtfAction::Underline:
       characters.Underline = on;
-      return true;
+      return;
     case RtfAction::UnderlineNone:
       characters.Underline = false;
-      return true;
+      return;
     case RtfAction::StrikeThru:
       characters.StrikeThru = on;
-      return true;
+      return;
     case RtfAction::Hidden:
       characters.Hidden = on;
-      return true;
+      return;
     case RtfAction::Font:
       characters.Font = number;
       characters.OwnLook().Font.reset();
-      return true;
+      return;
     case RtfAction::FontSize:
       characters.Size = SizeOf(number);
       characters.OwnLook().Size.reset();
-      return true;
+      return;
     case RtfAction::TextColour:
       characters.Colour = number;
-      return true;
+      return;
     default:
-      return ApplyOwnLook(characters, keyword.Action, parameter);
+      ApplyOwnLook(characters, keyword.Action, number, on);
   }
 }
 

@@ -38,8 +38,8 @@ struct RtfCharState {
   const RtfScriptLook& OwnLook() const { return OfScript[static_cast<std::size_t>(Script)]; }
 };
 
-/// Does what the word says to the looks; false for a word that says nothing of them.
-bool ApplyLook(RtfCharState& characters, const RtfKeyword& keyword,
+/// Does what the word says to the looks.
+void ApplyLook(RtfCharState& characters, const RtfKeyword& keyword,
                std::optional<std::int32_t> parameter);
 
 /// The tables that the looks and the bytes of the text refer to.

@@ -62,7 +62,7 @@ class Reader {
   std::size_t passedGroups_ = 0;   ///< open groups whose content is passed over
   std::int32_t fallbackLeft_ = 0;  ///< tokens still to pass over after a Unicode escape
   bool starred_ = false;           ///< the next word's group matters only if the word is known
-  bool newFormat_ = true;
+  bool newFormat_ = true;          ///< the next character may look unlike the last one
   RtfTables tables_;
 };
 
@@ -135,7 +135,6 @@ void Reader::Take(const RtfToken& token) {
         }
       } else if (token.Byte == ';' && State().To == Destination::ColourTable) {
         tables_.CompleteColour();
-        newFormat_ = true;
       } else {
         TakeCharacter(Decoded(token.Byte));
       }
@@ -241,7 +240,6 @@ void Reader::TakeFontWord(RtfAction action, std::int32_t value) {
   switch (action) {
     case RtfAction::Font:
       tables_.Fonts.Begin(value);
-      newFormat_ = true;
       return;
     case RtfAction::FontCharset:
       tables_.Fonts.SetCodePage(CodePageOfCharset(value));
@@ -276,7 +274,8 @@ void Reader::TakeTextWord(const RtfKeyword& keyword, std::optional<std::int32_t>
       }
       return;
     default:
-      newFormat_ |= ApplyLook(State().Characters, keyword, parameter);
+      ApplyLook(State().Characters, keyword, parameter);
+      newFormat_ = true;
   }
 }
 
