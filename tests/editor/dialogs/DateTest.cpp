@@ -39,6 +39,26 @@ TEST(DateForms, NameEveryWeekday) {
   EXPECT_EQ(DateForm(4, {1900, 3, 1}), "четверг, 1 марта 1900");
 }
 
+TEST(DateForms, NameTheWeekdayInEveryMonth) {
+  const Texts firstDays{"четверг", "воскресенье", "воскресенье", "среда",
+                        "пятница", "понедельник", "среда",       "суббота",
+                        "вторник", "четверг",     "воскресенье", "вторник"};
+  for (int month = 1; month <= 12; ++month) {
+    const std::string form = DateForm(4, {2026, month, 1});
+    EXPECT_EQ(form.substr(0, form.find(',')), firstDays[static_cast<std::size_t>(month - 1)])
+        << month;
+  }
+}
+
+TEST(DateForms, NameTheWeekdayRoundTheLeapDaysOfCenturies) {
+  // Of the centuries' years only every fourth has a leap day: 2000 has one, 2100 has none.
+  EXPECT_EQ(DateForm(4, {2000, 1, 1}), "суббота, 1 января 2000");
+  EXPECT_EQ(DateForm(4, {2000, 3, 1}), "среда, 1 марта 2000");
+  EXPECT_EQ(DateForm(4, {2000, 12, 31}), "воскресенье, 31 декабря 2000");
+  EXPECT_EQ(DateForm(4, {2100, 2, 28}), "воскресенье, 28 февраля 2100");
+  EXPECT_EQ(DateForm(4, {2100, 3, 1}), "понедельник, 1 марта 2100");
+}
+
 TEST(DateForms, NameEveryMonth) {
   const Texts names{"января", "февраля", "марта",    "апреля",  "мая",    "июня",
                     "июля",   "августа", "сентября", "октября", "ноября", "декабря"};

@@ -54,6 +54,37 @@ TEST_F(Find, AddsUpItsOptions) {
   EXPECT_EQ(form.HitPos(), 7);
 }
 
+TEST_F(Find, TellsTheBoxNoOptionsButThoseThatAreTicked) {
+  struct AskedBox : MemoryRichTextBox {
+    Long Find(const std::string&, Long, Long options) const override {
+      Asked.push_back(options);
+      return notFound;
+    }
+    mutable std::vector<Long> Asked;
+  };
+  AskedBox asked;
+  frmFind asking(asked, undo, messages, settings, "Vestra");
+  for (const bool word : {false, true}) {
+    for (const bool matchCase : {false, true}) {
+      asking.ChWord.SetChecked(word);
+      asking.ChCase.SetChecked(matchCase);
+      asking.cmdFindNext_Click();
+    }
+  }
+  // 2 is the whole word, 4 is the case.
+  EXPECT_EQ(asked.Asked, (std::vector<Long>{0, 4, 2, 6}));
+}
+
+TEST_F(Find, NamesItselfAndItsButtons) {
+  EXPECT_EQ(form.Form.Caption(), "Найти и заменить");
+  EXPECT_EQ(form.cmdFindNext.Caption(), "Find Next");
+  EXPECT_EQ(form.cmdReplace.Caption(), "Replace");
+  EXPECT_EQ(form.cmdReplaceAll.Caption(), "Replace All");
+  EXPECT_EQ(form.cmdSelection[0].Caption(), "Selection");
+  EXPECT_EQ(form.cmdSelection[1].Caption(), "Selection");
+  EXPECT_EQ(form.cmdCancel.Caption(), "Cancel");
+}
+
 TEST_F(Find, FindsNothingForAnEmptyText) {
   Look("abc", "");
   form.cmdFindNext_Click();

@@ -172,6 +172,44 @@ TEST_F(DocumentClosing, StaysOpenWhereTheSavingFails) {
   }
 }
 
+TEST_F(DocumentClosing, StaysOpenWhereTheQuestionCannotBeAsked) {
+  struct OnceFailing : RecordingMessages {
+    MessageAnswer Show(const Message& message) override {
+      if (!std::exchange(failed, true)) {
+        throw RuntimeError(ErrorNumber::OutOfMemory);
+      }
+      return RecordingMessages::Show(message);
+    }
+    bool failed = false;
+  };
+  OnceFailing failing;
+  frmOtchetMain window({failing, world.Dialogs, world.Clipboard, settings, world.Registry, word,
+                        world.Shell, world.Clock, resources, files, numbers, "/program"},
+                       box, dialogs, {}, "");
+  window.Form_Load();
+  window.RTF_TextCommitted("not saved");
+  EXPECT_FALSE(window.Form_QueryUnload());
+  EXPECT_EQ(failing.Shown, Messages{Failure("Form_QueryUnload", ErrorNumber::OutOfMemory)});
+  EXPECT_EQ(box.Text(), "not saved");
+  EXPECT_EQ(settings.Written, Nothing());
+}
+
+TEST_F(DocumentClosing, KeepsWhetherTheWindowIsMaximizedWhereThatHasChanged) {
+  for (const bool maximized : {true, false}) {
+    form.Maximized = maximized;
+    settings.Written.clear();
+    EXPECT_TRUE(form.Form_QueryUnload());
+    std::vector<RecordingSettings::Entry> kept = Kept();
+    kept.emplace_back("MainMaximized", maximized ? "True" : "False");
+    EXPECT_EQ(settings.Written, kept);
+    settings.Written.clear();
+    EXPECT_TRUE(form.Form_QueryUnload());
+    EXPECT_EQ(settings.Written, Kept());
+    form.Form_Load();
+    EXPECT_EQ(form.Maximized, maximized);
+  }
+}
+
 TEST_F(DocumentClosing, StaysOpenWhereTheNameIsNotGiven) {
   Enter("text");
   const DocumentState before = State();

@@ -101,6 +101,16 @@ TEST(DocumentNames, AreSavedWithTheExtensionOfTheirKind) {
   }
 }
 
+TEST(DocumentNames, TellTheirKindWithDigitsToo) {
+  for (const char digit : std::string("0123456789")) {
+    EXPECT_EQ(NameToSave(std::string("a.mp") + digit, 2), "a.rtf") << digit;
+    EXPECT_EQ(NameToSave(std::string("a.") + digit + "z", 1), "a.txt") << digit;
+  }
+  for (const std::string extension : {"b:", "b-", "b_1", "b;", "b@", "ж2"}) {
+    EXPECT_EQ(NameToSave("a." + extension, 2), "a." + extension + ".rtf");
+  }
+}
+
 TEST(DocumentNames, KeepAPointThatTellsNoKind) {
   for (const auto& [name, kind, stored] : std::vector<std::tuple<std::string, Long, std::string>>{
            {"Ферма 1.5 м", 1, "Ферма 1.5 м.txt"},

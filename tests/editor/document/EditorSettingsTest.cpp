@@ -53,6 +53,19 @@ TEST_F(StoredSettings, AreReadEachUnderItsKey) {
   EXPECT_EQ(With("Color", "255").Font.TextColor, 255u);
 }
 
+TEST_F(StoredSettings, AreReadUpToTheirBounds) {
+  for (const double farthest : {-1e6, 1e6}) {
+    EXPECT_EQ(With("MainLeft", NumberToText(farthest, locale)).MainLeft, farthest);
+    EXPECT_EQ(With("MainTop", NumberToText(farthest, locale)).MainTop, farthest);
+  }
+  EXPECT_EQ(With("MainWidth", "1000000").MainWidth, 1e6);
+  EXPECT_EQ(With("MainHeight", "500").MainHeight, 500);
+  EXPECT_EQ(With("MainHeight", "1000000").MainHeight, 1e6);
+  EXPECT_EQ(With("FontSize", "1").Font.FontSize, 1);
+  EXPECT_EQ(With("FontSize", "1638").Font.FontSize, 1638);
+  EXPECT_EQ(With("Color", "16777215").Font.TextColor, 0xFFFFFFu);
+}
+
 TEST_F(StoredSettings, AreReadWithEitherSeparatorInEveryLocale) {
   for (const NumberLocale& system : {PointLocale(), CommaLocale()}) {
     locale = system;

@@ -60,6 +60,59 @@ TEST(MemoryRichTextBox, RemembersTheFirstVisibleLine) {
   EXPECT_EQ(box.FirstVisibleLine(), 7);
 }
 
+CharFormat BoldFormat() {
+  CharFormat format;
+  format.Bold = true;
+  return format;
+}
+
+TEST(MemoryRichTextBox, ForgetsAChosenFormatWhereSomethingIsSelected) {
+  MemoryRichTextBox box;
+  box.SetText("abcd");
+  box.SetSelStart(1);
+  box.SetSelFormat(BoldFormat());
+  box.SetSelLength(0);
+  EXPECT_TRUE(box.SelFormat().Bold);
+  box.SetSelLength(1);
+  EXPECT_FALSE(box.SelFormat().Bold);
+  box.SetSelText("x");
+  box.Select(1, 1);
+  EXPECT_FALSE(box.SelFormat().Bold);
+}
+
+TEST(MemoryRichTextBox, TypesInAnEmptyLineAsTheLineInFrontEnds) {
+  MemoryRichTextBox box;
+  box.SetText("ab\r\ncd\r\n\r\n");
+  box.Select(5, 1);
+  box.SetSelFormat(BoldFormat());
+  // "a" stands first, "c" begins the second line, whose "d" is bold.
+  for (const auto& [caret, bold] :
+       {std::pair{0, false}, {2, false}, {4, false}, {6, true}, {8, true}}) {
+    box.SetSelStart(caret);
+    EXPECT_EQ(box.SelFormat().Bold, bold) << caret;
+  }
+  // Another empty line in front tells no look: the box's own counts.
+  box.SetSelStart(10);
+  EXPECT_FALSE(box.SelFormat().Bold);
+}
+
+TEST(MemoryRichTextBox, FindsAWholeWordRightBehindAPlaceWhereItIsNone) {
+  MemoryRichTextBox box;
+  box.SetText("a-- b");
+  EXPECT_EQ(box.Find("-", 0, 0), 1);
+  EXPECT_EQ(box.Find("-", 0, findWholeWord), 2);
+}
+
+TEST(MemoryRichTextBox, FindsNothingFromItsEndOn) {
+  MemoryRichTextBox box;
+  box.SetText("ab\r\nab");
+  EXPECT_EQ(box.Find("b", 5, 0), 5);
+  for (const Long start : {6, 7, 2147483647}) {
+    EXPECT_EQ(box.Find("b", start, 0), RichTextBox::notFound) << start;
+    EXPECT_EQ(box.Find("b\r\na", start, 0), RichTextBox::notFound) << start;
+  }
+}
+
 /// A text of letters of both cases, blanks and line ends.
 std::string PieceOfText() {
   const auto pieces = *rc::gen::container<std::vector<std::string>>(

@@ -11,12 +11,16 @@ TEST(TextUnits, GoToUtf8AndBack) {
     EXPECT_EQ(Utf8(Units(text)), text);
   }
   EXPECT_EQ(Units("\U0001F600"), u"\U0001F600");
+  // The last character of one unit, and the first of two.
+  EXPECT_EQ(Units("\uFFFF"), (std::u16string{0xFFFF}));
+  EXPECT_EQ(Units("\U00010000"), (std::u16string{0xD800, 0xDC00}));
 }
 
 TEST(TextUnits, MakeWholeLineEnds) {
   EXPECT_EQ(Units("\n"), u"\r\n");
   EXPECT_EQ(Units("\r\r\n\n"), u"\r\n\r\n\r\n");
   EXPECT_EQ(Units("\n\r"), u"\r\n\r\n");
+  EXPECT_EQ(Units("\r\n\na\r\nb"), u"\r\n\r\na\r\nb");
   EXPECT_EQ(UnitCount("ж\n"), 3);
 }
 
@@ -32,6 +36,9 @@ TEST(TextUnits, BelongTogetherInLineEndsAndPairs) {
   EXPECT_FALSE(BelongTogether(u'\n', u'\r'));
   EXPECT_FALSE(BelongTogether(0xDE00, 0xD83D));
   EXPECT_FALSE(BelongTogether(u'a', u'\n'));
+  EXPECT_FALSE(BelongTogether(u'\r', u'a'));
+  EXPECT_FALSE(BelongTogether(0xD83D, u'a'));
+  EXPECT_FALSE(BelongTogether(u'a', 0xDE00));
 }
 
 TEST(TextUnits, HaveTwoCases) {

@@ -101,6 +101,10 @@ TEST(RtfCharacters, TheFallbacksLengthIsTheGroups) {
   EXPECT_EQ(BodyText("\\uc2\\u1060\\'84\\'55{\\uc0\\u1077 b}\\u1088xyc"), u"Феbрc");
 }
 
+TEST(RtfCharacters, AFallbacksLengthWithoutANumberIsOne) {
+  EXPECT_EQ(BodyText("\\uc3\\uc\\u1060?b"), u"Фb");
+}
+
 TEST(RtfCharacters, AFallbackEndsWithItsGroup) {
   EXPECT_EQ(BodyText("{\\uc5\\u1060 a}bc"), u"Фbc");
   EXPECT_EQ(BodyText("\\uc5\\u1060 a{bc}d"), u"Фbcd");

@@ -69,6 +69,56 @@ TEST(RtfFormats, ColourPartsAreHeldInRange) {
   EXPECT_EQ(BodyFormat("{\\colortbl;\\red999\\green-5\\blue256;}\\cf1 x").TextColor, 0xFF00FFU);
 }
 
+TEST(RtfFormats, OfTwoValuesOfOneColourPartTheLaterCounts) {
+  EXPECT_EQ(
+      BodyFormat("{\\colortbl;\\red255\\red1\\green254\\green2\\blue252\\blue4;}\\cf1 x").TextColor,
+      0x040201U);
+  EXPECT_EQ(
+      BodyFormat("{\\colortbl;\\red1\\green2\\blue4\\red255\\green254\\blue252;}\\cf1 x").TextColor,
+      0xFCFEFFU);
+}
+
+TEST(RtfFormats, AWordWithoutItsNumberStandsFor0) {
+  const std::string tables =
+      "{\\fonttbl{\\f0 Zero;}{\\f1 One;}}{\\colortbl;\\red9\\green9\\blue9\\green;}";
+  EXPECT_EQ(BodyFormat(tables + "\\f1\\f x").FontName, "Zero");
+  EXPECT_EQ(BodyFormat(tables + "\\deff1\\deff x").FontName, "Zero");
+  EXPECT_EQ(BodyFormat(tables + "\\f1\\rtlch\\af x").FontName, "Zero");
+  EXPECT_EQ(BodyFormat(tables + "\\cf1 x").TextColor, 0x090009U);
+  EXPECT_EQ(BodyFormat(tables + "\\cf1\\cf x").TextColor, colorBlack);
+  EXPECT_EQ(BodyFormat("{\\fonttbl{\\f0 Zero;}{\\f One;}}x").FontName, "One");
+}
+
+TEST(RtfFormats, EachLookHoldsFromItsWordOn) {
+  const std::string tables = "{\\fonttbl{\\f0 A;}{\\f1 B;}{\\f2 C;}}{\\colortbl;\\red9;}";
+  const RichDocument document = ReadBody(
+      tables +
+      "a\\deff1 b\\f2 c\\cf1 d\\strike e\\fs40 f\\ul g\\ulnone h\\plain i\\rtlch j\\ai k\\ab "
+      "l\\afs30 m\\af0 n\\loch o");
+  const CharFormat plain{.FontName = "B", .FontSize = 12};
+  const CharFormat large{
+      .FontName = "C", .FontSize = 20, .StrikeThru = true, .TextColor = 0x000009};
+  CharFormat underlined = large;
+  underlined.Underline = true;
+  EXPECT_EQ(
+      document.Paragraphs.at(0).Runs,
+      (TextRuns{
+          {u"a", {.FontName = "A", .FontSize = 12}},
+          {u"b", plain},
+          {u"c", {.FontName = "C", .FontSize = 12}},
+          {u"d", {.FontName = "C", .FontSize = 12, .TextColor = 0x000009}},
+          {u"e", {.FontName = "C", .FontSize = 12, .StrikeThru = true, .TextColor = 0x000009}},
+          {u"f", large},
+          {u"g", underlined},
+          {u"h", large},
+          {u"ij", plain},
+          {u"k", {.FontName = "B", .FontSize = 12, .Italic = true}},
+          {u"l", {.FontName = "B", .FontSize = 12, .Bold = true, .Italic = true}},
+          {u"m", {.FontName = "B", .FontSize = 15, .Bold = true, .Italic = true}},
+          {u"n", {.FontName = "A", .FontSize = 15, .Bold = true, .Italic = true}},
+          {u"o", plain}}));
+}
+
 TEST(RtfFormats, FontsComeFromTheTable) {
   const std::string table = "{\\fonttbl{\\f0\\fswiss Arial;}{\\f7\\froman Times New Roman;}}";
   EXPECT_EQ(BodyFormat("\\deff0" + table + "x").FontName, "Arial");

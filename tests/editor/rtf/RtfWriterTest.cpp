@@ -112,13 +112,16 @@ TEST(RtfWriter, ColoursOfTheDesktopAreTheTextsOwn) {
 TEST(RtfWriter, OtherScriptsAreToldTheirLookToo) {
   CharFormat format;
   format.Bold = format.Italic = true;
-  for (const std::u16string text : {u"\u4E2D", u"x\u05D0", u"\U0001F600"}) {
+  // The first characters of Hebrew and of the radicals of Chinese, and the last in front of the
+  // additional Latin ones, stand at the edges of what is told.
+  for (const std::u16string text :
+       {u"\u4E2D", u"x\u05D0", u"\U0001F600", u"\u0590", u"\u1DFF", u"\u2E80"}) {
     EXPECT_NE(
         WriteRtf(OneRun(text, format))
             .find("\\plain\\rtlch\\af0\\afs18\\ab\\ai\\ltrch\\dbch\\af0\\loch\\f0\\fs18\\b\\i "),
         std::string::npos);
   }
-  for (const std::u16string text : {u"Ферма Ω", u"≥ │ — №", u"\u1E00"}) {
+  for (const std::u16string text : {u"Ферма Ω", u"≥ │ — №", u"\u058F\u1E00\u2E7F"}) {
     EXPECT_EQ(WriteRtf(OneRun(text, format)).find("\\dbch"), std::string::npos);
   }
 }

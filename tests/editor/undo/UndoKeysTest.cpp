@@ -1,5 +1,3 @@
-#include <map>
-
 #include "tests/editor/undo/UndoDesk.h"
 
 namespace trelonit::test {
@@ -224,6 +222,18 @@ TEST_F(Undo, LeavesTheTextWholeWhenTheBoxDidNotTakeATab) {
   EXPECT_EQ(box.Text(), "ab");
 }
 
+TEST_F(Undo, PutsTheCaretOneFurtherWhereTheChangeEmptiedTheLine) {
+  Hold("ab\r\ncd\r\nef");
+  box.SetSelStart(4);
+  Press(keyTab, 0, "");
+  box.Select(4, 2);
+  box.SetSelText("");
+  EXPECT_FALSE(undo.ChangePending());
+  EXPECT_EQ(Newest().NewText, "");
+  EXPECT_EQ(Newest().OldLength, 0);
+  EXPECT_EQ(Newest().CaretAfter, 5);
+}
+
 TEST_F(Undo, TabsInAnEmptyBoxAndOverSeveralLines) {
   Press(keyTab);
   undo.Undo();
@@ -278,32 +288,15 @@ TEST_F(Undo, RecordsATypedLetterAndLeavesTheKeyToTheBox) {
   EXPECT_EQ(Newest(), (clsUndoElement{2, 1, 0, "", "B", -1, -1, false}));
 }
 
-TEST_F(Undo, GuessesTheTextFromTheKeyCode) {
-  const std::map<Integer, std::string> unshifted{
-      {13, "\r\n"}, {32, " "},  {48, "0"},  {57, "9"},  {65, "a"},  {90, "z"}, {96, "0"},
-      {105, "9"},   {106, "j"}, {107, "k"}, {111, "o"}, {187, "»"}, {192, "а"}};
-  for (const auto& [key, text] : unshifted) {
-    Hold("");
-    EXPECT_EQ(Press(key), key);
-    EXPECT_EQ(Newest().NewText, text) << key;
-    EXPECT_EQ(Newest().OldLength, key == 13 ? 2 : 1) << key;
-  }
-  const std::map<Integer, std::string> shifted{{13, "\r\n"}, {65, "A"}, {101, "5"}, {192, "А"}};
-  for (const auto& [key, text] : shifted) {
-    Press(key, 1);
-    EXPECT_EQ(Newest().NewText, text) << key;
-  }
-}
-
-TEST_F(Undo, UndoesARussianLetterExactlyAndRedoesItFromItsKey) {
-  Hold("ж");
-  box.Select(0, 1);
-  Press('A', 0, "ф");
-  EXPECT_EQ(box.Text(), "ф");
-  undo.Undo();
-  EXPECT_EQ(box.Text(), "ж");
-  undo.Redo();
-  EXPECT_EQ(box.Text(), "a");
+TEST_F(Undo, TakesOutNoMoreThanTheCharacterInFrontOnBackspace) {
+  Hold("abcd\r\nef");
+  box.SetSelStart(3);
+  Press(keyBack);
+  EXPECT_EQ(box.Text(), "abd\r\nef");
+  box.SetSelStart(5);
+  Press(keyBack);
+  EXPECT_EQ(box.Text(), "abdef");
+  EXPECT_EQ(Selection(), (TextSpan{3, 0}));
 }
 
 TEST_F(Undo, TakesOutTheCharacterInFrontOnBackspace) {

@@ -11,6 +11,9 @@ TEST_F(Undo, HasNothingToUndoAtFirst) {
   EXPECT_FALSE(undo.RichEditing());
   EXPECT_EQ(undo.UndoCount(), 0);
   EXPECT_EQ(undo.RedoCount(), 0);
+  EXPECT_EQ(undo.Current().Start, 0);
+  EXPECT_EQ(undo.Current().OldLength, 0);
+  EXPECT_EQ(undo.Current().NewLength, 0);
 }
 
 TEST_F(Undo, LeavesTextAndSelectionAloneWithNothingToUndo) {
