@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/win32/desktop/TimeLimit.h"
 #include "windows/services/GuardedApplication.h"
 
 int main(int argc, char** argv) {
@@ -9,5 +10,10 @@ int main(int argc, char** argv) {
   QApplication::setOrganizationName(QStringLiteral("Trelonit"));
   QApplication::setApplicationName(QStringLiteral("trelonit-windows-tests"));
   ::testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
+  // Given up before the application goes.
+  trelonit::test::TimeLimit limit;
+  ::testing::UnitTest::GetInstance()->listeners().Append(&limit);
+  const int status = RUN_ALL_TESTS();
+  ::testing::UnitTest::GetInstance()->listeners().Release(&limit);
+  return status;
 }
