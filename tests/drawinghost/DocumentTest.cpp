@@ -1,5 +1,7 @@
 #include <cmath>
 #include <limits>
+#include <numbers>
+#include <set>
 
 #include "tests/drawinghost/HostDesk.h"
 #include "tests/support/ExtremeNumbers.h"
@@ -64,6 +66,44 @@ TEST(Layers, RefuseNamesThatDrawingsCannotHold) {
   const AutomationHandle layers = ObjectMember(desk.Document, "Layers");
   EXPECT_EQ(RaisedBy([&] { CallMember(layers, "Add"); }), 5);
   EXPECT_EQ(RaisedBy([&] { CallMember(layers, "Add", {Long{1}}); }), 13);
+}
+
+TEST(Layers, TakeTheLineWeightsOfTheFormatAndNoOthers) {
+  // By default, and those that pens have, in hundredths of a millimetre.
+  const std::set<Long> weights{-3, 0,  5,  9,  13, 15,  18,  20,  25,  30,  35,  40, 50,
+                               53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
+  DocumentDesk desk;
+  const AutomationHandle layer = desk.AddNamed("Layers", "Main");
+  for (Long weight = -5; weight <= 215; ++weight) {
+    EXPECT_EQ(RaisedBy([&] { SetMember(layer, "Lineweight", weight); }),
+              weights.contains(weight) ? 0 : 5)
+        << weight;
+  }
+}
+
+TEST(Layers, TakeNamesOf255Bytes) {
+  DocumentDesk desk;
+  const std::string longest(255, 'a');
+  EXPECT_EQ(RaisedBy([&] { desk.AddNamed("Layers", longest); }), 0);
+  EXPECT_NE(FindLayer(*desk.Sheet, longest), nullptr);
+}
+
+TEST(TextStyles, TakeTheLimitsOfTheirRanges) {
+  DocumentDesk desk;
+  const AutomationHandle style = desk.AddNamed("TextStyles", "Dimensional");
+  // Letters lean by 85 degrees at most.
+  const double limit = 85 * std::numbers::pi / 180;
+  for (const double angle : {-limit, limit}) {
+    EXPECT_EQ(RaisedBy([&] { SetMember(style, "ObliqueAngle", angle); }), 0);
+    EXPECT_EQ(FindTextStyle(*desk.Sheet, "Dimensional")->ObliqueAngle, angle);
+    EXPECT_EQ(RaisedBy([&] { SetMember(style, "ObliqueAngle", angle * 1.0001); }), 5);
+  }
+  for (const double width : {0.01, 100.0}) {
+    EXPECT_EQ(RaisedBy([&] { SetMember(style, "Width", width); }), 0);
+    EXPECT_EQ(FindTextStyle(*desk.Sheet, "Dimensional")->Width, width);
+  }
+  EXPECT_EQ(RaisedBy([&] { SetMember(style, "Width", 0.0099); }), 5);
+  EXPECT_EQ(RaisedBy([&] { SetMember(style, "Width", 100.01); }), 5);
 }
 
 TEST(TextStyles, TakeObliqueAngleAndWidth) {

@@ -94,6 +94,8 @@ TEST(DxfPairs, WriteAnglesAsDegreesOfOneTurn) {
   EXPECT_NEAR(degrees(halfTurn / 2), 90, 1e-12);
   EXPECT_NEAR(degrees(-halfTurn / 2), 270, 1e-12);
   EXPECT_NEAR(degrees(5 * halfTurn), 180, 1e-12);
+  EXPECT_NEAR(degrees(halfTurn / 360), 0.5, 1e-12);
+  EXPECT_NEAR(degrees(-halfTurn / 360), 359.5, 1e-12);
   EXPECT_EQ(degrees(0), 0);
   EXPECT_EQ(degrees(-1e-30), 0);
 }

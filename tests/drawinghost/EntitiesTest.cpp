@@ -137,6 +137,15 @@ TEST(Texts, RefuseAlignmentsBetweenTwoPointsAndUnknownOnes) {
   EXPECT_EQ(RaisedBy([&] { SetMember(text, "Rotation", infinity); }), 5);
 }
 
+TEST(Texts, TakeEveryOtherAlignment) {
+  DocumentDesk desk;
+  const AutomationHandle text = desk.AddText();
+  for (const Long alignment : {0, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14}) {
+    EXPECT_EQ(RaisedBy([&] { SetMember(text, "Alignment", alignment); }), 0) << alignment;
+    EXPECT_EQ(Member(text, "Alignment"), AutomationValue(alignment));
+  }
+}
+
 TEST(Dimensions, TakeTheirEightProperties) {
   DocumentDesk desk;
   desk.AddNamed("TextStyles", "Dimensional");
@@ -178,6 +187,8 @@ TEST(Dimensions, RefuseSizesThatCannotBe) {
   EXPECT_EQ(raised("ScaleFactor", 0.0), 5);
   EXPECT_EQ(raised("TextInside", std::string("True")), 13);
   EXPECT_EQ(raised("PrimaryUnitsPrecision", Long{9}), 5);
+  EXPECT_EQ(raised("PrimaryUnitsPrecision", Long{8}), 0);
+  EXPECT_EQ(raised("PrimaryUnitsPrecision", Long{-1}), 5);
   EXPECT_EQ(raised("PrimaryUnitsPrecision", 1e300), 6);
 }
 

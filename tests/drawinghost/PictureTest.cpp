@@ -84,6 +84,35 @@ TEST(DimensionPicture, OfAPanelHasExtensionLinesArrowsAndTheNumberAboveTheLine) 
   ExpectAt(text.Point, 1500, -395);
 }
 
+TEST(DimensionPicture, ScalesEverySizeOfItsLook) {
+  const EntityPicture picture = Picture({.Point2 = {1000, 0},
+                                         .Location = {0, 100},
+                                         .ArrowheadSize = 6,
+                                         .TextGap = 3,
+                                         .TextHeight = 7,
+                                         .ScaleFactor = 2,
+                                         .Variables = {.DIMEXE = 4, .DIMEXO = 5}});
+  ASSERT_EQ(picture.Strokes.size(), 3u);
+  ExpectStroke(picture, 0, {0, 10}, {0, 108});
+  ExpectStroke(picture, 1, {1000, 10}, {1000, 108});
+  ExpectStroke(picture, 2, {0, 100}, {1000, 100});
+  ASSERT_EQ(picture.Arrows.size(), 2u);
+  ExpectArrow(picture.Arrows[0], {0, 100}, {12, 102}, {12, 98});
+  ExpectArrow(picture.Arrows[1], {1000, 100}, {988, 102}, {988, 98});
+  ASSERT_EQ(picture.Texts.size(), 1u);
+  EXPECT_EQ(picture.Texts[0].Height, 14);
+  ExpectAt(picture.Texts[0].Point, 500, 113);
+}
+
+TEST(DimensionPicture, OfNoLengthHasItsNumberOnTheRight) {
+  const EntityPicture picture = Picture({.Point2 = {0, 50}, .Location = {0, 100}});
+  ASSERT_EQ(picture.Texts.size(), 1u);
+  EXPECT_EQ(picture.Texts[0].Text, "0.00");
+  // Behind two arrows and the gap stand four letters of 0.9 * 2.5; over the line by the gap and
+  // half the height.
+  ExpectAt(picture.Texts[0].Point, 5 + 0.625 + 4.5, 100 + 0.625 + 1.25);
+}
+
 TEST(DimensionPicture, OfAHeightReadsFromTheRight) {
   // The half turn of the schemes is a little too great, which must not turn the text round.
   const EntityPicture picture =
@@ -287,6 +316,14 @@ TEST(TextPlace, FollowsTheAlignment) {
   ExpectAt(start(TextAlignment::BottomRight), 60, 203);
   text.Rotation = std::numbers::pi / 2;
   ExpectAt(start(TextAlignment::BottomCentre), 97, 180);
+}
+
+TEST(TextPlace, IsEstimatedFromTheLettersAndTheWidthOfTheirStyle) {
+  PictureText text{.Text = "Ферма", .Height = 10, .Style = "Dimensional"};
+  EXPECT_DOUBLE_EQ(EstimatedWidth(WithStyle(), text), 5 * 0.9 * 10 * 0.55);
+  // A style that is not there makes letters neither wide nor narrow.
+  text.Style = "Absent";
+  EXPECT_DOUBLE_EQ(EstimatedWidth(WithStyle(), text), 5 * 0.9 * 10);
 }
 
 TEST(TextPlace, OutlineHoldsTheLettersAndWhatReachesUnderTheLine) {

@@ -9,8 +9,8 @@ namespace {
 
 /// How an alignment is written: across (72) and up (73).
 struct Justification {
-  int Across = 0;
-  int Up = 0;
+  int Across;
+  int Up;
 };
 
 Justification JustificationOf(TextAlignment alignment) {
