@@ -238,6 +238,17 @@ TEST(Filtering, KeepsTheValidObjectsAndTellsTheCounts) {
   EXPECT_TRUE(desk.Messages.Shown.empty());
 }
 
+TEST(Filtering, IsContentWithOneValidObject) {
+  FilterDesk desk;
+  desk.Put("AcDbLine");
+  desk.Filter();
+  EXPECT_EQ(desk.Host.Calls.back(),
+            "Report.lstReportList.AddItem(\"Programm can use only valid objects \")");
+  EXPECT_EQ(
+      desk.Host.CountOf("Report.lstReportList.AddItem(\"Valid objects in selection set : 1\")"),
+      1U);
+}
+
 TEST(Filtering, TakesExactlyThirteenKindsOfObjects) {
   const Calls names{"AcDbSpline",     "AcDbCircle",  "AcDbLine",   "AcDbPolyline",
                     "AcDbArc",        "AcDbEllipse", "AcDbRegion", "AcDb3dPolyline",
