@@ -65,7 +65,7 @@ Bits DecodeBits(std::string_view bytes, std::size_t offset) {
   if (bytes.size() < offset + sizeof(Bits)) {
     return 0;
   }
-  std::array<char, sizeof(Bits)> field;
+  std::array<char, sizeof(Bits)> field{};
   std::copy_n(bytes.data() + offset, field.size(), field.begin());
   return std::bit_cast<Bits>(Turned<Bits>(field));
 }

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "drawing/host/TitleBlock.h"
 #include "drawing/host/dxf/DxfWriter.h"
 #include "tests/drawinghost/HostDesk.h"
+#include "tests/drawinghost/PlainDrawings.h"
 
 namespace trelonit::test {
 namespace {
@@ -53,19 +53,11 @@ TEST(DxfGolden, HasEveryKindOfEntity) {
 }
 
 TEST(DxfGolden, HasTheTitleBlockOfForm3) {
-  const TitleBlock block{.Code = "15-2026-КМ",
-                         .Project =
-                             "Реконструкция производственной базы предприятия с заменой "
-                             "покрытия над главным пролетом цеха",
-                         .Building = "Корпус 2",
-                         .Images = "Ферма ФС1",
-                         .Organisation = "Проектгражданпромстройконструкция",
-                         .Author = "Иванов",
-                         .Checker = "Петров",
-                         .Date = "22.11.26",
-                         .Stage = "Р",
-                         .Sheet = "3",
-                         .Sheets = "12"};
+  TitleBlock block = FilledTitleBlock();
+  block.Project =
+      "Реконструкция производственной базы предприятия с заменой покрытия над главным пролетом "
+      "цеха";
+  block.Organisation = "Проектгражданпромстройконструкция";
   ExpectGolden(WriteDxf(PictureOfTitleBlock(block, "М 1:50", {185, 0})), "title-block.dxf");
 }
 

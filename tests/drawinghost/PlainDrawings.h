@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "drawing/host/Drawing.h"
+#include "drawing/host/TitleBlock.h"
 
 namespace trelonit::test {
 
@@ -51,6 +52,21 @@ inline std::shared_ptr<Drawing> SmallDrawing(const std::string& name = "Drawing1
   drawing->ModelSpace.push_back(
       TextAt("L = 10.00", {5000, 0}, 300, TextAlignment::BottomCentre, 0, "Dimensional"));
   return drawing;
+}
+
+/// A title block with something in every field.
+inline TitleBlock FilledTitleBlock() {
+  return {.Code = "15-2026-КМ",
+          .Project = "Склад готовой продукции",
+          .Building = "Корпус 2",
+          .Images = "Ферма ФС1",
+          .Organisation = "Проектное бюро",
+          .Author = "Иванов",
+          .Checker = "Петров",
+          .Date = "22.11.26",
+          .Stage = "Р",
+          .Sheet = "3",
+          .Sheets = "12"};
 }
 
 }  // namespace trelonit::test

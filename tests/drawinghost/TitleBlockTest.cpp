@@ -10,23 +10,10 @@
 #include "drawing/host/DrawingPicture.h"
 #include "drawing/host/TitleBlock.h"
 #include "platform/console/ConsoleServices.h"
+#include "tests/drawinghost/PlainDrawings.h"
 
 namespace trelonit::test {
 namespace {
-
-TitleBlock Filled() {
-  return {.Code = "15-2026-КМ",
-          .Project = "Склад готовой продукции",
-          .Building = "Корпус 2",
-          .Images = "Ферма ФС1",
-          .Organisation = "Проектное бюро",
-          .Author = "Иванов",
-          .Checker = "Петров",
-          .Date = "22.11.26",
-          .Stage = "Р",
-          .Sheet = "3",
-          .Sheets = "12"};
-}
 
 /// The texts with the middle of the room that they take, from the lower left corner of the block.
 std::map<std::string, PlacePoint> TextsOf(const Drawing& picture) {
@@ -56,7 +43,7 @@ TEST(TitleBlock, HasTheSizeOfForm3) {
 }
 
 TEST(TitleBlock, HasItsTextsInTheFieldsOfTheStandard) {
-  const auto texts = TextsOf(PictureOfTitleBlock(Filled(), "М 1:50", {185, 0}));
+  const auto texts = TextsOf(PictureOfTitleBlock(FilledTitleBlock(), "М 1:50", {185, 0}));
   ExpectIn(texts.at("15-2026-КМ"), 65, 45, 185, 55);
   ExpectIn(texts.at("Склад готовой продукции"), 65, 30, 185, 45);
   ExpectIn(texts.at("Корпус 2"), 65, 15, 135, 30);
@@ -125,13 +112,14 @@ TEST(TitleBlock, HasTheLinesOfForm3) {
   for (const double row : {30, 35}) {
     expected.emplace("Thick", 0, row, 65, row);
   }
-  EXPECT_EQ(RulesOf(PictureOfTitleBlock(Filled(), "М 1:50", {185, 0})), expected);
+  EXPECT_EQ(RulesOf(PictureOfTitleBlock(FilledTitleBlock(), "М 1:50", {185, 0})), expected);
 }
 
 TEST(TitleBlock, HasItsTextsInTheMiddleOfTheirFields) {
   using Placed = std::tuple<double, double, double, std::string>;
   std::multiset<Placed> placed;
-  for (const DrawingEntity& entity : PictureOfTitleBlock(Filled(), "М 1:50", {185, 0}).ModelSpace) {
+  for (const DrawingEntity& entity :
+       PictureOfTitleBlock(FilledTitleBlock(), "М 1:50", {185, 0}).ModelSpace) {
     if (const auto* text = std::get_if<DrawingText>(&entity)) {
       const bool onLine = text->Alignment == TextAlignment::Left;
       // From the base line to the middle of the capitals.
@@ -206,7 +194,7 @@ TEST(TitleBlock, LeavesEmptyWhatIsNotFilled) {
 }
 
 TEST(TitleBlock, DividesALongNameAndNarrowsALongWord) {
-  TitleBlock block = Filled();
+  TitleBlock block = FilledTitleBlock();
   block.Project =
       "Реконструкция производственной базы предприятия с заменой покрытия над главным пролетом "
       "цеха";
@@ -236,7 +224,7 @@ TEST(TitleBlock, IsRemembered) {
   EXPECT_FALSE(fresh.Shown);
   EXPECT_EQ(fresh.Block.Stage, "Р");
   EXPECT_EQ(fresh.Block.Author, "");
-  const TitleBlockChoice filled{true, Filled()};
+  const TitleBlockChoice filled{true, FilledTitleBlock()};
   StoreTitleBlock(settings, filled);
   EXPECT_EQ(LoadTitleBlock(settings), filled);
 }
