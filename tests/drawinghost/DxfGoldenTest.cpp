@@ -24,8 +24,8 @@ std::vector<std::string> LinesOf(const std::string& text) {
   return lines;
 }
 
-/// Compares a written file with the one that the readers of OtherProgramsTest were shown. Where the
-/// difference is meant, DRAWING_GOLDEN in the environment names the folder to write them into.
+/// Compares a written file with a known one, of the writer whose files OtherProgramsTest has read.
+/// Where the difference is meant, DRAWING_GOLDEN in the environment names the folder to write to.
 void ExpectGolden(const std::string& written, const std::string& name) {
   if (const char* folder = std::getenv("DRAWING_GOLDEN")) {
     std::ofstream(fs::path(folder) / name, std::ios::binary) << written;
@@ -53,12 +53,8 @@ TEST(DxfGolden, HasEveryKindOfEntity) {
 }
 
 TEST(DxfGolden, HasTheTitleBlockOfForm3) {
-  TitleBlock block = FilledTitleBlock();
-  block.Project =
-      "Реконструкция производственной базы предприятия с заменой покрытия над главным пролетом "
-      "цеха";
-  block.Organisation = "Проектгражданпромстройконструкция";
-  ExpectGolden(WriteDxf(PictureOfTitleBlock(block, "М 1:50", {185, 0})), "title-block.dxf");
+  ExpectGolden(WriteDxf(PictureOfTitleBlock(CrowdedTitleBlock(), "М 1:50", {185, 0})),
+               "title-block.dxf");
 }
 
 }  // namespace

@@ -69,4 +69,14 @@ inline TitleBlock FilledTitleBlock() {
           .Sheets = "12"};
 }
 
+/// The same with a name that takes two lines and a word too long for its field.
+inline TitleBlock CrowdedTitleBlock() {
+  TitleBlock block = FilledTitleBlock();
+  block.Project =
+      "Реконструкция производственной базы предприятия с заменой покрытия над главным пролетом "
+      "цеха";
+  block.Organisation = "Проектгражданпромстройконструкция";
+  return block;
+}
+
 }  // namespace trelonit::test

@@ -194,11 +194,7 @@ TEST(TitleBlock, LeavesEmptyWhatIsNotFilled) {
 }
 
 TEST(TitleBlock, DividesALongNameAndNarrowsALongWord) {
-  TitleBlock block = FilledTitleBlock();
-  block.Project =
-      "Реконструкция производственной базы предприятия с заменой покрытия над главным пролетом "
-      "цеха";
-  block.Organisation = "Проектгражданпромстройконструкция";
+  const TitleBlock block = CrowdedTitleBlock();
   const Drawing picture = PictureOfTitleBlock(block, "М 1:50", {185, 0});
   const auto texts = TextsOf(picture);
   EXPECT_FALSE(texts.contains(block.Project));
