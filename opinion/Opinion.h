@@ -105,8 +105,8 @@ Opinion FormOpinion(const JudgedDesign& design);
 struct JudgedTruss {
   Truss Model;
   Statics Forces;
-  double UpperHeld = 0;
-  double LowerHeld = 0;
+  double UpperHeld = 0;  ///< as in Opinion
+  double LowerHeld = 0;  ///< as in Opinion
 };
 /// Raises 5 or 9 where the design is none, 11 or 6 where its geometry holds no forces.
 JudgedTruss SolveTruss(const TreloData& data);

@@ -13,8 +13,8 @@ namespace trelonit {
 namespace {
 
 struct Direction {
-  double Right = 0;
-  double Up = 0;
+  double Right;
+  double Up;
 };
 
 /// From joint A to joint B.
@@ -45,9 +45,9 @@ class Equilibrium {
 
  private:
   struct Coefficient {
-    std::size_t Row = 0;
-    std::size_t Unknown = 0;
-    double Value = 0;
+    std::size_t Row;
+    std::size_t Unknown;
+    double Value;
   };
 
   void OrderUnknowns() {
@@ -152,7 +152,7 @@ double Residual::Size() const {
 std::vector<Residual> Residuals(const Truss& truss, const Statics& statics) {
   std::vector<Residual> residuals(truss.Joints.size());
   for (std::size_t joint = 0; joint < residuals.size(); ++joint) {
-    residuals[joint].Up = -statics.Loads[joint];
+    residuals[joint].Up -= statics.Loads[joint];
   }
   residuals[truss.LeftSupport].Up += statics.ReactLeft;
   residuals[truss.RightSupport].Up += statics.ReactRight;

@@ -37,10 +37,10 @@ struct Residual {
 /// Raises 6 beyond the range of Double.
 std::vector<Residual> Residuals(const Truss& truss, const Statics& statics);
 
-/// Movement of a joint, metres: to the right and downward.
+/// Movement of a joint.
 struct Displacement {
-  double Right = 0;
-  double Down = 0;
+  double Right = 0;  ///< metres
+  double Down = 0;   ///< metres
 };
 
 /// How the joints move when each bar stretches by N l / (E A). Areas by bar in cm2, E in MPa.

@@ -68,6 +68,7 @@ void ExpectLimits(const OpinionCase& design, Met& met, std::map<int, int>& alpha
         EXPECT_EQ(plane->Limit, TensionLimit(role, design.Numbers.Dynamic));
         EXPECT_EQ(plane->Alpha, 0);
         EXPECT_EQ(plane->Phi, 0);
+        EXPECT_EQ(plane->PhiFormula, 0);
         EXPECT_EQ(plane->Stability, 0);
       }
       EXPECT_NEAR(plane->Flex, plane->Slenderness / plane->Limit, 1e-12);

@@ -27,6 +27,8 @@ constexpr const char* beyondNorms =
 
 using Change = std::function<void(OpinionCase&)>;
 
+const std::vector<double> noReactions{0, 0};
+
 /// What the opinion says of a good design after the change; nothing else may stand in it.
 std::string RefusalAfter(Long scheme, const Change& change) {
   OpinionCase design(SnowyTruss(scheme));
@@ -43,6 +45,11 @@ std::string RefusalAfter(Long scheme, const Change& change) {
     EXPECT_NO_THROW(ExplainTold(design.Judged(), std::nullopt));
     EXPECT_TRUE(opinion.UnbalancedJoints().empty());
     EXPECT_EQ(opinion.FindGroup(ElementGroup::UpPoyas), nullptr);
+    EXPECT_EQ(opinion.UpperHeld, 0);
+    EXPECT_EQ(opinion.LowerHeld, 0);
+    EXPECT_EQ(opinion.GreatestForce, 0);
+    EXPECT_EQ(AllForces(opinion.Forces), noReactions);
+    EXPECT_EQ(AllForces(opinion.Told), noReactions);
   }
   return opinion.Refusal;
 }
