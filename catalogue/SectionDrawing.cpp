@@ -193,7 +193,7 @@ class Composer {
   ProfileRec profile_;
   Family family_;
   SectionShape shape_;
-  bool paired_ = false;
+  bool paired_;
   Real halfGap_;
   SectionDrawing drawing_;
 };

@@ -52,7 +52,7 @@ class RecordFile {
 
  private:
   std::size_t recordSize_;
-  Integer count_ = 0;
+  Integer count_;
   std::string bytes_;
 };
 

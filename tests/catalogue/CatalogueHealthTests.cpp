@@ -303,6 +303,24 @@ TEST(CatalogueHealth, TellsOfASingleRecordThatItStandsAlone) {
   EXPECT_EQ(found[0].TypeIdx, 1);
 }
 
+TEST(CatalogueHealth, HasNoNumbersWhereNothingCouldBeCompared) {
+  ProfileRec broken = LastRecord(1);
+  broken.B = 0;
+  ProfileRec endless = LastRecord(1);
+  endless.A = std::numeric_limits<double>::infinity();
+  const std::vector<std::pair<Long, ProfileRec>> records{
+      {23, LastRecord(1)}, {1, ProfileRec()}, {1, broken}, {1, endless}};
+  for (const auto& [standard, record] : records) {
+    const std::vector<Deviation> found = VerifyRecord(standard, record);
+    ASSERT_EQ(found.size(), 1u);
+    SCOPED_TRACE(found[0].Quantity);
+    EXPECT_EQ(found[0].Stored, 0);
+    EXPECT_EQ(found[0].Computed, 0);
+    EXPECT_EQ(found[0].Percent, 0);
+    EXPECT_EQ(found[0].Tolerance, 0);
+  }
+}
+
 TEST(CatalogueHealth, ReportsEmptyRecords) {
   ProfileRec empty;
   EXPECT_EQ(QuantitiesFound(5, empty), std::vector<std::string>{"empty"});

@@ -37,6 +37,14 @@ TEST(DataManagerLoad, StartsWithNothing) {
   EXPECT_EQ(desk.Desk.Counts(), "0/0");
 }
 
+TEST(DataManagerLoad, HasNoRecordBeforeItIsOpened) {
+  EmbeddedResources resources;
+  test::World world(resources);
+  frmDataManager form(world.Bundle(), {});
+  EXPECT_EQ(form.CurPos, 0);
+  EXPECT_EQ(form.TotalPos, 0);
+}
+
 TEST(DataManagerLoad, AsksForADataFile) {
   MemoryDesk desk;
   desk.Load();

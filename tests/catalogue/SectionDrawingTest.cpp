@@ -4,6 +4,7 @@
 #include "catalogue/SectionComposition.h"
 #include "catalogue/SectionDrawing.h"
 #include "catalogue/SectionLayouts.h"
+#include "catalogue/StandardFigures.h"
 #include "catalogue/modProfileData.h"
 #include "platform/errors/RuntimeError.h"
 #include "resources/EmbeddedResources.h"
@@ -118,6 +119,22 @@ TEST(SectionDrawing, TellsTheWallsOfALyingAngleWithTheirOwnLegs) {
   EXPECT_EQ(Measured(drawing, Side::Right), 8);
 }
 
+TEST(SectionDrawing, EndsWhereASectionOfLessThanAMillimetreEnds) {
+  SectionRec section = Angle(1, 0);
+  section.Profile = {.B = 0.75, .H = 0.5, .t = 0.125, .s = 0.125};
+  ExpectBounds(DrawSection(section), 0, 0.75, 0, 0.5);
+}
+
+TEST(SectionDrawing, MeasuresTheFlangesOfAllProfilesButTubes) {
+  constexpr Long lastOpenProfile = 11;
+  SectionRec section = Angle(5, 0);
+  for (Long standard = 1; standard <= standardCount; ++standard) {
+    section.TypeIdx = standard;
+    EXPECT_EQ(Measured(DrawSection(section), Side::Right), standard <= lastOpenProfile ? 8 : 0)
+        << standard;
+  }
+}
+
 /// The measured wall and flange of a single profile.
 struct MeasuredParts {
   SectionDimension Wall, Flange;
@@ -210,8 +227,15 @@ TEST(SectionDrawing, GivesARoundTubeItsDiameterAndWall) {
   EXPECT_EQ(drawing.Dimensions[0].At, Side::Across);
   EXPECT_EQ(drawing.Dimensions[0].From, 53);
   EXPECT_EQ(drawing.Dimensions[0].To, 57);
+  EXPECT_FALSE(drawing.Dimensions[0].Diameter);
   EXPECT_TRUE(drawing.Dimensions[1].Diameter);
   EXPECT_EQ(drawing.Dimensions[1].Value, 114);
+}
+
+TEST(SectionDrawing, GivesNothingElseADiameter) {
+  for (const SectionDimension& dimension : DrawSection(Angle(2, 10)).Dimensions) {
+    EXPECT_FALSE(dimension.Diameter);
+  }
 }
 
 TEST(SectionDrawing, RefusesWhatMakesNoSection) {
