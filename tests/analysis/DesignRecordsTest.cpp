@@ -190,5 +190,17 @@ TEST(DesignRecords, ANewDesignIsOfTheFirstSchemeAndHasNoLoadArrays) {
   EXPECT_FALSE(data.DwnDistForce.IsAllocated());
 }
 
+TEST(DesignRecords, ANewDesignHasNeitherSizesNorBracing) {
+  const TreloData data;
+  EXPECT_EQ(data.LengthF, 0);
+  EXPECT_EQ(data.Hight, 0);
+  EXPECT_EQ(data.Reserved1, 0);
+  EXPECT_EQ(data.LenOporn, 0);
+  EXPECT_EQ(data.Reserved2, 0);
+  EXPECT_EQ(data.PanelNum, 0);
+  EXPECT_EQ(data.UpPoyasBrace, 0);
+  EXPECT_EQ(data.DownPoyasBrace, 0);
+}
+
 }  // namespace
 }  // namespace trelonit::test

@@ -44,6 +44,15 @@ TEST(SteelWindow, ShowsTheKindsOfStructuresWithTheirCoefficients) {
   EXPECT_EQ(desk.Form.MSFGridYc.Rows(), expected);
 }
 
+TEST(SteelWindow, HasTheUsualCoefficientsBeforeItIsOpened) {
+  EmbeddedResources resources;
+  test::World world(resources);
+  test::SteelTargets main;
+  const frmSteel form(world.Bundle(), main.References());
+  EXPECT_EQ(form.Gn, 1);
+  EXPECT_EQ(form.Yc, 0.9);
+}
+
 TEST(SteelWindow, HasItsCaptions) {
   SteelDesk desk;
   EXPECT_EQ(desk.Form.Form.Caption(), "Стали");

@@ -56,6 +56,18 @@ TEST(CheckNumbersOfTheForm, AreZeroForTextThatIsNoNumber) {
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
+TEST(CheckNumbersOfTheForm, AreNotReadBeforeTheFirstCalculation) {
+  StartedDesk desk;
+  const CheckNumbers& numbers = desk.Main.Model.Last.Numbers;
+  EXPECT_EQ(numbers.Ry, 0);
+  EXPECT_EQ(numbers.E, 0);
+  EXPECT_EQ(numbers.Yc, 0);
+  EXPECT_EQ(numbers.Gn, 0);
+  EXPECT_EQ(numbers.Density, 0);
+  EXPECT_EQ(numbers.LimitUser, 0);
+  EXPECT_FALSE(numbers.Dynamic);
+}
+
 TEST(CheckNumbersOfTheForm, TakeTheBoxOfDynamicLoads) {
   StartedDesk desk;
   desk.Main.chkDinloadEnable.SetChecked(true);
