@@ -4,6 +4,7 @@
 #include <functional>
 #include <locale>
 #include <map>
+#include <optional>
 #include <sstream>
 #include <string_view>
 #include <tuple>
@@ -90,22 +91,24 @@ class Writer {
   std::string body_;
   std::map<std::string, std::size_t, std::less<>> classes_;
   std::vector<std::string> styles_;
-  // Neighbouring runs often look alike: the style of the last one is known.
-  CharFormat lastFormat_;
-  std::size_t lastClass_ = 0;
+  struct Look {
+    CharFormat Format;
+    std::size_t Class;
+  };
+  // Neighbouring runs often look alike: the class of the last one is known.
+  std::optional<Look> last_;
 };
 
 std::size_t Writer::ClassOf(const CharFormat& format) {
-  if (styles_.empty() || format != lastFormat_) {
+  if (!last_ || last_->Format != format) {
     const std::string style = StyleOf(format);
     const auto [place, fresh] = classes_.emplace(style, styles_.size());
     if (fresh) {
       styles_.push_back(style);
     }
-    lastFormat_ = format;
-    lastClass_ = place->second;
+    last_ = {format, place->second};
   }
-  return lastClass_;
+  return last_->Class;
 }
 
 void Writer::WriteParagraph(const RichParagraph& paragraph) {

@@ -70,11 +70,11 @@ void PutInOrder(RichDocument& document) {
 /// Whether the offset lies within a line end or a surrogate pair.
 bool DividesPair(const TextRuns& runs, std::size_t offset) {
   const std::size_t length = RunsLength(runs);
-  if (offset == 0 || offset == length) {
-    return false;
-  }
   if (offset > length) {
     return true;  // within the line end
+  }
+  if (offset == 0 || offset == length) {
+    return false;
   }
   const std::u16string around = RunsText(CopyRuns(runs, offset - 1, offset + 1));
   return BelongTogether(around[0], around[1]);
@@ -236,10 +236,10 @@ void MemoryRichTextBox::Insert(const Place& place, const RichDocument& piece) {
   AppendRuns(document_.Paragraphs[place.Paragraph + paragraphs.size() - 1].Runs, rest);
 }
 
-std::u16string MemoryRichTextBox::TextToSearch(std::size_t paragraph, std::size_t reach) const {
+std::u16string MemoryRichTextBox::TextToSearch(std::size_t paragraph,
+                                               std::ptrdiff_t lineEnds) const {
   std::u16string text = RunsText(RunsOf(paragraph));
-  const std::size_t enough = text.size() + reach;
-  while (text.size() < enough && ++paragraph < document_.Paragraphs.size()) {
+  for (; lineEnds != 0 && ++paragraph < document_.Paragraphs.size(); --lineEnds) {
     text += lineEndUnits;
     text += RunsText(RunsOf(paragraph));
   }
@@ -260,11 +260,10 @@ Long MemoryRichTextBox::Find(const std::string& text, Long start, Long options) 
     lower(wanted);
   }
   // Only a text with a line end in it can reach beyond its paragraph.
-  const std::size_t reach =
-      wanted.find(lineEndUnits) == std::u16string::npos ? 0 : wanted.size() + 1;
+  const auto lineEnds = std::count(wanted.begin(), wanted.end(), lineEndUnits.back());
   for (Place place = Locate(start); place.Paragraph < document_.Paragraphs.size();
        ++place.Paragraph) {
-    std::u16string searched = TextToSearch(place.Paragraph, reach);
+    std::u16string searched = TextToSearch(place.Paragraph, lineEnds);
     if (anyCase) {
       lower(searched);
     }

@@ -68,8 +68,8 @@ class MemoryRichTextBox : public RichTextBox {
   void ReplaceSelection(const RichDocument& piece);
   void Remove(const Place& first, const Place& last);
   void Insert(const Place& place, const RichDocument& piece);
-  /// The paragraph, and as much behind it as a text of this length can reach from there.
-  std::u16string TextToSearch(std::size_t paragraph, std::size_t reach) const;
+  /// The paragraph, and as much behind it as a text with so many line ends can reach from there.
+  std::u16string TextToSearch(std::size_t paragraph, std::ptrdiff_t lineEnds) const;
 
   RichDocument document_;
   Long length_ = 0;

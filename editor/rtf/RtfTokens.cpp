@@ -13,24 +13,25 @@ bool IsDigit(char byte) {
   return byte >= '0' && byte <= '9';
 }
 
-/// -1 for what is no hexadecimal digit.
-int HexValue(char byte) {
+/// Nothing for what is no hexadecimal digit.
+std::optional<int> HexValue(char byte) {
   if (IsDigit(byte)) {
     return byte - '0';
   }
   const char lower = LowerLatin(byte);
-  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
-RtfToken ByteToken(RtfToken::Kind kind, unsigned char byte) {
-  RtfToken token;
-  token.Is = kind;
-  token.Byte = byte;
-  return token;
+  return lower >= 'a' && lower <= 'f' ? std::optional(lower - 'a' + 10) : std::nullopt;
 }
 
 RtfToken KindToken(RtfToken::Kind kind) {
-  return ByteToken(kind, 0);
+  RtfToken token;
+  token.Is = kind;
+  return token;
+}
+
+RtfToken ByteToken(RtfToken::Kind kind, unsigned char byte) {
+  RtfToken token = KindToken(kind);
+  token.Byte = byte;
+  return token;
 }
 
 }  // namespace
@@ -65,11 +66,11 @@ RtfToken RtfTokens::Escaped() {
   }
   ++place_;
   if (byte == '\'' && bytes_.size() - place_ >= 2) {
-    const int high = HexValue(bytes_[place_]);
-    const int low = HexValue(bytes_[place_ + 1]);
-    if (high >= 0 && low >= 0) {
+    const std::optional<int> high = HexValue(bytes_[place_]);
+    const std::optional<int> low = HexValue(bytes_[place_ + 1]);
+    if (high && low) {
       place_ += 2;
-      return ByteToken(RtfToken::Kind::Hex, static_cast<unsigned char>(high * 16 + low));
+      return ByteToken(RtfToken::Kind::Hex, static_cast<unsigned char>(*high * 16 + *low));
     }
   }
   return ByteToken(RtfToken::Kind::Symbol, static_cast<unsigned char>(byte));
@@ -89,7 +90,7 @@ RtfToken RtfTokens::ControlWord() {
   }
   if (token.Word == "bin") {
     const auto length = static_cast<std::size_t>(std::max(token.Parameter.value_or(0), 0));
-    place_ += std::min(length, bytes_.size() - place_);
+    place_ = std::min(place_ + length, bytes_.size());
   }
   return token;
 }

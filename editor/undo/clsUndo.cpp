@@ -204,7 +204,7 @@ bool clsUndo::TakeKey(Integer keyCode, Integer shift) {
   if (shift == controlKey) {
     return TakeControlKey(keyCode);
   }
-  if (shift > controlKey) {
+  if (shift > shiftKey) {
     return shift != altKey;
   }
   if (keyCode == keyBack) {
