@@ -69,6 +69,15 @@ TEST(DocumentWindowAtLoad, TakesWhatIsStored) {
       (CharFormat{.FontName = "Arial", .FontSize = 12.5, .Italic = true, .TextColor = colorRed}));
 }
 
+TEST(DocumentWindowAtLoad, HasNoPlaceBefore) {
+  const OtchetDesk desk;
+  EXPECT_EQ(desk.form.Left, 0);
+  EXPECT_EQ(desk.form.Top, 0);
+  EXPECT_EQ(desk.form.Width, 0);
+  EXPECT_EQ(desk.form.Height, 0);
+  EXPECT_FALSE(desk.form.Maximized);
+}
+
 TEST(DocumentWindowAtLoad, ReadsBackWhatItWroteWithACommaForAPoint) {
   OtchetDesk desk("", CommaLocale());
   desk.form.Form_Load();

@@ -52,6 +52,7 @@ TEST(RtfCharacters, BytesWithoutAFontFollowTheDocumentsCodePage) {
   EXPECT_EQ(BodyText("\\ansi\\ansicpg1251 \\'d4\\'E5"), u"Фе");
   EXPECT_EQ(BodyText("\\ansi\\ansicpg1250 \\'b3"), u"ł");
   EXPECT_EQ(BodyText("\\ansi \\'e4"), u"ä");
+  EXPECT_EQ(BodyText("\\'e4"), u"ä");
   EXPECT_EQ(BodyText("\\pc \\'84"), u"ä");
   EXPECT_EQ(BodyText("\\pca \\'d1"), u"Ð");
 }
@@ -79,6 +80,10 @@ TEST(RtfCharacters, AnEscapeWithoutTwoDigitsIsNoCharacter) {
   EXPECT_EQ(BodyText("a\\'4gb\\'"), u"a4gb");
 }
 
+TEST(RtfCharacters, AnEscapeMayBeTheLastThingThereIs) {
+  EXPECT_EQ(TextOf(ReadRtf("{\\rtf1 a\\'62")), u"ab");
+}
+
 TEST(RtfCharacters, UnicodeEscapesReplaceTheirFallback) {
   EXPECT_EQ(BodyText("\\u1060?\\u8805\\'3db"), u"Ф≥b");
 }
@@ -91,6 +96,10 @@ TEST(RtfCharacters, NegativeNumbersAreTheUpperHalfOfThePlane) {
 TEST(RtfCharacters, TwoEscapesMakeACharacterBeyondThePlane) {
   EXPECT_EQ(BodyText("\\u-10179?\\u-8704?"), u"\U0001F600");
   EXPECT_EQ(BodyText("\\u128512?"), u"\U0001F600");
+}
+
+TEST(RtfCharacters, TheLastCharacterOfAllIsOne) {
+  EXPECT_EQ(BodyText("\\u1114111?"), u"\U0010FFFF");
 }
 
 TEST(RtfCharacters, ANumberThatIsNoCharacterIsReplaced) {

@@ -139,6 +139,7 @@ TEST(RtfFormats, ATableOfFontsNeedsNoGroups) {
 
 TEST(RtfFormats, AFontNameNeedsNoSemicolonAtTheEndOfItsGroup) {
   EXPECT_EQ(BodyFormat("{\\fonttbl{\\f0 One}{\\f1 Two}}\\f0 x").FontName, "One");
+  EXPECT_EQ(BodyFormat("{\\fonttbl{\\f0 One}{\\f1 Two}}\\f1 x").FontName, "Two");
 }
 
 TEST(RtfFormats, WhatStandsBesideAFontsNameIsNotPartOfIt) {
@@ -242,6 +243,11 @@ TEST(RtfParagraphs, ABackslashBeforeALineEndIsAMark) {
 
 TEST(RtfParagraphs, LineEndCharactersNeverStandInText) {
   EXPECT_EQ(BodyText("a\\'0d\\'0ab\\u10?c\\u13?d"), u"a\nb\nc\nd");
+}
+
+TEST(RtfParagraphs, ALineFeedBehindAMarkIsALineEndOfItsOwn) {
+  EXPECT_EQ(BodyText("a\\par\\'0ab"), u"a\n\nb");
+  EXPECT_EQ(BodyText("a\\'0d\\par\\'0ab"), u"a\n\n\nb");
 }
 
 TEST(RtfParagraphs, CellsAreTabsAndRowsAreLines) {

@@ -44,6 +44,10 @@ TEST(RtfGroups, AStarCountsForTheNextWordOnly) {
   EXPECT_EQ(BodyText("a{\\*b\\unknown c}{\\*{\\unknown d}e}\\*\\unknown f"), u"abcdef");
 }
 
+TEST(RtfGroups, AWordBehindAGroupIsOneOfTheGroupAroundIt) {
+  EXPECT_EQ(BodyText("a{{b}\\unknown c}d"), u"abcd");
+}
+
 TEST(RtfGroups, GroupsWithoutTextOfTheDocumentArePassedOver) {
   for (const std::string word : {"stylesheet", "info", "pict", "object", "header", "headerl",
                                  "footer", "footerr", "footnote", "annotation", "*\\generator",

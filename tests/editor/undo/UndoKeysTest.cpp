@@ -169,6 +169,13 @@ TEST_F(Undo, PastesNothingFromAnEmptyClipboard) {
   EXPECT_EQ(undo.UndoCount(), 0);
 }
 
+TEST_F(Undo, RecordsNoPasteThatChangesNothing) {
+  undo.SetRichEditing(true);
+  clipboard.SetRichText("{\\rtf1}", "");
+  EXPECT_EQ(Press('V', 2), 0);
+  EXPECT_EQ(undo.UndoCount(), 0);
+}
+
 TEST_F(Undo, PastesWithInsertAndShiftToo) {
   clipboard.SetText("x");
   EXPECT_EQ(Press(keyInsert, 3), 0);
