@@ -161,6 +161,7 @@ TEST(Documents, OpenNoFilesAndSaySo) {
     EXPECT_EQ(error.Number(), 438);
     EXPECT_NE(error.Description().find("opens no files"), std::string::npos);
   }
+  EXPECT_EQ(RaisedBy([&] { CallMember(documents, "Open", {std::string("a.dwg")}); }), 438);
   EXPECT_EQ(RaisedBy([&] { CallMember(documents, "Open"); }), 5);
   EXPECT_EQ(RaisedBy([&] { CallMember(documents, "Open", {Long{1}}); }), 13);
   EXPECT_TRUE(desk.Host.Documents().empty());
@@ -257,6 +258,56 @@ TEST(BuiltInHost, AnswersToNamesInAnyCaseAndToNoOtherNames) {
   EXPECT_EQ(RaisedBy([&] { Required(desk.Application).Enumerate(); }), 438);
   EXPECT_EQ(RaisedBy([&] { Member(desk.Application, "Visibl"); }), 438);
   EXPECT_EQ(RaisedBy([&] { Member(desk.Application, ""); }), 438);
+}
+
+TEST(BuiltInHost, RefusesTooFewAndTooManyArguments) {
+  DocumentDesk desk;
+  const AutomationHandle layers = ObjectMember(desk.Document, "Layers");
+  const AutomationHandle sets = ObjectMember(desk.Document, "SelectionSets");
+  const AutomationHandle set = CallForObject(sets, "Add", {std::string("S")});
+  const AutomationHandle dictionaries = ObjectMember(desk.Document, "Dictionaries");
+  const AutomationHandle dictionary = CallForObject(dictionaries, "Add", {std::string("D")});
+  const AutomationHandle record = CallForObject(dictionary, "AddXRecord", {std::string("R")});
+  const AutomationHandle documents = ObjectMember(desk.Application, "Documents");
+  struct Bounds {
+    AutomationHandle Object;
+    std::string Member;
+    std::size_t Fewest;
+    std::size_t Most;
+  };
+  std::vector<Bounds> members{{desk.Application, "ZoomExtents", 0, 0},
+                              {documents, "Add", 0, 0},
+                              {documents, "Open", 1, 2},
+                              {desk.Document, "SetVariable", 2, 2},
+                              {desk.Document, "Close", 0, 1},
+                              {desk.Space, "AddLine", 2, 2},
+                              {desk.Space, "AddText", 3, 3},
+                              {desk.Space, "AddDimRotated", 4, 4},
+                              {layers, "Add", 1, 1},
+                              {sets, "Add", 1, 1},
+                              {set, "AddItems", 1, 1},
+                              {set, "SelectOnScreen", 0, 0},
+                              {set, "Delete", 0, 0},
+                              {dictionaries, "Item", 1, 1},
+                              {dictionaries, "Add", 1, 1},
+                              {dictionary, "GetObject", 1, 1},
+                              {dictionary, "AddXRecord", 1, 1},
+                              {record, "GetXRecordData", 2, 2},
+                              {record, "SetXRecordData", 2, 2}};
+  for (const AutomationHandle& entity : {desk.AddLine(), desk.AddText(), desk.AddDimension()}) {
+    members.push_back({entity, "SetXData", 2, 2});
+    members.push_back({entity, "GetXData", 3, 3});
+  }
+  for (const Bounds& bounds : members) {
+    const auto raised = [&bounds](std::size_t count) {
+      const std::vector<AutomationValue> arguments(count);
+      return RaisedBy([&] { CallMember(bounds.Object, bounds.Member, arguments); });
+    };
+    if (bounds.Fewest > 0) {
+      EXPECT_EQ(raised(bounds.Fewest - 1), 5) << bounds.Member;
+    }
+    EXPECT_EQ(raised(bounds.Most + 1), 5) << bounds.Member;
+  }
 }
 
 TEST(BuiltInHost, TellsOfEveryChangeOfADrawing) {

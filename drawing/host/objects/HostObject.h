@@ -38,8 +38,7 @@ template <class Member, std::size_t Count1, std::size_t Count2>
 constexpr std::array<Member, Count1 + Count2> Joined(const std::array<Member, Count1>& table1,
                                                      const std::array<Member, Count2>& table2) {
   std::array<Member, Count1 + Count2> joined{};
-  std::copy(table1.begin(), table1.end(), joined.begin());
-  std::copy(table2.begin(), table2.end(), joined.begin() + Count1);
+  std::copy(table2.begin(), table2.end(), std::copy(table1.begin(), table1.end(), joined.begin()));
   return joined;
 }
 
