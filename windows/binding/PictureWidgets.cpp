@@ -14,6 +14,10 @@ namespace {
 constexpr int frameRadius = 4;
 constexpr int pictureMargin = 5;
 
+QRectF FrameOf(const QWidget& button) {
+  return QRectF(button.rect()).adjusted(1, 1, -1, -1);
+}
+
 }  // namespace
 
 PictureView::PictureView(QSize preferred, QWidget* parent)
@@ -45,9 +49,12 @@ void PictureView::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(WarningColor(palette()), 2));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), frameRadius, frameRadius);
   }
-  drawing_.Draw(painter, *this, [this](QPainter& layer) {
-    DrawPicture(layer, QRectF(rect()), file_, palette(), isEnabled());
-  });
+  drawing_.Draw(painter, *this, Drawing());
+}
+
+PaintedLayer::Painting PictureView::Drawing() const {
+  return [place = QRectF(rect()), file = file_, palette = palette(), enabled = isEnabled()](
+             QPainter& layer) { DrawPicture(layer, place, file, palette, enabled); };
 }
 
 PictureButton::PictureButton(QSize preferred, QWidget* parent)
@@ -84,32 +91,46 @@ bool PictureButton::event(QEvent* event) {
   return QAbstractButton::event(event);
 }
 
+QPen PictureButton::FramePen() const {
+  if (isChecked()) {
+    return QPen(palette().color(QPalette::Highlight), 2);
+  }
+  const bool pointedAt = underMouse() && isEnabled();
+  return QPen(palette().color(pointedAt ? QPalette::Text : QPalette::Mid), 1);
+}
+
+PaintedLayer::Painting PictureButton::Drawing() const {
+  return [frame = FrameOf(*this), pen = framed_,
+          ground = palette().color(pale_ ? QPalette::Window : QPalette::Base), file = file_,
+          palette = palette(), enabled = isEnabled() && !pale_](QPainter& layer) {
+    layer.setPen(pen);
+    layer.setBrush(ground);
+    layer.drawRoundedRect(frame, frameRadius, frameRadius);
+    DrawPicture(layer, frame.adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
+                file, palette, enabled);
+  };
+}
+
+void PictureButton::PaintAside(PaintingAside& aside) {
+  framed_ = FramePen();
+  drawing_.Begin(*this, Drawing(), aside);
+}
+
 void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
-  QColor border = palette().color(QPalette::Mid);
-  int width = 1;
-  if (isChecked()) {
-    border = palette().color(QPalette::Highlight);
-    width = 2;
-  } else if (underMouse() && isEnabled()) {
-    border = palette().color(QPalette::Text);
+  if (const QPen pen = FramePen(); pen != framed_) {
+    framed_ = pen;
+    drawing_.Forget();
   }
-  painter.setPen(QPen(border, width));
-  painter.setBrush(palette().color(pale_ ? QPalette::Window : QPalette::Base));
-  painter.drawRoundedRect(frame, frameRadius, frameRadius);
-  drawing_.Draw(painter, *this, [&](QPainter& layer) {
-    DrawPicture(layer, frame.adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
-                file_, palette(), isEnabled() && !pale_);
-  });
+  drawing_.Draw(painter, *this, Drawing());
   if (hasFocus()) {
     // The style's own mark is too faint beside a picture.
     QPen dashes(palette().color(QPalette::Text), 2, Qt::CustomDashLine, Qt::FlatCap);
     dashes.setDashPattern({2, 2});
     painter.setPen(dashes);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(frame.adjusted(3, 3, -3, -3), frameRadius, frameRadius);
+    painter.drawRoundedRect(FrameOf(*this).adjusted(3, 3, -3, -3), frameRadius, frameRadius);
   }
 }
 

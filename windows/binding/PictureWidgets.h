@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPen>
 #include <QWidget>
 
 #include "platform/forms/Controls.h"
@@ -15,12 +16,16 @@ class PictureView : public QWidget {
   void SetFile(const QString& file);
   /// A frame in the colour of what exceeds a limit.
   void SetWarning(bool warning);
+  /// Has the drawing painted before it is asked for.
+  void PaintAside(PaintingAside& aside) { drawing_.Begin(*this, Drawing(), aside); }
   QSize sizeHint() const override { return preferred_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  PaintedLayer::Painting Drawing() const;
+
   QSize preferred_;
   QString file_;
   PaintedLayer drawing_;
@@ -34,6 +39,8 @@ class PictureButton : public QAbstractButton {
   void SetFile(const QString& file);
   /// Looks as if it were not there to be pressed, though it can be.
   void SetPale(bool pale);
+  /// Has the drawing painted before it is asked for.
+  void PaintAside(PaintingAside& aside);
   QSize sizeHint() const override { return preferred_; }
 
  protected:
@@ -41,9 +48,14 @@ class PictureButton : public QAbstractButton {
   bool event(QEvent* event) override;
 
  private:
+  /// The frame tells what the button is at the moment.
+  QPen FramePen() const;
+  PaintedLayer::Painting Drawing() const;
+
   QSize preferred_;
   QString file_;
   bool pale_ = false;
+  QPen framed_;
   PaintedLayer drawing_;
 };
 

@@ -98,8 +98,7 @@ std::vector<QRectF> LiveStrip::Places() const {
 void LiveStrip::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawLine(QPointF(0, 0.5), QPointF(width(), 0.5));
+  painter.fillRect(0, 0, width(), 1, palette().color(QPalette::Mid));
   if (result_.HasRefused()) {
     const QRectF place = QRectF(rect()).adjusted(sideGap, 0, -sideGap, 0);
     painter.setPen(AsideColor(palette()));

@@ -6,8 +6,12 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "analysis/Scheme.h"
 #include "windows/binding/Binding.h"
@@ -61,13 +65,27 @@ QLabel* AddFigure(QGridLayout* rows, int row, int column) {
   return label;
 }
 
-/// For a box in a column that is wider than its entries: none of them is measured.
-void TakeWidthOfColumn(QComboBox& box, int leastLetters) {
-  box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  box.setMinimumContentsLength(leastLetters);
-  // Else it would be as high as an icon, which no entry has.
-  box.setIconSize({1, 1});
-}
+/// A box in a column that is wider than its entries: none of them is measured. The toolkit can be
+/// told so, but then makes the list that is to open, which nobody has asked for.
+class ColumnBox : public QComboBox {
+ public:
+  explicit ColumnBox(int leastLetters) : leastLetters_(leastLetters) {}
+
+  QSize sizeHint() const override { return minimumSizeHint(); }
+  QSize minimumSizeHint() const override {
+    constexpr int gap = 5;
+    constexpr int leastHeight = 14;
+    const QFontMetrics metrics = fontMetrics();
+    const QSize contents(leastLetters_ * metrics.horizontalAdvance(QLatin1Char('X')) + gap,
+                         std::max(metrics.height(), leastHeight) + 2);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
+  }
+
+ private:
+  int leastLetters_;
+};
 
 /// Takes groups closer together, so that all of them have room on a small screen.
 void Tighten(const QBoxLayout& column) {
@@ -140,6 +158,23 @@ SchemeTab::~SchemeTab() {
   form_.GeometryChanged = nullptr;
 }
 
+void SchemeTab::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (!std::exchange(begun_, true)) {
+    // Behind the layouts, before the first paint, in which much else comes first.
+    QMetaObject::invokeMethod(
+        this, [this] { PaintAside(); }, Qt::QueuedConnection);
+  }
+}
+
+void SchemeTab::PaintAside() {
+  for (PictureButton* scheme : schemes_) {
+    scheme->PaintAside(aside_);
+  }
+  chosen_->PaintAside(aside_);
+  truss_->PaintAside(aside_);
+}
+
 void SchemeTab::RefreshGeometry() {
   truss_->Refresh();
   marks_->Refresh();
@@ -156,6 +191,7 @@ void SchemeTab::AddSchemes(QBoxLayout* column) {
     SetHint(button, SchemeHint(scheme));
     button->SetPale(FindScheme(scheme)->Reserved);
     buttons.push_back(button);
+    schemes_.push_back(button);
     Bind(form_.imgTreloType[scheme], button, [this, scheme] { form_.imgTreloType_Click(scheme); });
     const int place = static_cast<int>(scheme) - 1;
     grid->addWidget(button, place / schemesInRow, place % schemesInRow);
@@ -163,12 +199,12 @@ void SchemeTab::AddSchemes(QBoxLayout* column) {
   // Another scheme may lose loads: an arrow alone does not take it.
   new OneTabStop(this, buttons, OneTabStop::Arrows::Lead);
   auto* large = AddGroup<QVBoxLayout>(column, QStringLiteral("Выбранная схема"), 2);
-  auto* view = new PictureView({640, 130});
-  view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  view->setObjectName(QStringLiteral("imgMain"));
-  view->setAccessibleName(QStringLiteral("Выбранная схема фермы"));
-  Bind(form_.imgMain, view);
-  large->addWidget(view);
+  chosen_ = new PictureView({640, 130});
+  chosen_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  chosen_->setObjectName(QStringLiteral("imgMain"));
+  chosen_->setAccessibleName(QStringLiteral("Выбранная схема фермы"));
+  Bind(form_.imgMain, chosen_);
+  large->addWidget(chosen_);
   auto* scaled = AddGroup<QVBoxLayout>(column, QStringLiteral("Ферма в масштабе"), 5);
   truss_ = new TrussSketchView(form_);
   truss_->setObjectName(QStringLiteral("TrussToScale"));
@@ -194,9 +230,8 @@ void SchemeTab::AddGeometry(QBoxLayout* column) {
   SetHint(endPanel,
           QStringLiteral("Длинна крайних опорных панелей. Если не задано, то полагаются все панели "
                          "равной длинны !"));
-  auto* panels = new QComboBox;
+  auto* panels = new ColumnBox(2);
   panels->setObjectName(QStringLiteral("cmbPanelNum"));
-  TakeWidthOfColumn(*panels, 2);
   Bind(form_.cmbPanelNum, panels);
   rows->addRow(LabelFor(panels, QStringLiteral("&Кол-во панелей фермы")), panels);
   marks_->Add(GeometryInput::Span, span);
@@ -264,9 +299,8 @@ void SchemeTab::AddDeflection(QBoxLayout* column) {
   Bind(form_.chkProgib, wanted);
   rows->addWidget(wanted, 0, 0);
 
-  auto* limit = new QComboBox;
+  auto* limit = new ColumnBox(7);
   limit->setObjectName(QStringLiteral("cmbLenlim"));
-  TakeWidthOfColumn(*limit, 7);
   limit->setAccessibleName(QStringLiteral("Предельный прогиб в долях пролета"));
   Bind(form_.cmbLenlim, limit);
   rows->addWidget(limit, 0, 1, 1, 2);

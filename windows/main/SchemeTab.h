@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
+#include "windows/binding/PaintingAside.h"
 #include "workstation/main/frmMain.h"
 
 class QBoxLayout;
@@ -10,6 +12,8 @@ class QGridLayout;
 namespace trelonit {
 
 class GeometryMarks;
+class PictureButton;
+class PictureView;
 class TrussSketchView;
 
 /// Tab "Параметры фермы": scheme, geometry, bracing and the deflection limit.
@@ -19,6 +23,9 @@ class SchemeTab : public QWidget {
   SchemeTab(const SchemeTab&) = delete;
   SchemeTab& operator=(const SchemeTab&) = delete;
   ~SchemeTab() override;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
 
  private:
   void AddSchemes(QBoxLayout* column);
@@ -37,12 +44,19 @@ class SchemeTab : public QWidget {
   void AddLengths(QGridLayout* rows, const Bracing& bracing, Long number, QWidget* option);
   void AddDeflection(QBoxLayout* column);
 
+  /// Has the pictures painted while the window comes up.
+  void PaintAside();
+
   /// The truss to scale and the marks at the boxes, as the boxes stand.
   void RefreshGeometry();
 
   frmMain& form_;
+  std::vector<PictureButton*> schemes_;
+  PictureView* chosen_ = nullptr;
   TrussSketchView* truss_ = nullptr;
   GeometryMarks* marks_ = nullptr;
+  PaintingAside aside_;
+  bool begun_ = false;
 };
 
 }  // namespace trelonit

@@ -107,6 +107,13 @@ void TrussSketchView::Refresh() {
   update();
 }
 
+void TrussSketchView::PaintAside(PaintingAside& aside) {
+  const auto paint = [drawn = Drawn(), palette = palette()](QPainter& layer) {
+    PaintList(layer, drawn, palette);
+  };
+  layer_.Begin(*this, paint, aside);
+}
+
 void TrussSketchView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   layer_.Draw(painter, *this, [this](QPainter& layer) { PaintList(layer, Drawn(), palette()); });

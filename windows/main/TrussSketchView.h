@@ -17,6 +17,8 @@ class TrussSketchView : public QWidget {
   TrussSketch Drawn() const;
   /// What has been entered is another truss.
   void Refresh();
+  /// Has the drawing painted before it is asked for.
+  void PaintAside(PaintingAside& aside);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

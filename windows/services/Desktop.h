@@ -2,6 +2,7 @@
 
 #include <QTranslator>
 
+#include "windows/binding/PaintingAside.h"
 #include "windows/services/LayoutsAtRest.h"
 #include "windows/services/WheelGuard.h"
 
@@ -14,6 +15,7 @@ class Desktop {
   Desktop();
 
  private:
+  PaintingAside aside_;
   QTranslator buttons_;
   WheelGuard wheel_;
   LayoutsAtRest layouts_;

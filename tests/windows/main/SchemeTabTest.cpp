@@ -281,5 +281,35 @@ TEST_F(SchemeInputs, SchemesThatAreNotCalculatedLookSo) {
   EXPECT_EQ(Main.Model.Inputs.TreloType, 5);
 }
 
+TEST_F(SchemeInputs, ThePicturesOfTheFirstPaintAreThoseOfALaterOne) {
+  const auto all = [&] {
+    std::vector<QImage> pictures;
+    for (int scheme = 1; scheme <= 10; ++scheme) {
+      pictures.push_back(Button("imgTreloType" + std::to_string(scheme)).grab().toImage());
+    }
+    pictures.push_back(Find<QWidget>(Window, "imgMain").grab().toImage());
+    pictures.push_back(Find<QWidget>(Window, "TrussToScale").grab().toImage());
+    return pictures;
+  };
+  QApplication::processEvents();
+  const std::vector<QImage> first = all();
+  // Colours that come and go have everything painted again.
+  Window.setPalette(QPalette(QColor(49, 54, 59), QColor(42, 46, 50)));
+  EXPECT_TRUE(all() != first);
+  Window.setPalette({});
+  EXPECT_TRUE(all() == first);
+}
+
+TEST_F(SchemeInputs, ListsInTheColumnAreAsHighAndAtLeastAsWideAsTheToolkitsOwn) {
+  for (const auto& [name, letters] : {std::pair("cmbPanelNum", 2), std::pair("cmbLenlim", 7)}) {
+    QComboBox plain;
+    plain.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    plain.setMinimumContentsLength(letters);
+    plain.setIconSize({1, 1});
+    EXPECT_EQ(Combo(name).sizeHint(), plain.sizeHint()) << name;
+    EXPECT_EQ(Combo(name).minimumSizeHint(), plain.minimumSizeHint()) << name;
+  }
+}
+
 }  // namespace
 }  // namespace trelonit::test
