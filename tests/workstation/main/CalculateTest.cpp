@@ -38,6 +38,15 @@ TEST(CheckNumbersOfTheForm, ReadBothSeparatorsInEveryLocale) {
   }
 }
 
+void ExpectZeros(const CheckNumbers& numbers) {
+  EXPECT_EQ(numbers.Ry, 0);
+  EXPECT_EQ(numbers.E, 0);
+  EXPECT_EQ(numbers.Yc, 0);
+  EXPECT_EQ(numbers.Gn, 0);
+  EXPECT_EQ(numbers.Density, 0);
+  EXPECT_EQ(numbers.LimitUser, 0);
+}
+
 TEST(CheckNumbersOfTheForm, AreZeroForTextThatIsNoNumber) {
   StartedDesk desk;
   desk.Main.txtRy.SetText("steel");
@@ -46,26 +55,14 @@ TEST(CheckNumbersOfTheForm, AreZeroForTextThatIsNoNumber) {
   desk.Main.txtNadegnost.SetText("one");
   desk.Main.Steel.DensitSteel = "t/m3";
   desk.Main.Steel.LimitFlex = "none";
-  const CheckNumbers numbers = CheckNumbersOf(desk.Main.ReadInputs());
-  EXPECT_EQ(numbers.Ry, 0);
-  EXPECT_EQ(numbers.E, 0);
-  EXPECT_EQ(numbers.Yc, 0);
-  EXPECT_EQ(numbers.Gn, 0);
-  EXPECT_EQ(numbers.Density, 0);
-  EXPECT_EQ(numbers.LimitUser, 0);
+  ExpectZeros(CheckNumbersOf(desk.Main.ReadInputs()));
   EXPECT_EQ(desk.TakeMessages(), Messages());
 }
 
 TEST(CheckNumbersOfTheForm, AreNotReadBeforeTheFirstCalculation) {
   StartedDesk desk;
-  const CheckNumbers& numbers = desk.Main.Model.Last.Numbers;
-  EXPECT_EQ(numbers.Ry, 0);
-  EXPECT_EQ(numbers.E, 0);
-  EXPECT_EQ(numbers.Yc, 0);
-  EXPECT_EQ(numbers.Gn, 0);
-  EXPECT_EQ(numbers.Density, 0);
-  EXPECT_EQ(numbers.LimitUser, 0);
-  EXPECT_FALSE(numbers.Dynamic);
+  ExpectZeros(desk.Main.Model.Last.Numbers);
+  EXPECT_FALSE(desk.Main.Model.Last.Numbers.Dynamic);
 }
 
 TEST(CheckNumbersOfTheForm, TakeTheBoxOfDynamicLoads) {
