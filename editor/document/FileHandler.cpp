@@ -59,7 +59,7 @@ bool TellsKind(const std::string& extension) {
 std::string FromUtf16(std::string_view bytes, std::size_t high) {
   std::u16string units(bytes.size() / 2, u'\0');
   for (std::size_t unit = 0; unit < units.size(); ++unit) {
-    const std::string_view pair = bytes.substr(2 * unit, 2);
+    const std::string_view pair = bytes.substr(2 * unit);
     units[unit] = static_cast<char16_t>(static_cast<unsigned char>(pair[high]) << 8 |
                                         static_cast<unsigned char>(pair[1 - high]));
   }

@@ -155,7 +155,8 @@ void clsUndo::SelectAbove() {
 }
 
 void clsUndo::SelectBelow() {
-  SelectKeepingView(Box().SelStart(), Box().TextLength() - Box().SelStart());
+  // No selection goes beyond the text.
+  SelectKeepingView(Box().SelStart(), Box().TextLength());
 }
 
 void clsUndo::SelectKeepingView(Long start, Long length) {

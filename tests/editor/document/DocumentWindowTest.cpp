@@ -250,6 +250,9 @@ TEST_F(DocumentWindow, OffersCutCopyAndDeleteForASelectionAlone) {
   box.SetSelStart(1);
   form.RTF_SelChange();
   EXPECT_EQ(offered(), (std::vector<bool>{false, false, false}));
+  box.SetSelLength(1);
+  form.RTF_SelChange();
+  EXPECT_EQ(offered(), (std::vector<bool>{true, true, true}));
 }
 
 TEST_F(DocumentWindow, ShowsWhereTheCaretIs) {

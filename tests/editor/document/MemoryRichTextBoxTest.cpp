@@ -94,6 +94,12 @@ TEST(MemoryRichTextBox, TypesInAnEmptyLineAsTheLineInFrontEnds) {
   // Another empty line in front tells no look: the box's own counts.
   box.SetSelStart(10);
   EXPECT_FALSE(box.SelFormat().Bold);
+  // The first line is one in front, too.
+  box.SetText("ab\r\n");
+  box.Select(1, 1);
+  box.SetSelFormat(BoldFormat());
+  box.SetSelStart(4);
+  EXPECT_TRUE(box.SelFormat().Bold);
 }
 
 TEST(MemoryRichTextBox, FindsAWholeWordRightBehindAPlaceWhereItIsNone) {

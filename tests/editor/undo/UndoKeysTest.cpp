@@ -174,6 +174,12 @@ TEST_F(Undo, RecordsNoPasteThatChangesNothing) {
   clipboard.SetRichText("{\\rtf1}", "");
   EXPECT_EQ(Press('V', 2), 0);
   EXPECT_EQ(undo.UndoCount(), 0);
+  // Over a character the same takes it out.
+  Hold("a");
+  box.Select(0, 1);
+  Press('V', 2);
+  EXPECT_EQ(box.Text(), "");
+  EXPECT_EQ(undo.UndoCount(), 1);
 }
 
 TEST_F(Undo, PastesWithInsertAndShiftToo) {
