@@ -200,6 +200,7 @@ TEST(Variables, RefuseUnknownNamesAndWrongValues) {
   EXPECT_EQ(raised("DIMSCALE", std::string("20")), 13);
   EXPECT_EQ(raised("DIMDEC", Long{9}), 5);
   EXPECT_EQ(raised("DIMTIH", Long{2}), 5);
+  EXPECT_EQ(raised("DIMTAD", Long{5}), 5);
   EXPECT_EQ(raised("DIMTXT", Long{0}), 5);
   EXPECT_EQ(raised("DIMTXSTY", std::string("Absent")), keyNotFound);
   EXPECT_EQ(raised("DIMTXSTY", Long{1}), 13);

@@ -137,6 +137,12 @@ TEST(Texts, RefuseAlignmentsBetweenTwoPointsAndUnknownOnes) {
   EXPECT_EQ(RaisedBy([&] { SetMember(text, "Rotation", infinity); }), 5);
 }
 
+TEST(Texts, MayBeLowerThanOne) {
+  DocumentDesk desk;
+  CallForObject(desk.Space, "AddText", {std::string("x"), At(0, 0), 0.5});
+  EXPECT_EQ(std::get<DrawingText>(desk.Sheet->ModelSpace.at(0)).Height, 0.5);
+}
+
 TEST(Texts, TakeEveryOtherAlignment) {
   DocumentDesk desk;
   const AutomationHandle text = desk.AddText();

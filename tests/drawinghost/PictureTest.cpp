@@ -369,10 +369,12 @@ TEST(Layers, TellWhatIsShownPlottedAndHowThick) {
   Drawing drawing;
   drawing.Layers = {{.Name = "0"},
                     {.Name = "Main", .Lineweight = 50},
+                    {.Name = "Thin", .Lineweight = 0},
                     {.Name = "Off", .LayerOn = false},
                     {.Name = "Frozen", .Freeze = true},
                     {.Name = "Screen", .Plottable = false}};
   EXPECT_EQ(StrokeWidth(drawing, "main"), 0.5);
+  EXPECT_EQ(StrokeWidth(drawing, "thin"), 0);
   EXPECT_EQ(StrokeWidth(drawing, "0"), 0.25);
   EXPECT_EQ(StrokeWidth(drawing, "absent"), 0.25);
   for (const char* hidden : {"Off", "Frozen"}) {
