@@ -392,6 +392,8 @@ TEST(Names, AreComparedWithoutCase) {
   EXPECT_FALSE(SameName("Оси", "Осн"));
   EXPECT_FALSE(SameName("Main", "Main1"));
   EXPECT_EQ(FoldedName("абвгдеёжзийклмнопрстуфхцчшщъыьэюя"), "АБВГДЕЁЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ");
+  // Capitals stay, and so do letters that are not Russian.
+  EXPECT_EQ(FoldedName("Бѐ"), "Бѐ");
   // A cut character is left as it is.
   EXPECT_EQ(FoldedName("a\xD0"), "A\xD0");
 }
