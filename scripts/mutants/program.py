@@ -128,7 +128,8 @@ class Program:
                 if word == "-isystem":
                     arguments += words[place:place + 2]
             reader.read(str(PLAIN / name), arguments)
-            print(f"\r{name:<70}", end="", file=sys.stderr)
+            if sys.stderr.isatty():
+                print(f"\r{name:<70}", end="", file=sys.stderr)
         reader.settle()
         known = {"key": key, "sites": reader.sites,
                  "constants": [[*place, constant.keyword, constant.of_class, constant.needed,
