@@ -1,5 +1,6 @@
 #include "platform/text/CodePage1251.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/text/Text.h"
@@ -27,6 +28,7 @@ consteval std::array<char16_t, 128> MakeUpperHalf() {
 }
 
 constexpr std::array<char16_t, 128> upperHalf = MakeUpperHalf();
+constexpr auto alphabet = upperHalf.begin() + 0x40;
 
 }  // namespace
 
@@ -41,12 +43,9 @@ unsigned char ToCodePage1251(char32_t character) {
   if (character >= 0x0410 && character <= 0x044F) {
     return static_cast<unsigned char>(character - 0x0410 + 0xC0);
   }
-  for (std::size_t place = 0; place < 0x40; ++place) {
-    if (upperHalf[place] == character) {
-      return static_cast<unsigned char>(place + 0x80);
-    }
-  }
-  return '?';
+  const auto found = std::find(upperHalf.begin(), alphabet, character);
+  const auto place = static_cast<unsigned>(found - upperHalf.begin());
+  return found == alphabet ? '?' : static_cast<unsigned char>(0x80U | place);
 }
 
 std::string DecodeCodePage1251(std::string_view bytes) {

@@ -36,28 +36,26 @@ DecimalDigits ToDigits(double value) {
   decimal.Digits.reserve(significantDigits + 2);
   decimal.Digits.push_back(text[0]);
   decimal.Digits.append(text.substr(2, mark - 2));
-  int exponent = 0;
   const char* first = text.data() + mark + 1;
   if (*first == '+') {
     ++first;
   }
-  std::from_chars(first, text.data() + text.size(), exponent);
-  decimal.Exponent = exponent + 1;
+  std::from_chars(first, text.data() + text.size(), decimal.Exponent);
+  ++decimal.Exponent;
   return decimal;
 }
 
 /// Cuts to this many decimals, half away from zero. Leaves no digits for a value that rounds to 0.
 void RoundDigits(DecimalDigits& decimal, int decimals) {
   const int kept = decimal.Exponent + decimals;
-  if (kept >= static_cast<int>(decimal.Digits.size())) {
-    return;
-  }
   if (kept < 0) {
     decimal.Digits.clear();
     return;
   }
-  const bool up = decimal.Digits[static_cast<std::size_t>(kept)] >= '5';
-  decimal.Digits.resize(static_cast<std::size_t>(kept));
+  const std::size_t size = std::min(static_cast<std::size_t>(kept), decimal.Digits.size());
+  // The end of the text is below every digit.
+  const bool up = decimal.Digits[size] >= '5';
+  decimal.Digits.resize(size);
   if (up) {
     std::size_t place = decimal.Digits.size();
     while (place > 0 && decimal.Digits[place - 1] == '9') {

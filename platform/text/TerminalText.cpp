@@ -8,7 +8,8 @@ namespace {
 
 constexpr char32_t firstPrintable = 0x20;
 constexpr char32_t erasure = 0x7F;
-constexpr char32_t lastControl = 0x9F;
+constexpr char32_t firstOfEightBits = 0x80;
+constexpr char32_t lastOfEightBits = 0x9F;
 constexpr char32_t symbolOfNull = 0x2400;
 constexpr char32_t symbolOfErasure = 0x2421;
 
@@ -24,7 +25,7 @@ std::string TerminalText(std::string_view text) {
       AppendUtf8(shown, symbolOfNull + character);
     } else if (character == erasure) {
       AppendUtf8(shown, symbolOfErasure);
-    } else if (character > erasure && character <= lastControl) {
+    } else if (character >= firstOfEightBits && character <= lastOfEightBits) {
       shown += "\\x";
       shown += digits[character >> 4U];
       shown += digits[character & 0xFU];

@@ -74,7 +74,7 @@ struct FusedByParts {
     auto bits = std::bit_cast<std::uint64_t>(sum.Nearest);
     if (sum.Rest != 0 && bits % 2 == 0) {
       // Away from zero if what is left has the sign of the sum.
-      (sum.Rest > 0) == (sum.Nearest > 0) ? ++bits : --bits;
+      std::signbit(sum.Rest) == std::signbit(sum.Nearest) ? ++bits : --bits;
     }
     return std::bit_cast<double>(bits);
   }

@@ -20,6 +20,17 @@ TEST(MessageStyle, HasTheValuesOfThePlatform) {
   EXPECT_EQ(static_cast<int>(MessageStyle::Information), 64);
 }
 
+TEST(Message, IsAnotherOneWhereTitleTextOrIconIs) {
+  const Message message{"title", "text", MessageStyle::Critical};
+  EXPECT_EQ(message, (Message{"title", "text", MessageStyle::Critical}));
+  EXPECT_NE(message, (Message{"other", "text", MessageStyle::Critical}));
+  EXPECT_NE(message, (Message{"title", "other", MessageStyle::Critical}));
+  EXPECT_NE(message, (Message{"title", "text", MessageStyle::Exclamation}));
+  EXPECT_NE(message, (Message{"other", "other", MessageStyle::Critical}));
+  // The user does not see why it is shown.
+  EXPECT_EQ(message, (Message{"title", "text", MessageStyle::Critical, true}));
+}
+
 TEST(ErrorMessage, TellsNumberAndDescriptionWithAStopIcon) {
   const Message message = ErrorMessage("Form_Load", 53, "File not found");
   EXPECT_EQ(message.Title, "Form_Load");

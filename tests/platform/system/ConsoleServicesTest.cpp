@@ -37,6 +37,16 @@ TEST(ConsoleMessages, WritesTheTextAloneWithoutATitle) {
   EXPECT_EQ(stream.str(), "text\n");
 }
 
+TEST(ConsoleMessages, ShowsControlCharactersOnATerminalAndKeepsThemInAFile) {
+  const Message message{"", "a\x1B[2J", MessageStyle::Plain};
+  std::ostringstream file;
+  ConsoleMessages(file).Show(message);
+  EXPECT_EQ(file.str(), "a\x1B[2J\n");
+  std::ostringstream terminal;
+  ConsoleMessages(terminal, MessageAnswer::No, true).Show(message);
+  EXPECT_EQ(terminal.str(), "a\u241B[2J\n");
+}
+
 TEST(ConsoleMessages, AnswersQuestionsWithNo) {
   std::ostringstream stream;
   ConsoleMessages messages(stream);

@@ -57,6 +57,7 @@ TEST(TextToNumber, AcceptsNoBreakBlanksBetweenDigits) {
     EXPECT_EQ(TextToNumber("-1\u202F234", locale), -1234.0);
   }
   EXPECT_EQ(TextToNumber("1\u00A0234,5", CommaLocale()), 1234.5);
+  EXPECT_EQ(TextToNumber("1\u00A02\u00A03", CommaLocale()), 123.0);
 }
 
 TEST(TextToNumber, RefusesNoBreakBlanksElsewhere) {

@@ -168,6 +168,8 @@ TEST(FormatShown, FollowsTheGroupSize) {
   EXPECT_EQ(FormatShown(123456789, 0, locale), "1,2345,6789");
   locale.GroupSize = 0;
   EXPECT_EQ(FormatShown(123456789, 0, locale), "123456789");
+  // Thousands unless the locale says otherwise.
+  EXPECT_EQ(FormatShown(123456789, 0, {.GroupSeparator = "'"}), "123'456'789");
 }
 
 TEST(FormatShown, TakesNoGroupsWithoutASeparator) {
@@ -223,6 +225,8 @@ TEST(NumberLocaleOf, TakesTheSeparatorsAndTheSizeOfTheLastGroup) {
   EXPECT_EQ(locale.DecimalSeparator, ",");
   EXPECT_EQ(locale.GroupSeparator, "\u202F");
   EXPECT_EQ(locale.GroupSize, 3);
+  EXPECT_EQ(LocaleWith(L' ', "\1").GroupSeparator, " ");
+  EXPECT_EQ(LocaleWith(L' ', "\1").GroupSize, 1);
 }
 
 TEST(NumberLocaleOf, MakesNoGroupsWhereTheLocaleHasNone) {

@@ -45,7 +45,8 @@ TEST(PortableSine, IsTheNearestDouble) {
         {3.25, -0x1.bb2ad2464a48cp-4},      {4, -0x1.837b9dddc1eaep-1},
         {5, -0x1.eaf81f5e09933p-1},         {6.25, -0x1.0fcddc3f512bcp-5},
         {-0.75, -0x1.5cffc16bf8f0dp-1},     {-2.75, -0x1.86d2239c183fbp-2},
-        {100, -0x1.03425b78c4db8p-1},       {12345.678, -0x1.687d5890974a5p-1}}) {
+        {100, -0x1.03425b78c4db8p-1},       {12345.678, -0x1.687d5890974a5p-1},
+        {0x1.b6p-1, 0x1.827f6d2325578p-1}}) {
     EXPECT_EQ(portable::Sine(angle), sine) << angle;
   }
 }
@@ -62,7 +63,7 @@ TEST(PortableCosine, IsTheNearestDouble) {
         {4, -0x1.4eaa606db24c1p-1},        {5, 0x1.22785706b4ad9p-2},
         {6.25, 0x1.ffb7d58a8f975p-1},      {-0.75, 0x1.769fec655211fp-1},
         {-2.75, -0x1.d93e294faed14p-1},    {100, 0x1.b981dbf665fdfp-1},
-        {12345.678, 0x1.6b94c3bbe24b8p-1}}) {
+        {12345.678, 0x1.6b94c3bbe24b8p-1}, {0x1.b6p-1, 0x1.4fcd8091b8f24p-1}}) {
     EXPECT_EQ(portable::Cosine(angle), cosine) << angle;
   }
 }
@@ -101,18 +102,20 @@ TEST(PortableDirection, IsTheNearestDouble) {
 }
 
 TEST(PortableHypotenuse, IsTheNearestDouble) {
-  for (const auto [a, b, length] : {Triple{3, 4, 5},
-                                    {1.25, 6, 0x1.883eac9f5314p+2},
-                                    {2.7, 3.1, 0x1.0719fbfdabb5cp+2},
-                                    {0.1, 0.2, 0x1.c9f25c5bfeddap-3},
-                                    {2.4, 2.25, 0x1.a516c07625d5ap+1},
-                                    {1.5, -3, 0x1.ad5336963eefcp+1},
-                                    {-0.35, 12, 0x1.8029cdf0137dep+3},
-                                    {1e200, 1e200, 0x1.d8f9811335b57p+664},
-                                    {1e-200, 2e-200, 0x1.b62b60ac37e38p-664},
-                                    {1, 1e-9, 1},
-                                    {leastDouble, leastDouble, leastDouble},
-                                    {3, 1e17, 1e17}}) {
+  for (const auto [a, b, length] :
+       {Triple{3, 4, 5},
+        {1.25, 6, 0x1.883eac9f5314p+2},
+        {2.7, 3.1, 0x1.0719fbfdabb5cp+2},
+        {0.1, 0.2, 0x1.c9f25c5bfeddap-3},
+        {2.4, 2.25, 0x1.a516c07625d5ap+1},
+        {1.5, -3, 0x1.ad5336963eefcp+1},
+        {-0.35, 12, 0x1.8029cdf0137dep+3},
+        {0x1.cf3d92de43496p+0, 0x1.0b73b8e8b8fd4p+0, 0x1.0b73b8e8b8fd4p+1},
+        {1e200, 1e200, 0x1.d8f9811335b57p+664},
+        {1e-200, 2e-200, 0x1.b62b60ac37e38p-664},
+        {1, 1e-9, 1},
+        {leastDouble, leastDouble, leastDouble},
+        {3, 1e17, 1e17}}) {
     EXPECT_EQ(portable::Hypotenuse(a, b), length) << a << ' ' << b;
     EXPECT_EQ(portable::Hypotenuse(b, a), length) << a << ' ' << b;
   }
@@ -188,6 +191,7 @@ TEST(PortableDirection, KnowsAllQuarters) {
   EXPECT_EQ(portable::Direction(-1, -0.0), -pi / 2);
   EXPECT_EQ(portable::Direction(infinity, 1), pi / 2);
   EXPECT_EQ(portable::Direction(-infinity, -1), -pi / 2);
+  EXPECT_EQ(portable::Direction(infinity, greatestDouble), pi / 2);
   EXPECT_EQ(portable::Direction(1, infinity), 0.0);
   EXPECT_EQ(portable::Direction(1, -infinity), pi);
   EXPECT_EQ(portable::Direction(infinity, infinity), pi / 4);
@@ -197,6 +201,19 @@ TEST(PortableDirection, KnowsAllQuarters) {
   EXPECT_EQ(portable::Direction(1e300, 1e-300), pi / 2);
   EXPECT_EQ(portable::Direction(leastDouble, leastDouble), pi / 4);
   EXPECT_EQ(portable::Direction(greatestDouble, -greatestDouble), 0x1.2d97c7f3321d2p+1);
+}
+
+TEST(PortableDirection, DependsOnNoUnit) {
+  for (const auto direction : {portable::Direction, ElementaryKernel<FusedByParts>::Direction}) {
+    for (const double unit : {leastDouble, 0x1p-1000, 0x1p-502, 0x1p-498, 0x1p498, 0x1p1018}) {
+      for (int rise = 1; rise < 30; ++rise) {
+        for (int run = -30; run < 30; ++run) {
+          EXPECT_EQ(direction(rise * unit, run * unit), direction(rise, run))
+              << rise << ' ' << run << ' ' << unit;
+        }
+      }
+    }
+  }
 }
 
 TEST(PortableFunctions, LeaveWhatIsNoNumber) {
@@ -290,6 +307,15 @@ TEST(PortableFunctions, GiveTheSameBitsOnEverySystem) {
               return portable::Direction(rise, some.OfAnySize());
             }),
             0x65fbd52f41a93fb6U);
+}
+
+TEST(PortableFunctions, AreThoseOfTheSystemForGreatAngles) {
+  Arguments some;
+  for (int i = 0; i < 1000; ++i) {
+    const double angle = some.OfAnySize() * 0x1p+80;
+    EXPECT_EQ(portable::Sine(angle), std::sin(angle)) << angle;
+    EXPECT_EQ(portable::Cosine(angle), std::cos(angle)) << angle;
+  }
 }
 
 #if defined(__GLIBC__) && defined(__x86_64__)
