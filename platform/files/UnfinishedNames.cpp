@@ -27,9 +27,10 @@ std::optional<int> ProcessOfUnfinished(std::string_view name) {
   }
   name.remove_prefix(unfinishedPrefix.size());
   int process = 0;
-  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), process);
-  const bool more = error == std::errc() && end != name.data() + name.size() && *end == '-';
-  return more && process > 0 ? std::optional(process) : std::nullopt;
+  // Without a number that fits it stays 0.
+  const char* const last = name.data() + name.size();
+  const char* const end = std::from_chars(name.data(), last, process).ptr;
+  return process > 0 && end != last && *end == '-' ? std::optional(process) : std::nullopt;
 }
 
 void RemoveUnfinished(const fs::path& folder,

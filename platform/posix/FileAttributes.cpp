@@ -18,22 +18,30 @@ namespace {
 constexpr const char* accessList = "system.posix_acl_access";
 constexpr std::string_view usersOwn = "user.";
 
-/// The names, each with its end; empty for a file system without any.
-std::string NamesOf(const std::filesystem::path& path) {
-  std::string names(XATTR_LIST_MAX, '\0');
-  const ssize_t read = ::listxattr(path.c_str(), names.data(), names.size());
-  names.resize(read > 0 ? static_cast<std::size_t>(read) : 0);
-  return names;
-}
-
-std::optional<std::string> ValueOf(const std::filesystem::path& path, const char* name) {
-  std::string value(XATTR_SIZE_MAX, '\0');
-  const ssize_t read = ::getxattr(path.c_str(), name, value.data(), value.size());
+/// What a call reads into this room; nothing where it fails.
+template <class Call>
+std::optional<std::string> ReadInto(std::size_t room, Call call) {
+  std::string bytes(room, '\0');
+  const ssize_t read = call(bytes.data(), bytes.size());
   if (read < 0) {
     return std::nullopt;
   }
-  value.resize(static_cast<std::size_t>(read));
-  return value;
+  bytes.resize(static_cast<std::size_t>(read));
+  return bytes;
+}
+
+/// The names, each with its end; empty for a file system without any.
+std::string NamesOf(const std::filesystem::path& path) {
+  const auto list = [&path](char* bytes, std::size_t room) {
+    return ::listxattr(path.c_str(), bytes, room);
+  };
+  return ReadInto(XATTR_LIST_MAX, list).value_or(std::string());
+}
+
+std::optional<std::string> ValueOf(const std::filesystem::path& path, const char* name) {
+  return ReadInto(XATTR_SIZE_MAX, [&path, name](char* bytes, std::size_t room) {
+    return ::getxattr(path.c_str(), name, bytes, room);
+  });
 }
 
 bool Give(const Descriptor& file, const char* name, const std::string& value) {

@@ -44,7 +44,7 @@ class DiskUpdate : public FileUpdate {
       }
       Flush(file_);
     };
-    const std::string before = begin < old.size() ? old.substr(begin, bytes.size()) : std::string();
+    const std::string before = old.substr(std::min(begin, old.size()), bytes.size());
     WriteInPlace(write, before, bytes, [&copy] { return copy.Keep(); });
   }
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <fcntl.h>
 #include <istream>
@@ -32,8 +33,8 @@ ssize_t ReadOnce(const Descriptor& file, char* bytes, std::size_t size) {
 /// Standard input may be a terminal or another device: whoever started the program chose it.
 bool IsStandardInput(const struct stat& status) {
   struct stat input {};
-  return ::fstat(STDIN_FILENO, &input) == 0 && S_ISCHR(input.st_mode) &&
-         input.st_rdev == status.st_rdev;
+  return ::fstat(STDIN_FILENO, &input) == 0 && input.st_rdev == status.st_rdev &&
+         S_ISCHR(input.st_mode);
 }
 
 class DiskBuffer : public std::streambuf {
@@ -70,19 +71,20 @@ class DiskBuffer : public std::streambuf {
   /// An open pipe is at its end as long as nobody writes into it: waiting might take for ever.
   void RequireWriter() {
     const ssize_t count = ReadOnce(file_, bytes_.data(), bytes_.size());
+    if (Hold(count)) {
+      return;
+    }
     if (count == 0) {
       throw NoFile("в этот канал никто не пишет");
     }
-    if (count < 0 && errno != EAGAIN) {
+    if (errno != EAGAIN) {
       throw FromErrno();
     }
-    Hold(count);
   }
+  /// Whether there is something.
   bool Hold(ssize_t count) {
-    if (count > 0) {
-      setg(bytes_.data(), bytes_.data(), bytes_.data() + count);
-    }
-    return count > 0;
+    setg(bytes_.data(), bytes_.data(), bytes_.data() + std::max<ssize_t>(count, 0));
+    return gptr() != egptr();
   }
 
   static constexpr std::size_t mostAtOnce = std::size_t{64} * 1024;

@@ -119,16 +119,7 @@ int PutBeside(const fs::path& target, const std::optional<FileStatus>& before,
   }
   WriteAt(beside.File(), 0, bytes);
   Flush(beside.File());
-  if (!beside.GetName()) {
-    // Nobody says which of the reasons is the one that a name from the start has not.
-    return EOPNOTSUPP;
-  }
-  return beside.TakePlaceOf(target) ? 0 : errno;
-}
-
-/// Of a folder that can hold no nameless file.
-bool NeedsName(int error) {
-  return error == EOPNOTSUPP || error == EISDIR || error == EINVAL || error == ENOENT;
+  return beside.GetName() && beside.TakePlaceOf(target) ? 0 : errno;
 }
 
 /// Whether the old file might take the bytes all the same.
@@ -217,7 +208,8 @@ void ReplaceOnDisk(const fs::path& target, std::string_view bytes, WhileWritten 
     return;
   }
   int error = PutBeside(whole, before, bytes, first);
-  if (first == WhileWritten::Nameless && NeedsName(error)) {
+  // Nobody says which of the reasons are those that a name from the start has not.
+  if (first == WhileWritten::Nameless && error != 0) {
     error = PutBeside(whole, before, bytes, WhileWritten::Named);
   }
   if (before && StandsInTheWay(error)) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
@@ -14,6 +15,7 @@
 #include "platform/console/ConsoleServices.h"
 #include "platform/files/Claim.h"
 #include "platform/files/FileBytes.h"
+#include "platform/posix/ContentCopy.h"
 #include "tests/platform/files/FileFolder.h"
 #include "tests/platform/system/SystemCalls.h"
 
@@ -65,6 +67,18 @@ TEST_F(FailingCalls, ThatASignalBrokeOffAreMadeAgain) {
   const WatchedCall copying(SystemCall::Pread, FailsOnce(EINTR));
   files.OpenForUpdate(In("file"))->WriteAt(0, "N");
   EXPECT_EQ(Content("file"), "New");
+}
+
+TEST_F(FailingCalls, OfBeforeAreNotTakenForOnesAtTheEndOfAFile) {
+  Put("file", "content");
+  ::alarm(20);
+  const auto stream = files.OpenForReading(In("file"));
+  errno = EINTR;
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(*stream), {}), "content");
+  const Descriptor file(::open(In("file").c_str(), O_RDONLY | O_CLOEXEC));
+  errno = EINTR;
+  EXPECT_EQ(ReadAll(file), "content");
+  ::alarm(0);
 }
 
 TEST_F(FailingCalls, AreToldWhereAFileBreaksOff) {
@@ -151,6 +165,20 @@ TEST_F(FailingCalls, MakeNoClaimWhereTheFileSystemHasNoLocks) {
   const ClaimAttempt attempt = TryClaim(In("a"));
   EXPECT_EQ(attempt.Held, nullptr);
   EXPECT_FALSE(attempt.ByAnother);
+}
+
+/// Whose calls all happen.
+class OrdinarySave : public FailingCalls {};
+
+TEST_F(OrdinarySave, WritesTheFileOnce) {
+  Put("file", "old");
+  int flushes = 0;
+  const WatchedCall watched(SystemCall::Fsync, [&flushes] {
+    ++flushes;
+    return 0;
+  });
+  EXPECT_EQ(ErrorOfReplacing("file", "new"), 0);
+  EXPECT_EQ(flushes, 1);
 }
 
 /// What its last holder takes away while it is opened anew.

@@ -1,6 +1,7 @@
 #ifdef __linux__
 
 #include <array>
+#include <cerrno>
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -8,6 +9,7 @@
 #include <sys/xattr.h>
 
 #include "tests/platform/files/FileFolder.h"
+#include "tests/platform/system/SystemCalls.h"
 
 namespace trelonit::test {
 
@@ -48,6 +50,11 @@ class FileAttributes : public FileFolder {
     const ssize_t size = ::getxattr(In(name).c_str(), attribute, value.data(), value.size());
     return size < 0 ? "none" : value.substr(0, static_cast<std::size_t>(size));
   }
+  ino_t NumberOf(const std::string& name) const {
+    struct stat status {};
+    EXPECT_EQ(::stat(In(name).c_str(), &status), 0);
+    return status.st_ino;
+  }
 };
 
 TEST_F(FileAttributes, KeepTheAccessListOfAReplacedFile) {
@@ -55,9 +62,25 @@ TEST_F(FileAttributes, KeepTheAccessListOfAReplacedFile) {
   if (!Give(In("file"), accessList, ListWithOneReader())) {
     GTEST_SKIP() << "a file system without access lists";
   }
+  const ino_t before = NumberOf("file");
   files.ReplaceFile(In("file"), "new");
   EXPECT_EQ(Content("file"), "new");
   EXPECT_EQ(Attribute("file", accessList), ListWithOneReader());
+  // By a new file, which is whole or not there.
+  EXPECT_NE(NumberOf("file"), before);
+}
+
+TEST_F(FileAttributes, KeepAnAccessListThatNoNewFileTakes) {
+  Put("file", "old", 0600);
+  if (!Give(In("file"), accessList, ListWithOneReader())) {
+    GTEST_SKIP() << "a file system without access lists";
+  }
+  const ino_t before = NumberOf("file");
+  const WatchedCall failing(SystemCall::Fsetxattr, [] { return EOPNOTSUPP; });
+  files.ReplaceFile(In("file"), "new");
+  EXPECT_EQ(Content("file"), "new");
+  EXPECT_EQ(Attribute("file", accessList), ListWithOneReader());
+  EXPECT_EQ(NumberOf("file"), before);
 }
 
 TEST_F(FileAttributes, GiveNobodyRightsThatTheFolderWouldGiveANewFile) {
@@ -77,8 +100,11 @@ TEST_F(FileAttributes, KeepWhatTheUserRemarked) {
   if (!Give(In("file"), "user.comment", "checked by hand")) {
     GTEST_SKIP() << "a file system without attributes of the user";
   }
+  // What is there says something already.
+  ASSERT_TRUE(Give(In("file"), "user.checked", ""));
   files.ReplaceFile(In("file"), "new");
   EXPECT_EQ(Attribute("file", "user.comment"), "checked by hand");
+  EXPECT_EQ(Attribute("file", "user.checked"), "");
 }
 
 }  // namespace

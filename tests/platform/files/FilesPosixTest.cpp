@@ -12,6 +12,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/files/Claim.h"
+#include "platform/files/FileBytes.h"
 #include "platform/files/Files.h"
 #include "tests/platform/files/FileFolder.h"
 
@@ -61,6 +63,18 @@ TEST_F(DiskFilesPosixTest, PutsANewFileInPlaceOfTheOldOne) {
   EXPECT_EQ(Content("file"), "new content");
   // Nothing was written into the old file: whoever still holds it sees it whole.
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(*reader), {}), "old");
+}
+
+TEST_F(DiskFilesPosixTest, ServesAProgramThatHasNoStandardInput) {
+  Put("file", "old");
+  const std::string answer = InChild([&] {
+    // The next file gets its number.
+    ::close(STDIN_FILENO);
+    files.ReplaceFile(In("file"), "new");
+    const std::string content = ReadBytes(files, In("file"));
+    return TryClaim(In("claim")).Held ? content : "no claim";
+  });
+  EXPECT_EQ(answer, "new");
 }
 
 TEST_F(DiskFilesPosixTest, KeepsThePermissionsOfTheOldFile) {

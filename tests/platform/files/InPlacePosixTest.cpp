@@ -158,6 +158,17 @@ TEST_F(FileInItsPlace, KeepsItsOwnerAndGroupWhereTheUserMayGiveThem) {
   EXPECT_EQ(Status("file").st_mode & 07777U, 0640U);
 }
 
+TEST_F(FileInItsPlace, KeepsItsOwnerWhereOnlyItsGroupIsAnother) {
+  if (::geteuid() != 0) {
+    GTEST_SKIP() << "only root is in every group";
+  }
+  Put("file", "old");
+  ASSERT_EQ(::chown(In("file").c_str(), ::geteuid(), someGroup), 0);
+  EXPECT_EQ(Replace("file", "new", [] {}), "replaced");
+  EXPECT_EQ(Status("file").st_uid, ::geteuid());
+  EXPECT_EQ(Status("file").st_gid, someGroup);
+}
+
 TEST_F(FileInItsPlace, KeepsAGroupThatTheUserMayNotGive) {
   if (::geteuid() != 0) {
     GTEST_SKIP() << "only root gives files away";

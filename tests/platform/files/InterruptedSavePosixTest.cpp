@@ -21,6 +21,7 @@ namespace trelonit::test {
 namespace fs = std::filesystem;
 
 std::string InChild(const std::function<std::string()>& body);
+void DropRights();
 
 namespace {
 
@@ -110,6 +111,18 @@ TEST_F(InterruptedSave, OfAProcessThatLivesIsLeftAlone) {
   Put(LeftoverOf(1), "half");
   files.ReplaceFile(In("file"), "new");
   EXPECT_EQ(Names(), (std::set<std::string>{"file", LeftoverOf(::getpid()), LeftoverOf(1)}));
+}
+
+TEST_F(InterruptedSave, OfAProcessOfAnotherUserIsLeftAlone) {
+  fs::permissions(Folder(), fs::perms(0777));
+  Put(LeftoverOf(1), "half", 0666);
+  EXPECT_EQ(InChild([&]() -> std::string {
+              DropRights();
+              files.ReplaceFile(In("file"), "new");
+              return "replaced";
+            }),
+            "replaced");
+  EXPECT_EQ(Names(), (std::set<std::string>{"file", LeftoverOf(1)}));
 }
 
 TEST_F(InterruptedSave, IsNotTakenForAFileOfTheUsers) {

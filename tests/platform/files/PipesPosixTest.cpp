@@ -110,12 +110,12 @@ TEST(DeviceFile, IsRefused) {
   EXPECT_EQ(ErrorOf([] { DiskFiles().OpenForReading("/dev/full"); }), 75);
 }
 
-/// What the program reads from its standard input.
-std::string StandardInput(int input) {
+/// What the program reads, as a rule from its standard input.
+std::string StandardInput(int input, const std::string& name = "/dev/stdin") {
   return InChild([&]() -> std::string {
     ::alarm(5);
     ::dup2(input, STDIN_FILENO);
-    const auto stream = DiskFiles().OpenForReading("/dev/stdin");
+    const auto stream = DiskFiles().OpenForReading(name);
     std::array<char, 4> bytes{};
     stream->read(bytes.data(), bytes.size());
     return {bytes.data(), static_cast<std::size_t>(stream->gcount())};
@@ -134,6 +134,8 @@ TEST(StandardInput, IsReadFromAPipe) {
 TEST(StandardInput, MayBeADevice) {
   const int zeros = ::open("/dev/zero", O_RDONLY | O_CLOEXEC);
   EXPECT_EQ(StandardInput(zeros), std::string(4, '\0'));
+  // That allows no other one.
+  EXPECT_EQ(StandardInput(zeros, "/dev/full"), "error 75");
   ::close(zeros);
 }
 

@@ -66,6 +66,19 @@ TEST_P(InterruptedProgram, TakesItsUnfinishedFileAlong) {
   EXPECT_TRUE(fs::exists(Other()));
 }
 
+TEST_P(InterruptedProgram, TakesTheNextOneAlongWhereTheFirstIsFinished) {
+  const Ended ended = EndOf([&] {
+    std::signal(GetParam(), SIG_DFL);
+    TakeUnfinishedFileAlongWhenInterrupted();
+    { const UnfinishedFile finished(File()); }
+    const UnfinishedFile next(Other());
+    std::raise(GetParam());
+  });
+  EXPECT_EQ(ended.Signal, GetParam());
+  EXPECT_TRUE(fs::exists(File()));
+  EXPECT_FALSE(fs::exists(Other()));
+}
+
 TEST_P(InterruptedProgram, LeavesWhatIsFinished) {
   const Ended ended = EndOf([&] {
     std::signal(GetParam(), SIG_DFL);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/files/UnfinishedNames.h"
 
@@ -17,6 +18,15 @@ TEST(UnfinishedNames, TellTheirProcess) {
 
 TEST(UnfinishedNames, AreNewEachTime) {
   EXPECT_NE(NameForUnfinished("roof.tsav", 1), NameForUnfinished("roof.tsav", 1));
+}
+
+TEST(UnfinishedNames, EndWhereTheyAreSaidToEnd) {
+  constexpr std::string_view name = ".trelonit-new-123-4-5";
+  const std::size_t known = name.find("-4");
+  for (std::size_t size = 0; size <= known; ++size) {
+    EXPECT_EQ(ProcessOfUnfinished(name.substr(0, size)), std::nullopt) << size;
+  }
+  EXPECT_EQ(ProcessOfUnfinished(name.substr(0, known + 1)), 123);
 }
 
 TEST(UnfinishedNames, AreNotThoseOfTheUser) {

@@ -7,6 +7,7 @@ namespace trelonit::test {
 /// Calls of this program for the system that a test can make fail.
 enum class SystemCall {
   Flock,
+  Fsetxattr,
   Fstat,
   Fsync,
   Ftruncate,

@@ -66,6 +66,12 @@ int flock(int file, int operation) noexcept {
   return Fails(SystemCall::Flock) ? -1 : Real<int(int, int)>("flock")(file, operation);
 }
 
+int fsetxattr(int file, const char* name, const void* value, std::size_t size, int flags) noexcept {
+  return Fails(SystemCall::Fsetxattr) ? -1
+                                      : Real<int(int, const char*, const void*, std::size_t, int)>(
+                                            "fsetxattr")(file, name, value, size, flags);
+}
+
 int fstat(int file, struct stat* status) noexcept {
   return Fails(SystemCall::Fstat) ? -1 : Real<int(int, struct stat*)>("fstat")(file, status);
 }
