@@ -176,6 +176,7 @@ TEST(PortableFunctions, HaveTheirLimits) {
   EXPECT_EQ(portable::ArcTangent(infinity), pi / 2);
   EXPECT_EQ(portable::ArcTangent(-infinity), -pi / 2);
   EXPECT_EQ(portable::ArcTangent(greatestDouble), pi / 2);
+  EXPECT_EQ(portable::ArcTangent(0x1.49ff2p+52), pi / 2);
   EXPECT_EQ(portable::ArcTangent(-1e17), -pi / 2);
   EXPECT_EQ(portable::Hypotenuse(greatestDouble, greatestDouble), infinity);
   EXPECT_EQ(portable::Hypotenuse(greatestDouble, 1), greatestDouble);
