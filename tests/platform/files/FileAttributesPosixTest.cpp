@@ -70,6 +70,18 @@ TEST_F(FileAttributes, KeepTheAccessListOfAReplacedFile) {
   EXPECT_NE(NumberOf("file"), before);
 }
 
+TEST_F(FileAttributes, KeepTheAccessListWhereTheFolderGivesNewFilesOne) {
+  Put("file", "old", 0600);
+  if (!Give(In("file"), accessList, ListWithOneReader())) {
+    GTEST_SKIP() << "a file system without access lists";
+  }
+  ASSERT_TRUE(Give(Folder().string(), standardList, ListWithOneReader()));
+  const ino_t before = NumberOf("file");
+  files.ReplaceFile(In("file"), "new");
+  EXPECT_EQ(Attribute("file", accessList), ListWithOneReader());
+  EXPECT_NE(NumberOf("file"), before);
+}
+
 TEST_F(FileAttributes, KeepAnAccessListThatNoNewFileTakes) {
   Put("file", "old", 0600);
   if (!Give(In("file"), accessList, ListWithOneReader())) {

@@ -70,11 +70,18 @@ TEST_F(DiskFilesPosixTest, ServesAProgramThatHasNoStandardInput) {
   const std::string answer = InChild([&] {
     // The next file gets its number.
     ::close(STDIN_FILENO);
-    files.ReplaceFile(In("file"), "new");
     const std::string content = ReadBytes(files, In("file"));
+    files.ReplaceFile(In("file"), "new");
     return TryClaim(In("claim")).Held ? content : "no claim";
   });
-  EXPECT_EQ(answer, "new");
+  EXPECT_EQ(answer, "old");
+  EXPECT_EQ(Content("file"), "new");
+}
+
+TEST_F(DiskFilesPosixTest, LetsNobodyElseOpenAClaim) {
+  const ClaimAttempt attempt = TryClaim(In("claim"));
+  ASSERT_NE(attempt.Held, nullptr);
+  EXPECT_EQ(Permissions("claim"), 0600U);
 }
 
 TEST_F(DiskFilesPosixTest, KeepsThePermissionsOfTheOldFile) {
@@ -87,13 +94,16 @@ TEST_F(DiskFilesPosixTest, KeepsThePermissionsOfTheOldFile) {
 }
 
 TEST_F(DiskFilesPosixTest, GivesANewFileThePermissionsThatTheUserGivesNewFiles) {
-  const std::string answer = InChild([&]() -> std::string {
-    ::umask(027);
-    files.ReplaceFile(In("file"), "new");
-    return "replaced";
-  });
-  EXPECT_EQ(answer, "replaced");
-  EXPECT_EQ(Permissions("file"), 0640U);
+  for (const unsigned mask : {0U, 027U}) {
+    const std::string name = "file" + std::to_string(mask);
+    const std::string answer = InChild([&]() -> std::string {
+      ::umask(mask);
+      files.ReplaceFile(In(name), "new");
+      return "replaced";
+    });
+    EXPECT_EQ(answer, "replaced");
+    EXPECT_EQ(Permissions(name), 0666U & ~mask);
+  }
 }
 
 TEST_F(DiskFilesPosixTest, ReplacesTheFileThatALinkNamesAndKeepsTheLink) {

@@ -164,7 +164,10 @@ TEST_F(FileInItsPlace, KeepsItsOwnerWhereOnlyItsGroupIsAnother) {
   }
   Put("file", "old");
   ASSERT_EQ(::chown(In("file").c_str(), ::geteuid(), someGroup), 0);
+  const auto before = Status("file").st_ino;
   EXPECT_EQ(Replace("file", "new", [] {}), "replaced");
+  // By a new file, which is whole or not there.
+  EXPECT_NE(Status("file").st_ino, before);
   EXPECT_EQ(Status("file").st_uid, ::geteuid());
   EXPECT_EQ(Status("file").st_gid, someGroup);
 }

@@ -1,5 +1,6 @@
 #ifndef _WIN32
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
@@ -13,6 +14,7 @@
 #include <unistd.h>
 
 #include "platform/files/Files.h"
+#include "platform/posix/Leftovers.h"
 #include "platform/posix/PosixReplacement.h"
 #include "tests/platform/files/FileFolder.h"
 
@@ -111,6 +113,14 @@ TEST_F(InterruptedSave, OfAProcessThatLivesIsLeftAlone) {
   Put(LeftoverOf(1), "half");
   files.ReplaceFile(In("file"), "new");
   EXPECT_EQ(Names(), (std::set<std::string>{"file", LeftoverOf(::getpid()), LeftoverOf(1)}));
+}
+
+TEST_F(InterruptedSave, OfAProcessThatLivesIsLeftAloneAfterOneThatIsGone) {
+  Put(LeftoverOf(::getpid()), "half");
+  // As the question for a process that is gone leaves it.
+  errno = ESRCH;
+  RemoveLeftovers(Folder());
+  EXPECT_EQ(Names(), std::set<std::string>{LeftoverOf(::getpid())});
 }
 
 TEST_F(InterruptedSave, OfAProcessOfAnotherUserIsLeftAlone) {
