@@ -166,6 +166,8 @@ TEST(FormatShown, FollowsTheGroupSize) {
   NumberLocale locale = PointLocale();
   locale.GroupSize = 4;
   EXPECT_EQ(FormatShown(123456789, 0, locale), "1,2345,6789");
+  locale.GroupSize = 1;
+  EXPECT_EQ(FormatShown(123, 0, locale), "1,2,3");
   locale.GroupSize = 0;
   EXPECT_EQ(FormatShown(123456789, 0, locale), "123456789");
   // Thousands unless the locale says otherwise.

@@ -43,6 +43,7 @@ TEST(Characters, TakesNeitherOverlongFormsNorSurrogates) {
 
 TEST(Utf8, WritesEveryLength) {
   EXPECT_EQ(Utf8(U"a"), "a");
+  EXPECT_EQ(Utf8(U"\u0080"), "\xC2\x80");
   EXPECT_EQ(Utf8(U"й"), "\xD0\xB9");
   EXPECT_EQ(Utf8(U"\u20AC"), "\xE2\x82\xAC");
   EXPECT_EQ(Utf8(U"\U0001F600"), "\xF0\x9F\x98\x80");
