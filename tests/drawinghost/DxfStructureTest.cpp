@@ -1,4 +1,3 @@
-#include <chrono>
 #include <limits>
 #include <set>
 
@@ -7,6 +6,7 @@
 #include "tests/drawinghost/DxfReading.h"
 #include "tests/drawinghost/HostDesk.h"
 #include "tests/support/ExtremeNumbers.h"
+#include "tests/support/ProcessorTime.h"
 
 namespace trelonit::test {
 
@@ -234,9 +234,8 @@ TEST(WriteDxf, RaisesForLayersAndStylesThatAreNotThere) {
   EXPECT_EQ(raised(DrawingDimension{.TextStyle = "Absent"}), 5);
 }
 
-/// Seconds for so many entities, drawn through the host and written.
-double SecondsFor(int entities) {
-  const auto start = std::chrono::steady_clock::now();
+/// Draws so many entities through the host, and writes them.
+void DrawAndWrite(int entities) {
   DocumentDesk desk;
   for (int entity = 0; entity < entities; entity += 5) {
     desk.AddLine();
@@ -248,12 +247,11 @@ double SecondsFor(int entities) {
   if (WriteDxf(*desk.Sheet).size() < static_cast<std::size_t>(entities)) {
     throw std::logic_error("too little was written");
   }
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 TEST(WriteDxf, OfAHundredThousandEntitiesTakesTimeInProportion) {
-  const double few = SecondsFor(5000);
-  const double many = SecondsFor(100000);
+  const double few = SecondsOf([] { DrawAndWrite(5000); });
+  const double many = SecondsOf([] { DrawAndWrite(100000); });
   // Twenty times as many; room for a busy machine, none for a square law.
   EXPECT_LT(many, 60 * few);
 }

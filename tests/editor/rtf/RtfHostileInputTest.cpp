@@ -1,10 +1,10 @@
-#include <ctime>
 #include <gtest/gtest.h>
 #include <ostream>
 
 #include "editor/rtf/RtfWriter.h"
 #include "tests/editor/rtf/RtfTexts.h"
 #include "tests/support/Instrumented.h"
+#include "tests/support/ProcessorTime.h"
 
 namespace trelonit::test {
 namespace {
@@ -16,14 +16,6 @@ std::string Repeated(std::string_view piece, std::size_t bytes) {
     text += piece;
   }
   return text;
-}
-
-/// Of the processor, so that a busy machine changes nothing.
-template <class Work>
-double SecondsOf(Work&& work) {
-  const std::clock_t start = std::clock();
-  work();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 double SecondsToRead(std::string_view body) {

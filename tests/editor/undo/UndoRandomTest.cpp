@@ -1,8 +1,8 @@
 #include <algorithm>
-#include <chrono>
 #include <rapidcheck/gtest.h>
 
 #include "tests/editor/undo/UndoDesk.h"
+#include "tests/support/ProcessorTime.h"
 
 namespace trelonit::test {
 namespace {
@@ -101,10 +101,9 @@ RC_GTEST_PROP(UndoAtRandom, GivesBackEveryRichDocument, ()) {
   WalkBackAndForth(desk);
 }
 
-/// Seconds for typing that many keys, every fiftieth a line end, and undoing them.
-double TypingTime(int keys) {
+/// Types that many keys, every fiftieth a line end, and undoes them.
+void TypeAndUndo(int keys) {
   UndoDesk desk;
-  const auto start = std::chrono::steady_clock::now();
   for (int key = 0; key < keys; ++key) {
     desk.Press(key % 50 == 49 ? keyReturn : static_cast<Integer>('A' + key % 26));
   }
@@ -113,19 +112,18 @@ double TypingTime(int keys) {
     desk.undo.Undo();
   }
   EXPECT_EQ(desk.box.Text(), "");
-  const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - start;
-  return spent.count();
 }
 
 TEST(UndoOfMuchTyping, TakesTimeInProportionToTheKeys) {
-  // The best of many runs by turns, so that a busy machine slows down both alike.
-  double half = 1e9;
-  double whole = 1e9;
-  for (int run = 0; run < 15; ++run) {
-    half = std::min(half, TypingTime(5000));
-    whole = std::min(whole, TypingTime(10000));
+  // The best of some runs by turns, so that a busy machine slows down both alike.
+  double few = 1e9;
+  double many = 1e9;
+  for (int run = 0; run < 5; ++run) {
+    few = std::min(few, SecondsOf([] { TypeAndUndo(5000); }));
+    many = std::min(many, SecondsOf([] { TypeAndUndo(40000); }));
   }
-  EXPECT_LE(whole, 3 * half);
+  // Eight times as many; room for a busy machine, none for a square law.
+  EXPECT_LE(many, 24 * few);
 }
 
 TEST(UndoOfMuchTyping, NeverForgetsTheFirstKey) {
