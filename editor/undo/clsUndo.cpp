@@ -269,18 +269,14 @@ void clsUndo::RemoveSelection() {
 void clsUndo::DeleteForward() {
   const bool nothingSelected = Box().SelLength() == 0;
   if (nothingSelected) {
-    const Long caret = Box().SelStart();
-    Box().SetSelLength(2);
-    if (Box().SelText() != lineEnd) {
-      Box().Select(caret, 1);
-    }
+    // The box takes a divided line end or surrogate pair for the whole, so 1 stands for each.
+    Box().SetSelLength(1);
   }
   if (Box().SelLength() == 0) {
     return;  // at the end of the text there is nothing to take out, and nothing to undo
   }
   RemoveSelection();
   if (nothingSelected) {
-    // The box takes a divided line end or surrogate pair for the whole, so 1 stands for each.
     current_.NewLength = 1;
   }
   Record();

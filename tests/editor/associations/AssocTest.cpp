@@ -181,6 +181,14 @@ TEST_F(Assoc, OpensWithNeitherOptionWhereAnotherProgramHasTheFiles) {
   EXPECT_FALSE(form.cmdApply.Enabled());
 }
 
+TEST_F(Assoc, TakesEverybodysClassWhereTheUsersOwnHasNoValue) {
+  registry.Put(RegistryRoot::CurrentUser, "Software\\Classes\\.txt", "Content Type",
+               std::string("text/plain"));
+  EXPECT_EQ(associations.Present().Owner, TextOwner::Other);
+  PutClass(".txt", "txtfile");
+  EXPECT_EQ(associations.Present().Owner, TextOwner::System);
+}
+
 TEST_F(Assoc, SetsOneOptionAtMost) {
   form.Form_Load();
   form.Option1.SetValue(true);

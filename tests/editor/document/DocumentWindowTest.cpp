@@ -36,6 +36,11 @@ TEST_F(DocumentWindow, OpensWithAnEmptyDocumentThatHasNoFile) {
   EXPECT_EQ(Said(), Messages{});
 }
 
+TEST(DocumentWindowAtLoad, HasNoChangesBefore) {
+  const OtchetDesk desk;
+  EXPECT_FALSE(desk.form.Changed());
+}
+
 TEST(DocumentWindowAtLoad, TakesWhatIsStored) {
   OtchetDesk desk;
   for (const auto& [key, value] : std::vector<RecordingSettings::Entry>{{"MainLeft", "-300"},

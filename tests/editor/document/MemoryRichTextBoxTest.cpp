@@ -56,6 +56,7 @@ TEST(MemoryRichTextBox, KeepsNoEmptyRunsAndNoEqualNeighbours) {
 
 TEST(MemoryRichTextBox, RemembersTheFirstVisibleLine) {
   MemoryRichTextBox box;
+  EXPECT_EQ(box.FirstVisibleLine(), 0);
   box.SetFirstVisibleLine(7);
   EXPECT_EQ(box.FirstVisibleLine(), 7);
 }

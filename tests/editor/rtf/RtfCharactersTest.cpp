@@ -35,6 +35,7 @@ TEST(RtfCharacters, SpecialBlanksAndHyphens) {
 
 TEST(RtfCharacters, SymbolsWithoutMeaningHereAreNoText) {
   EXPECT_EQ(BodyText("a\\|b\\:c\\\"d"), u"abcd");
+  EXPECT_EQ(BodyText("a{\\:\\unknown b}c"), u"abc");
 }
 
 TEST(RtfCharacters, ATabByteIsATab) {

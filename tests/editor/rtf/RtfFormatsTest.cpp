@@ -154,6 +154,12 @@ TEST(RtfFormats, AFontsNameWithoutItsScriptStandsForIt) {
       "Arial");
 }
 
+TEST(RtfFormats, AFontEndsWithItsOwnSemicolon) {
+  EXPECT_EQ(BodyFormat("{\\fonttbl{\\f0{\\*\\fname A;}\\fcharset204 \\'d4;}}\\f0 x").FontName, "A");
+  EXPECT_EQ(BodyText("{\\fonttbl{\\f0{\\*\\fname A;}\\fcharset204 A;}}\\f0\\'d4"), u"Ф");
+  EXPECT_EQ(BodyText("{\\fonttbl\\f0 A;\\fcharset204}\\f0\\'d4"), u"Ô");
+}
+
 TEST(RtfFormats, FontNamesAreDecodedByTheFontsScript) {
   EXPECT_EQ(BodyFormat("\\ansicpg1252{\\fonttbl{\\f0\\fcharset204 \\'d8\\'f0;}}\\f0 x").FontName,
             "Шр");
@@ -243,6 +249,7 @@ TEST(RtfParagraphs, ABackslashBeforeALineEndIsAMark) {
 
 TEST(RtfParagraphs, LineEndCharactersNeverStandInText) {
   EXPECT_EQ(BodyText("a\\'0d\\'0ab\\u10?c\\u13?d"), u"a\nb\nc\nd");
+  EXPECT_EQ(BodyText("\\'0aa"), u"\na");
 }
 
 TEST(RtfParagraphs, ALineFeedBehindAMarkIsALineEndOfItsOwn) {
