@@ -8,9 +8,9 @@ namespace {
 
 /// What tells the geometry schemes apart.
 struct GeometryForm {
-  SchemeLayout (*Layout)(const SchemeSheet&) = nullptr;
-  const char* Title = nullptr;
-  double TitleRise = 0;
+  SchemeLayout (*Layout)(const SchemeSheet&);
+  const char* Title;
+  double TitleRise;
   bool SetsScale = true;
 };
 

@@ -180,6 +180,14 @@ TEST(Export, OfAPanelCountThatNoTrussHasEndsAtOnce) {
   }
 }
 
+TEST(Export, OfTheGreatestPanelCountDrawsTheGeometryThatNeedsNoForces) {
+  ExportDesk desk(4, 4);
+  desk.Design.Data.PanelNum = 1000;
+  desk.Export.mnuFileAutoCAD_Click();
+  EXPECT_EQ(desk.Messages.Shown,
+            Boxes{Box("AutoCAD Export", " Err # 9 Discription : Subscript out of range")});
+}
+
 // Half of an odd count is rounded to the even neighbour on both sides of the middle, so that the
 // diagonal in the middle is left out.
 TEST(Export, OfAnOddPanelCountLeavesTheMiddleDiagonalOut) {

@@ -43,7 +43,9 @@ TEST(DxfHandle, IsHexadecimalInCapitals) {
 TEST(DxfContent, EscapesWhatReadersTakeForSigns) {
   EXPECT_EQ(DxfContent(" Схема усилий"), " Схема усилий");
   EXPECT_EQ(DxfContent("a^b"), "a^ b");
+  EXPECT_EQ(DxfContent("^"), "^ ");
   EXPECT_EQ(DxfContent("a\nb\tc"), "a^Jb^Ic");
+  EXPECT_EQ(DxfContent("\n"), "^J");
   EXPECT_EQ(DxfContent("100%"), "100%");
   EXPECT_EQ(DxfContent("%%c 50"), "%%%%%%c 50");
   EXPECT_EQ(DxfContent("%%%"), "%%%%%%%%%");

@@ -211,6 +211,17 @@ TEST(DimensionPicture, BreaksItsLineRoundANumberInIt) {
   ExpectAt(picture.Texts.front().Point, 1500, -500);
 }
 
+TEST(DimensionPicture, BreaksItsLineWhereThereIsRoomBesideTheNumber) {
+  const auto strokes = [](double length) {
+    DrawingDimension dimension = SchemeDimension({0, 0}, {length, 0}, {0, -500});
+    dimension.Variables.DIMTAD = 0;
+    return Picture(dimension).Strokes.size();
+  };
+  // Extension lines, the tails of arrows outside, and the line beside 222.75 and twice the gap.
+  EXPECT_EQ(strokes(283), 6u);
+  EXPECT_EQ(strokes(282), 4u);
+}
+
 TEST(DimensionPicture, OfAHeightWithALevelNumberIsBrokenByItsHeight) {
   DrawingDimension dimension =
       SchemeDimension({8000, 1500}, {8000, 0}, {8375, 0}, std::numbers::pi / 2);
@@ -227,6 +238,8 @@ TEST(DimensionPicture, HasNoExtensionLineFromAPointOnItsLine) {
   ASSERT_EQ(picture.Strokes.size(), 2u);
   // A point nearer than the offset leaves the part over the line.
   ExpectStroke(picture, 0, {3000, -500}, {3000, -530});
+  const EntityPicture below = Picture(SchemeDimension({0, -500}, {3000, -500.5}, {0, -500}));
+  ExpectStroke(below, 0, {3000, -500}, {3000, -470});
 }
 
 TEST(DimensionPicture, WithoutASizeOfArrowsHasNone) {

@@ -167,6 +167,16 @@ TEST(TitleBlock, DividesALongNameNearestToItsMiddle) {
   EXPECT_DOUBLE_EQ(lower.Y, 37.5 - 2.8 - 1.75);
 }
 
+TEST(TitleBlock, DividesALongNameAtEitherOfTwoBlanks) {
+  TitleBlock block;
+  const std::string before(29, 'a');
+  const std::string behind(30, 'b');
+  block.Project = before + "  " + behind;
+  const auto texts = TextsOf(PictureOfTitleBlock(block, "М 1:50", {185, 0}));
+  EXPECT_TRUE(texts.contains(before + " "));
+  EXPECT_TRUE(texts.contains(behind));
+}
+
 TEST(TitleBlock, NarrowsALongWordUntilItFillsItsField) {
   TitleBlock block;
   block.Author = "Константинопольский";
