@@ -11,7 +11,7 @@ struct GeometryForm {
   SchemeLayout (*Layout)(const SchemeSheet&);
   const char* Title;
   double TitleRise;
-  bool SetsScale = true;
+  bool SetsScale;
 };
 
 void DrawForm(const GeometryForm& form, const DrawingTools& tools, const TreloData& data,
@@ -49,19 +49,22 @@ void DrawGeometryScheme1(const DrawingTools& tools, const TreloData& data,
 void DrawGeometryScheme2(const DrawingTools& tools, const TreloData& data,
                          const TreloResult& result, const SectionArray& sections,
                          const AutomationHandle& space) {
-  DrawForm({LayoutOfScheme2, " Геометрическая схема ", 5}, tools, data, result, sections, space);
+  DrawForm({LayoutOfScheme2, " Геометрическая схема ", 5, true}, tools, data, result, sections,
+           space);
 }
 
 void DrawGeometryScheme3(const DrawingTools& tools, const TreloData& data,
                          const TreloResult& result, const SectionArray& sections,
                          const AutomationHandle& space) {
-  DrawForm({LayoutOfScheme3, " Геометрическая схема ", 5}, tools, data, result, sections, space);
+  DrawForm({LayoutOfScheme3, " Геометрическая схема ", 5, true}, tools, data, result, sections,
+           space);
 }
 
 void DrawGeometryScheme4(const DrawingTools& tools, const TreloData& data,
                          const TreloResult& result, const SectionArray& sections,
                          const AutomationHandle& space) {
-  DrawForm({LayoutOfScheme4, " Геометрическая схема ", 7.5}, tools, data, result, sections, space);
+  DrawForm({LayoutOfScheme4, " Геометрическая схема ", 7.5, true}, tools, data, result, sections,
+           space);
 }
 
 void DrawReservedGeometryScheme(const DrawingTools& /*tools*/, const TreloData& /*data*/,
