@@ -52,8 +52,7 @@ void AppendUnit(std::string& rtf, char16_t unit) {
     rtf += "\\tab ";
   } else if (unit >= 0x20 && unit < 0x7F) {
     rtf += static_cast<char>(unit);
-  } else if (const unsigned char byte = ToCodePage1251(unit);
-             byte >= 0x80 && FromCodePage1251(byte) == unit) {
+  } else if (const unsigned char byte = ToCodePage1251(unit); byte >= 0x80) {
     AppendHex(rtf, byte);
   } else {
     // The number is a signed one of 16 bits.
@@ -67,7 +66,7 @@ void AppendFontName(std::string& rtf, std::string_view name) {
       AppendHex(rtf, ';');  // bare, it would end the name
     } else if (character > 0xFFFF) {
       AppendUnit(rtf, static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10)));
-      AppendUnit(rtf, static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF)));
+      AppendUnit(rtf, static_cast<char16_t>(0xDC00 + (character & 0x3FF)));
     } else {
       AppendUnit(rtf, static_cast<char16_t>(character));
     }

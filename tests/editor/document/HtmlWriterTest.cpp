@@ -69,6 +69,17 @@ TEST(HtmlWriter, WritesEveryLook) {
             "line-through; }");
 }
 
+TEST(HtmlWriter, WritesEitherLineAlone) {
+  CharFormat format{.FontName = "Arial", .FontSize = 10};
+  format.Underline = true;
+  EXPECT_EQ(StylesOf(format),
+            ".f1 { font: 10pt \"Arial\", sans-serif; text-decoration: underline; }");
+  format.Underline = false;
+  format.StrikeThru = true;
+  EXPECT_EQ(StylesOf(format),
+            ".f1 { font: 10pt \"Arial\", sans-serif; text-decoration: line-through; }");
+}
+
 TEST(HtmlWriter, LetsNoFontNameEndTheStyleSheet) {
   EXPECT_EQ(StylesOf({.FontName = "a\"};\\</style>\n<b"}),
             ".f1 { font: 9pt \"a};/style>b\", sans-serif; }");

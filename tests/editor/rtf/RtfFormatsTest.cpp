@@ -250,6 +250,7 @@ TEST(RtfParagraphs, ABackslashBeforeALineEndIsAMark) {
 TEST(RtfParagraphs, LineEndCharactersNeverStandInText) {
   EXPECT_EQ(BodyText("a\\'0d\\'0ab\\u10?c\\u13?d"), u"a\nb\nc\nd");
   EXPECT_EQ(BodyText("\\'0aa"), u"\na");
+  EXPECT_EQ(BodyText("a\\'0d\\'0a\\'0ab"), u"a\n\nb");
 }
 
 TEST(RtfParagraphs, ALineFeedBehindAMarkIsALineEndOfItsOwn) {

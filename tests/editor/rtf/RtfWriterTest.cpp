@@ -39,6 +39,10 @@ TEST(RtfWriter, CharactersOutsideTheCodePageAreUnicodeEscapes) {
   EXPECT_NE(rtf.find("\\u8805?\\u-4096?\\u-10179?\\u-8704?\\u128?"), std::string::npos) << rtf;
 }
 
+TEST(RtfWriter, ControlCharactersAreUnicodeEscapes) {
+  EXPECT_NE(WriteRtf(OneRun(u"\u0001\u007F")).find("\\u1?\\u127?"), std::string::npos);
+}
+
 TEST(RtfWriter, TheFirstLetterOfTheCodePagesUpperHalfIsAByte) {
   EXPECT_NE(WriteRtf(OneRun(u"Ђ")).find(" \\'80\\par"), std::string::npos);
 }
