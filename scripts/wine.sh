@@ -19,14 +19,23 @@ open_wine() {
     cat "$scratch/wineboot.log" >&2
     exit 1
   }
+  wine_at_rest
+}
+
+# wine_at_rest: waits for the last of its processes. The one that has the desktop stays for a while,
+# and what is started meanwhile is shown where that one was: nowhere, if it had no display.
+wine_at_rest() {
+  wine_server -w
+}
+
+wine_server() {
+  "$(command -v wineserver || echo /usr/lib/wine/wineserver)" "$@"
 }
 
 close_wine() {
-  local server
-  server=$(command -v wineserver || echo /usr/lib/wine/wineserver)
   [ -n "$scratch" ] || return 0
-  "$server" -k || true
-  "$server" -w || true
+  wine_server -k || true
+  wine_server -w || true
   rm -rf "$scratch"
 }
 
