@@ -14,7 +14,8 @@ namespace {
 using Reading = int (*)();
 
 /// How the library by which freedesktop systems find fonts reads their list. The toolkit loads it
-/// too; null where there is none and so nothing to read ahead.
+/// too. Null elsewhere: there is nothing to read ahead, and on Windows a thread may not use the
+/// toolkit so, because GCC gives what is a thread's own back before it is destroyed there.
 Reading FindReading() {
   constexpr int version = 1;
   return reinterpret_cast<Reading>(
@@ -42,18 +43,19 @@ FontsAhead::FontsAhead() {
   // The application would set the locale while the list is being read.
   std::setlocale(LC_ALL, "");
   // The first thread that asks the toolkit for anything counts as its main one: this asks here.
-  reading_ = std::thread([this, read = FindReading(), ready = ready_.get_future()]() mutable {
-    if (read != nullptr) {
-      read();
-    }
+  const Reading read = FindReading();
+  if (read == nullptr) {
+    listRead_.set_value();
+    return;
+  }
+  reading_ = std::thread([this, read, ready = ready_.get_future()]() mutable {
+    read();
     listRead_.set_value();
     if (!ready.get()) {
       return;
     }
     QFontDatabase::families();
-    if (read != nullptr) {
-      FindSubstitutes();
-    }
+    FindSubstitutes();
     LoadImageReaders();
   });
 }

@@ -81,7 +81,7 @@ TEST(FormulaView, GivesTabOnToTheNextWidget) {
 TEST(FormulaViewNarrow, BreaksBetweenTheTermsOfASum) {
   FormulaScreen wide("", longSum, 900);
   FormulaScreen narrow("", longSum, 220);
-  EXPECT_GT(narrow.Height(), wide.Height() * 1.8);
+  EXPECT_GT(narrow.Height(), wide.Height() * 1.5);
   EXPECT_EQ(narrow.View.horizontalScrollBar()->maximum(), 0);
   EXPECT_EQ(wide.View.horizontalScrollBar()->maximum(), 0);
 }
