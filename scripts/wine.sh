@@ -9,9 +9,9 @@ open_wine() {
   scratch=$(mktemp -d "${TMPDIR:-/tmp}/trelonit-wine.XXXXXX")
   trap close_wine EXIT
   export WINEPREFIX=$scratch/wine WINEDEBUG=${WINEDEBUG--all}
-  # No downloads, nothing in the menus of this machine, and the viewer of compiled help that a test
-  # brings along before Wine's own.
-  export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d;hhctrl.ocx=n,b"
+  # No downloads, nothing in the menus of this machine, no debugger that keeps what has crashed, and
+  # the viewer of compiled help that a test brings along before Wine's own.
+  export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d;hhctrl.ocx=n,b"
   # Names of files are UTF-8.
   export LC_ALL=C.UTF-8
   echo "Preparing wine ..." >&2

@@ -14,7 +14,7 @@ namespace trelonit::test {
 
 namespace {
 
-constexpr DWORD patience = 10000;  // milliseconds
+constexpr DWORD patience = 60000;  // milliseconds
 
 /// Whether the process has ended, after at most this time.
 bool Ends(std::uint32_t process, DWORD milliseconds) {

@@ -77,7 +77,7 @@ class ColumnBox : public QComboBox {
     constexpr int leastHeight = 14;
     const QFontMetrics metrics = fontMetrics();
     const QSize contents(leastLetters_ * metrics.horizontalAdvance(QLatin1Char('X')) + gap,
-                         std::max(metrics.height(), leastHeight) + 2);
+                         std::max(qCeil(QFontMetricsF(metrics).height()), leastHeight) + 2);
     QStyleOptionComboBox option;
     initStyleOption(&option);
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);

@@ -1,12 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "platform/win32/WindowsHeader.h"
 #include "tests/win32/desktop/TimeLimit.h"
 #include "windows/services/GuardedApplication.h"
 
 int main(int argc, char** argv) {
-  // A process that a test has broken ends, without a box or a debugger.
-  SetErrorMode(SEM_NOGPFAULTERRORBOX);
   // The tests answer dialogues of the toolkit; those of the system they could not.
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   const trelonit::GuardedApplication application(argc, argv);
