@@ -17,7 +17,7 @@ Desktop::Desktop() {
   QApplication::setApplicationVersion(QLatin1String(applicationVersion));
   QApplication::setDesktopFileName(QStringLiteral("ru.trelonit.Trelonit"));
   // Of every window, dialogue and message, whoever opens it.
-  QApplication::setWindowIcon(WindowPictureIcon(QStringLiteral(":/pictures/trelonit.svg"), aside_));
+  QApplication::setWindowIcon(PictureIcon(QStringLiteral(":/pictures/trelonit.svg")));
   qApp->installEventFilter(&wheel_);
   qApp->installEventFilter(&layouts_);
   if (buttons_.load(QStringLiteral("qtbase_ru"),

@@ -2,7 +2,6 @@
 
 #include <QTranslator>
 
-#include "windows/binding/PaintingAside.h"
 #include "windows/services/LayoutsAtRest.h"
 #include "windows/services/WheelGuard.h"
 
@@ -15,7 +14,6 @@ class Desktop {
   Desktop();
 
  private:
-  PaintingAside aside_;
   QTranslator buttons_;
   WheelGuard wheel_;
   LayoutsAtRest layouts_;
