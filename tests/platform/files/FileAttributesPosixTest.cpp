@@ -57,42 +57,42 @@ class FileAttributes : public FileFolder {
   }
 };
 
-TEST_F(FileAttributes, KeepTheAccessListOfAReplacedFile) {
-  Put("file", "old", 0600);
-  if (!Give(In("file"), accessList, ListWithOneReader())) {
-    GTEST_SKIP() << "a file system without access lists";
+/// A file with an access list, to be replaced.
+class AccessList : public FileAttributes {
+ protected:
+  void SetUp() override {
+    Put("file", "old", 0600);
+    if (!Give(In("file"), accessList, ListWithOneReader())) {
+      GTEST_SKIP() << "a file system without access lists";
+    }
+    Before = NumberOf("file");
   }
-  const ino_t before = NumberOf("file");
-  files.ReplaceFile(In("file"), "new");
-  EXPECT_EQ(Content("file"), "new");
-  EXPECT_EQ(Attribute("file", accessList), ListWithOneReader());
+
+  void ReplaceAndExpectTheList() {
+    files.ReplaceFile(In("file"), "new");
+    EXPECT_EQ(Content("file"), "new");
+    EXPECT_EQ(Attribute("file", accessList), ListWithOneReader());
+  }
+
+  ino_t Before = 0;
+};
+
+TEST_F(AccessList, StaysWithAReplacedFile) {
+  ReplaceAndExpectTheList();
   // By a new file, which is whole or not there.
-  EXPECT_NE(NumberOf("file"), before);
+  EXPECT_NE(NumberOf("file"), Before);
 }
 
-TEST_F(FileAttributes, KeepTheAccessListWhereTheFolderGivesNewFilesOne) {
-  Put("file", "old", 0600);
-  if (!Give(In("file"), accessList, ListWithOneReader())) {
-    GTEST_SKIP() << "a file system without access lists";
-  }
+TEST_F(AccessList, StaysWhereTheFolderGivesNewFilesOne) {
   ASSERT_TRUE(Give(Folder().string(), standardList, ListWithOneReader()));
-  const ino_t before = NumberOf("file");
-  files.ReplaceFile(In("file"), "new");
-  EXPECT_EQ(Attribute("file", accessList), ListWithOneReader());
-  EXPECT_NE(NumberOf("file"), before);
+  ReplaceAndExpectTheList();
+  EXPECT_NE(NumberOf("file"), Before);
 }
 
-TEST_F(FileAttributes, KeepAnAccessListThatNoNewFileTakes) {
-  Put("file", "old", 0600);
-  if (!Give(In("file"), accessList, ListWithOneReader())) {
-    GTEST_SKIP() << "a file system without access lists";
-  }
-  const ino_t before = NumberOf("file");
+TEST_F(AccessList, StaysWhereNoNewFileTakesIt) {
   const WatchedCall failing(SystemCall::Fsetxattr, [] { return EOPNOTSUPP; });
-  files.ReplaceFile(In("file"), "new");
-  EXPECT_EQ(Content("file"), "new");
-  EXPECT_EQ(Attribute("file", accessList), ListWithOneReader());
-  EXPECT_EQ(NumberOf("file"), before);
+  ReplaceAndExpectTheList();
+  EXPECT_EQ(NumberOf("file"), Before);
 }
 
 TEST_F(FileAttributes, GiveNobodyRightsThatTheFolderWouldGiveANewFile) {
