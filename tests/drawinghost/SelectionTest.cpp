@@ -154,6 +154,35 @@ TEST(Records, AreEmptyAtFirstAndRefuseUnequalLists) {
   EXPECT_EQ(CallMember(record, "GetXRecordData", {{}, {}}), AutomationValue(AutomationList(2)));
 }
 
+TEST(Records, KeepNoObjects) {
+  DocumentDesk desk;
+  const AutomationHandle dictionary =
+      CallForObject(ObjectMember(desk.Document, "Dictionaries"), "Add", {std::string("A")});
+  const AutomationHandle record = CallForObject(dictionary, "AddXRecord", {std::string("R")});
+  const auto set = [&](const AutomationList& values) {
+    return RaisedBy([&] { CallMember(record, "SetXRecordData", {Codes({1}), values}); });
+  };
+  EXPECT_EQ(set({{record}}), 13);
+  // Not even within a list; what was there stays.
+  CallMember(record, "SetXRecordData", {Codes({1}), Texts({"a"})});
+  EXPECT_EQ(set({{AutomationList{{dictionary}}}}), 13);
+  EXPECT_EQ(CallMember(record, "GetXRecordData", {{}, {}}),
+            AutomationValue(AutomationList{{Codes({1})}, {Texts({"a"})}}));
+}
+
+TEST(Records, GoWithTheLastThatHoldsThem) {
+  std::weak_ptr<AutomationObject> kept;
+  {
+    DocumentDesk desk;
+    const AutomationHandle dictionary =
+        CallForObject(ObjectMember(desk.Document, "Dictionaries"), "Add", {std::string("A")});
+    const AutomationHandle record = CallForObject(dictionary, "AddXRecord", {std::string("R")});
+    RaisedBy([&] { CallMember(record, "SetXRecordData", {Codes({1}), AutomationList{{record}}}); });
+    kept = record;
+  }
+  EXPECT_TRUE(kept.expired());
+}
+
 class ExtendedDataTest : public testing::Test {
  protected:
   void Set(const AutomationValue& types, const AutomationValue& values) {

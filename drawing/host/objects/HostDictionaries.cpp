@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 
 #include "drawing/host/objects/HostDocument.h"
@@ -5,6 +6,18 @@
 #include "drawing/host/objects/HostValues.h"
 
 namespace trelonit {
+
+namespace {
+
+bool HoldsObject(const AutomationValue& value) {
+  if (const auto* list = std::get_if<AutomationList>(&value)) {
+    return std::any_of(list->begin(), list->end(),
+                       [](const AutomationItem& item) { return HoldsObject(item.Value); });
+  }
+  return std::holds_alternative<AutomationHandle>(value);
+}
+
+}  // namespace
 
 TypedValues TypedValuesIn(const AutomationValue& types, const AutomationValue& values) {
   const auto* codes = std::get_if<AutomationList>(&types);
@@ -17,6 +30,11 @@ TypedValues TypedValuesIn(const AutomationValue& types, const AutomationValue& v
   }
   for (const AutomationItem& code : *codes) {
     LongIn(code.Value);
+  }
+  // Such data is written into drawings, where objects have no place; and a record that keeps an
+  // object over itself would never go.
+  if (HoldsObject(values)) {
+    throw RuntimeError(ErrorNumber::TypeMismatch);
   }
   return {.Types = *codes, .Values = *contents};
 }

@@ -112,7 +112,8 @@ extern const ActiveRecord activeLayer;
 extern const ActiveRecord activeTextStyle;
 extern const ActiveRecord activeDimStyle;
 
-/// Two lists that fit each other. Raises 13 for other kinds of values, 5 for unequal lengths.
+/// Two lists that fit each other. Raises 13 for other kinds of values, objects in the lists among
+/// them, 5 for unequal lengths.
 TypedValues TypedValuesIn(const AutomationValue& types, const AutomationValue& values);
 /// As a member gives them out: two lists, or two empty values where there is nothing.
 AutomationValue FilledArguments(const TypedValues& data);
