@@ -2,6 +2,7 @@
 
 #include <QPixmap>
 #include <QPixmapCache>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleOption>
 #include <QStylePainter>
@@ -28,9 +29,14 @@ struct Division {
   QSize Middle;  ///< between the corners
 };
 
+QString NameOf(const QStyle& style) {
+  const auto* proxy = qobject_cast<const QProxyStyle*>(&style);
+  return proxy != nullptr ? proxy->baseStyle()->name() : style.name();
+}
+
 /// Other styles leave their frames to the system and are quick, or have edges that vary.
 bool HasUniformFrames(const QStylePainter& painter) {
-  return painter.style()->name() == QLatin1String("fusion") &&
+  return NameOf(*painter.style()) == QLatin1String("fusion") &&
          painter.device()->devicePixelRatioF() == 1;
 }
 

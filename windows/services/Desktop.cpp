@@ -4,7 +4,7 @@
 #include <QLibraryInfo>
 
 #include "platform/system/ProgramNames.h"
-#include "windows/binding/PictureIcon.h"
+#include "windows/services/MenuBarStyle.h"
 
 namespace trelonit {
 
@@ -16,8 +16,8 @@ Desktop::Desktop() {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationVersion(QLatin1String(applicationVersion));
   QApplication::setDesktopFileName(QStringLiteral("ru.trelonit.Trelonit"));
-  // Of every window, dialogue and message, whoever opens it.
-  QApplication::setWindowIcon(PictureIcon(QStringLiteral(":/pictures/trelonit.svg")));
+  MenuBarStyle::Install();
+  qApp->installEventFilter(&icon_);
   qApp->installEventFilter(&wheel_);
   qApp->installEventFilter(&layouts_);
   if (buttons_.load(QStringLiteral("qtbase_ru"),

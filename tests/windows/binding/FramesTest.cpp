@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
 #include <gtest/gtest.h>
@@ -9,9 +10,13 @@
 namespace trelonit::test {
 namespace {
 
+std::unique_ptr<QStyle> Fusion() {
+  return std::unique_ptr<QStyle>(QStyleFactory::create(QStringLiteral("fusion")));
+}
+
 /// As it stands on the screen, by the toolkit's own style.
-QImage Painted(QWidget& widget, QSize size, const QPalette& palette) {
-  const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("fusion")));
+QImage Painted(QWidget& widget, QSize size, const QPalette& palette,
+               std::unique_ptr<QStyle> style = Fusion()) {
   widget.setStyle(style.get());
   widget.setPalette(palette);
   widget.resize(size);
@@ -61,6 +66,12 @@ TEST_P(Frames, OfADisabledGroupLookAsTheToolkitPaintsThem) {
   group.setEnabled(false);
   plain.setEnabled(false);
   EXPECT_EQ(Painted(group, sizes[2], Colours()), Painted(plain, sizes[2], Colours()));
+}
+
+TEST_P(Frames, OfAStyleWithMarksOfItsOwnLookTheSame) {
+  Group group(QStringLiteral("Title"));
+  EXPECT_EQ(Painted(group, sizes[2], Colours(), std::make_unique<QProxyStyle>(Fusion().release())),
+            Painted(group, sizes[2], Colours()));
 }
 
 TEST(FramesOfOtherStyles, AreThoseOfTheStyle) {
