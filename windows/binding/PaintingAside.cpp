@@ -1,5 +1,6 @@
 #include "windows/binding/PaintingAside.h"
 
+#include <QThread>
 #include <memory>
 #include <utility>
 
@@ -9,7 +10,12 @@ std::future<QImage> PaintingAside::Begin(std::function<QImage()> paint) {
   // The pool copies what it runs.
   auto task = std::make_shared<std::packaged_task<QImage()>>(std::move(paint));
   std::future<QImage> painted = task->get_future();
-  painters_.start([task] { (*task)(); });
+  painters_.start([task] {
+    (*task)();
+    // The display and the thread that hears it may be waiting for this processor, and the window
+    // for them.
+    QThread::yieldCurrentThread();
+  });
   return painted;
 }
 

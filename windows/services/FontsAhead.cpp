@@ -24,9 +24,11 @@ Reading FindReading() {
 
 /// Which fonts step in where one has no letter is found once for each script, and for all threads.
 void FindSubstitutes() {
+  constexpr QChar latin = u'T';
+  constexpr QChar cyrillic = u'Ф';
   const QFontMetrics metrics{QFont()};
-  metrics.horizontalAdvance(QStringLiteral("Trelonit"));
-  metrics.horizontalAdvance(QStringLiteral("Ферма"));
+  metrics.horizontalAdvance(latin);
+  metrics.horizontalAdvance(cyrillic);
 }
 
 /// Whatever picture the toolkit reads first, be it the frame of a group, it asks every reader that
