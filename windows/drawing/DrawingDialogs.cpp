@@ -1,6 +1,5 @@
 #include "windows/drawing/DrawingDialogs.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -11,6 +10,7 @@
 #include "platform/errors/RuntimeError.h"
 #include "platform/files/Files.h"
 #include "windows/binding/Binding.h"
+#include "windows/binding/FileDialog.h"
 #include "windows/binding/Units.h"
 #include "windows/help/HelpKey.h"
 
@@ -53,16 +53,13 @@ void Tell(QWidget* parent, const QString& text) {
 
 /// Empty for a cancel.
 QString AskName(const DrawingFileKind& kind, const QString& offered, QWidget* parent) {
-  QFileDialog dialog(parent, QString::fromUtf8(kind.Caption), {}, QString::fromUtf8(kind.Filter));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  FileDialog dialog(parent, FileDialog::AcceptSave, QString::fromUtf8(kind.Caption), {},
+                    QString::fromUtf8(kind.Filter));
   dialog.setDefaultSuffix(QLatin1String(kind.Extension));
   const QFileInfo present(offered);
   dialog.setDirectory(present.absolutePath());
   dialog.selectFile(present.completeBaseName() + QLatin1Char('.') + QLatin1String(kind.Extension));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-    return {};
-  }
-  return dialog.selectedFiles().front();
+  return dialog.Ask();
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
@@ -15,6 +14,7 @@
 #include "platform/errors/Guard.h"
 #include "platform/files/Files.h"
 #include "windows/binding/Binding.h"
+#include "windows/binding/FileDialog.h"
 #include "windows/binding/Layouts.h"
 #include "windows/binding/PictureIcon.h"
 #include "windows/editor/FontWindow.h"
@@ -38,26 +38,22 @@ QStringList NameFilters() {
   return filters;
 }
 
-FileChoice RunDialog(const FileChoice& offered, const QString& title,
-                     QFileDialog::AcceptMode mode) {
+FileChoice RunDialog(const FileChoice& offered, const QString& title, FileDialog::AcceptMode mode) {
   const QStringList filters = NameFilters();
-  QFileDialog dialog(QApplication::activeWindow(), title);
-  dialog.setAcceptMode(mode);
+  FileDialog dialog(QApplication::activeWindow(), mode, title, {}, {});
   dialog.setNameFilters(filters);
   dialog.selectNameFilter(filters.value(static_cast<int>(offered.FilterIndex) - 1));
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile
-                                                     : QFileDialog::ExistingFile);
+  dialog.setOption(FileDialog::DontConfirmOverwrite);
   if (!offered.Name.empty()) {
     const QFileInfo present(ToQt(offered.Name));
     dialog.setDirectory(present.absolutePath());
     dialog.selectFile(present.fileName());
   }
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+  const QString name = dialog.Ask();
+  if (name.isEmpty()) {
     return {{}, offered.FilterIndex};
   }
-  return {FileFromQt(dialog.selectedFiles().front()),
-          static_cast<Long>(filters.indexOf(dialog.selectedNameFilter())) + 1};
+  return {FileFromQt(name), static_cast<Long>(filters.indexOf(dialog.selectedNameFilter())) + 1};
 }
 
 }  // namespace
@@ -66,11 +62,11 @@ DocumentDialogs::DocumentDialogs() = default;
 DocumentDialogs::~DocumentDialogs() = default;
 
 FileChoice DocumentDialogs::ShowOpen(const FileChoice& offered) {
-  return RunDialog(offered, QStringLiteral("Открыть документ"), QFileDialog::AcceptOpen);
+  return RunDialog(offered, QStringLiteral("Открыть документ"), FileDialog::AcceptOpen);
 }
 
 FileChoice DocumentDialogs::ShowSave(const FileChoice& offered) {
-  return RunDialog(offered, QStringLiteral("Сохранить документ как"), QFileDialog::AcceptSave);
+  return RunDialog(offered, QStringLiteral("Сохранить документ как"), FileDialog::AcceptSave);
 }
 
 std::optional<Color> DocumentDialogs::ShowColor(Color present) {
@@ -122,18 +118,14 @@ void DocumentDialogs::PreviewDocument(const RichTextBox& document, const std::st
 }
 
 std::string DocumentDialogs::ShowSavePdf(const std::string& offered) {
-  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Экспорт в PDF"), {},
-                     QStringLiteral("Документ PDF (*.pdf)"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  FileDialog dialog(QApplication::activeWindow(), FileDialog::AcceptSave,
+                    QStringLiteral("Экспорт в PDF"), {}, QStringLiteral("Документ PDF (*.pdf)"));
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setOption(FileDialog::DontConfirmOverwrite);
   const QFileInfo present(ToQt(offered));
   dialog.setDirectory(present.absolutePath());
   dialog.selectFile(present.fileName());
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-    return {};
-  }
-  return FileFromQt(dialog.selectedFiles().front());
+  return FileFromQt(dialog.Ask());
 }
 
 std::string DocumentDialogs::PdfWithDrawings(const RichTextBox& document, const std::string& title,
@@ -144,17 +136,15 @@ std::string DocumentDialogs::PdfWithDrawings(const RichTextBox& document, const 
 
 void DocumentDialogs::StorePdf(const RichTextBox& document, const std::string& title,
                                QWidget* parent) {
-  QFileDialog dialog(parent, QStringLiteral("Сохранить в PDF"), {},
-                     QStringLiteral("Документ PDF (*.pdf)"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  FileDialog dialog(parent, FileDialog::AcceptSave, QStringLiteral("Сохранить в PDF"), {},
+                    QStringLiteral("Документ PDF (*.pdf)"));
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
   dialog.selectFile(QFileInfo(ToQt(title)).completeBaseName());
-  if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+  if (const QString name = dialog.Ask(); !name.isEmpty()) {
     // Told here: a failure must not leave through the preview's own event loop.
     DesktopMessages messages;
-    Guard(messages, "StorePdf", [&] {
-      DiskFiles().ReplaceFile(FileFromQt(dialog.selectedFiles().front()), *PdfOf(document, title));
-    });
+    Guard(messages, "StorePdf",
+          [&] { DiskFiles().ReplaceFile(FileFromQt(name), *PdfOf(document, title)); });
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
@@ -17,6 +16,7 @@
 #include "platform/errors/RuntimeError.h"
 #include "platform/system/ProgramNames.h"
 #include "windows/binding/Binding.h"
+#include "windows/binding/FileDialog.h"
 #include "windows/editor/RichDocumentHtml.h"
 #include "windows/help/HelpKey.h"
 #include "windows/help/HelpWindow.h"
@@ -61,20 +61,14 @@ QMessageBox::StandardButton SafeButton(MessageStyle style) {
   return style == MessageStyle::QuestionYesNoCancel ? QMessageBox::Cancel : QMessageBox::Ok;
 }
 
-std::string RunDialog(const FileDialogRequest& request, QFileDialog::AcceptMode mode) {
+std::string RunDialog(const FileDialogRequest& request, FileDialog::AcceptMode mode) {
   // "description (*.ext)|*.ext": Qt takes the description with its pattern in brackets.
   const QString filter = ToQt(request.Filter).section(QLatin1Char('|'), 0, 0);
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.Title), ToQt(request.Folder),
-                     filter);
-  dialog.setAcceptMode(mode);
+  FileDialog dialog(QApplication::activeWindow(), mode, ToQt(request.Title), ToQt(request.Folder),
+                    filter);
   dialog.setDefaultSuffix(ToQt(request.Extension));
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile
-                                                     : QFileDialog::ExistingFile);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-    return {};
-  }
-  return FileFromQt(dialog.selectedFiles().front());
+  dialog.setOption(FileDialog::DontConfirmOverwrite);
+  return FileFromQt(dialog.Ask());
 }
 
 QString SettingName(const std::string& section, const std::string& key) {
@@ -114,11 +108,11 @@ MessageAnswer DesktopMessages::Show(const Message& message) {
 }
 
 std::string DesktopDialogs::AskSaveName(const FileDialogRequest& request) {
-  return RunDialog(request, QFileDialog::AcceptSave);
+  return RunDialog(request, FileDialog::AcceptSave);
 }
 
 std::string DesktopDialogs::AskOpenName(const FileDialogRequest& request) {
-  return RunDialog(request, QFileDialog::AcceptOpen);
+  return RunDialog(request, FileDialog::AcceptOpen);
 }
 
 DesktopClipboard::DesktopClipboard() {
