@@ -7,7 +7,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProcess>
-#include <QSettings>
 #include <algorithm>
 
 #include "editor/document/HtmlWriter.h"
@@ -162,12 +161,12 @@ void DesktopClipboard::SetRichText(const std::string& rtf, const std::string& pl
 
 std::string DesktopSettings::Get(const std::string& section, const std::string& key,
                                  const std::string& fallback) {
-  return FromQt(QSettings().value(SettingName(section, key), ToQt(fallback)).toString());
+  return FromQt(settings_.value(SettingName(section, key), ToQt(fallback)).toString());
 }
 
 void DesktopSettings::Set(const std::string& section, const std::string& key,
                           const std::string& value) {
-  QSettings().setValue(SettingName(section, key), ToQt(value));
+  settings_.setValue(SettingName(section, key), ToQt(value));
 }
 
 void DesktopShell::StartProgram(const std::string& path) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QSettings>
 #include <memory>
 #include <optional>
 
@@ -43,12 +44,17 @@ class DesktopClipboard : public ClipboardService {
   QObject changes_;
 };
 
-/// Settings of the user, in the desktop's own store.
+/// Settings of the user, in the desktop's own store. What is set is stored once the events run, all
+/// in one go: the store waits each time until the disk has it, and a window that closes may set
+/// twenty.
 class DesktopSettings : public SettingsService {
  public:
   std::string Get(const std::string& section, const std::string& key,
                   const std::string& fallback) override;
   void Set(const std::string& section, const std::string& key, const std::string& value) override;
+
+ private:
+  QSettings settings_;
 };
 
 /// Names are the system's, as on the console; programs and help open in windows.

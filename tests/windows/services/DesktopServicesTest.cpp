@@ -262,6 +262,40 @@ TEST(DesktopSettingsTexts, AreKeptBySectionAndKey) {
   EXPECT_EQ(DesktopSettings().Get("Other", "Geometry", ""), "2");
 }
 
+/// Elsewhere they are in the system's registry.
+bool AreInAFile() {
+  return !QSettings().fileName().startsWith(QLatin1Char('\\'));
+}
+
+TEST(DesktopSettingsTexts, AreStoredInOneGoOnceTheEventsRun) {
+  if (!AreInAFile()) {
+    GTEST_SKIP();
+  }
+  const QTemporaryDir folder;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+  DesktopSettings settings;
+  const QString file = QSettings().fileName();
+  settings.Set("Window", "Geometry", "1");
+  settings.Set("Other", "Geometry", "2");
+  // The disk would be waited for each time.
+  EXPECT_FALSE(QFile::exists(file));
+  QApplication::processEvents();
+  const QSettings stored(file, QSettings::IniFormat);
+  EXPECT_EQ(stored.value(QStringLiteral("Window/Geometry")), QStringLiteral("1"));
+  EXPECT_EQ(stored.value(QStringLiteral("Other/Geometry")), QStringLiteral("2"));
+}
+
+TEST(DesktopSettingsTexts, AreStoredWhenTheProgramEnds) {
+  if (!AreInAFile()) {
+    GTEST_SKIP();
+  }
+  const QTemporaryDir folder;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+  const QString file = QSettings().fileName();
+  DesktopSettings().Set("Window", "Geometry", "1");
+  EXPECT_TRUE(QFile::exists(file));
+}
+
 TEST(DesktopPrograms, ThatAreNotThereRaiseFileNotFound) {
   try {
     HelpViewer help;
