@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -59,7 +60,16 @@ TEST_F(NamedPipe, IsRefusedAtOnceWhereNobodyWritesIntoIt) {
 
 TEST_F(NamedPipe, IsReadToTheEndOfItsWriter) {
   const std::string bytes(200000, 'x');
-  std::thread writer([&] { std::ofstream(Pipe(), std::ios::binary) << bytes; });
+  // A reader that was there before the writer has refused the pipe and left it.
+  const auto before = std::signal(SIGPIPE, SIG_IGN);
+  std::thread writer([&] {
+    bool written = false;
+    for (int turn = 0; turn < 5000 && !written; ++turn) {
+      std::ofstream pipe(Pipe(), std::ios::binary);
+      pipe << bytes << std::flush;
+      written = pipe.good();
+    }
+  });
   std::string read;
   // The writer needs a moment to come to its pipe.
   for (int turn = 0; turn < 5000 && read.empty(); ++turn) {
@@ -67,6 +77,7 @@ TEST_F(NamedPipe, IsReadToTheEndOfItsWriter) {
     ErrorOf([&] { read = Read(Pipe()); });
   }
   writer.join();
+  std::signal(SIGPIPE, before);
   EXPECT_EQ(read.size(), bytes.size());
 }
 
