@@ -16,8 +16,7 @@ constexpr int frame = 16;
 }  // namespace
 
 bool IconOnceShown::eventFilter(QObject*, QEvent* event) {
-  if (event->type() == QEvent::Expose && !begun_) {
-    begun_ = true;
+  if (event->type() == QEvent::Expose) {
     qApp->removeEventFilter(this);
     // The window is about to be painted.
     QTimer::singleShot(frame, qApp, [] {

@@ -12,9 +12,6 @@ class IconOnceShown : public QObject {
   using QObject::QObject;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
-
- private:
-  bool begun_ = false;
 };
 
 }  // namespace trelonit
