@@ -159,14 +159,23 @@ void DesktopClipboard::SetRichText(const std::string& rtf, const std::string& pl
   QApplication::clipboard()->setMimeData(content.release());
 }
 
+DesktopSettings::DesktopSettings() {
+  store_.setSingleShot(true);
+  QObject::connect(&store_, &QTimer::timeout, &settings_, &QSettings::sync);
+}
+
 std::string DesktopSettings::Get(const std::string& section, const std::string& key,
                                  const std::string& fallback) {
+  if (!store_.isActive()) {
+    settings_.sync();
+  }
   return FromQt(settings_.value(SettingName(section, key), ToQt(fallback)).toString());
 }
 
 void DesktopSettings::Set(const std::string& section, const std::string& key,
                           const std::string& value) {
   settings_.setValue(SettingName(section, key), ToQt(value));
+  store_.start(0);
 }
 
 void DesktopShell::StartProgram(const std::string& path) {

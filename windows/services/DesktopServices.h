@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QSettings>
+#include <QTimer>
 #include <memory>
 #include <optional>
 
@@ -46,15 +47,17 @@ class DesktopClipboard : public ClipboardService {
 
 /// Settings of the user, in the desktop's own store. What is set is stored once the events run, all
 /// in one go: the store waits each time until the disk has it, and a window that closes may set
-/// twenty.
+/// twenty. What another program has stored is seen as long as nothing waits.
 class DesktopSettings : public SettingsService {
  public:
+  DesktopSettings();
   std::string Get(const std::string& section, const std::string& key,
                   const std::string& fallback) override;
   void Set(const std::string& section, const std::string& key, const std::string& value) override;
 
  private:
   QSettings settings_;
+  QTimer store_;
 };
 
 /// Names are the system's, as on the console; programs and help open in windows.

@@ -285,6 +285,27 @@ TEST(DesktopSettingsTexts, AreStoredInOneGoOnceTheEventsRun) {
   EXPECT_EQ(stored.value(QStringLiteral("Other/Geometry")), QStringLiteral("2"));
 }
 
+TEST(DesktopSettingsTexts, OfAnotherProgramAreSeen) {
+  if (!AreInAFile()) {
+    GTEST_SKIP();
+  }
+  const QTemporaryDir folder;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+  DesktopSettings settings;
+  settings.Set("Window", "Geometry", "1");
+  QApplication::processEvents();
+  EXPECT_EQ(settings.Get("Recent", "1", "none"), "none");
+  QFile file(QSettings().fileName());
+  ASSERT_TRUE(file.open(QIODevice::Append));
+  file.write("\n[Recent]\n1=ferma.tsav\n");
+  file.close();
+  EXPECT_EQ(settings.Get("Recent", "1", "none"), "ferma.tsav");
+  settings.Set("Window", "Geometry", "2");
+  QApplication::processEvents();
+  EXPECT_EQ(settings.Get("Recent", "1", "none"), "ferma.tsav");
+  EXPECT_EQ(settings.Get("Window", "Geometry", ""), "2");
+}
+
 TEST(DesktopSettingsTexts, AreStoredWhenTheProgramEnds) {
   if (!AreInAFile()) {
     GTEST_SKIP();
