@@ -198,7 +198,7 @@ void DrawingWindow::AddLayers() {
 }
 
 void DrawingWindow::AddStatusBar() {
-  const auto panel = [this](const char* name) {
+  const auto panel = [](const char* name) {
     auto* label = new QLabel;
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);

@@ -344,12 +344,24 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+void HelpWindow::StandOver(const QWidget* modal) {
+  winId();
+  QWindow* own = windowHandle();
+  QWindow* below = modal == nullptr ? nullptr : modal->windowHandle();
+  // What was opened while the help was read stands over it. Each over the other would be a circle,
+  // in which the toolkit looks for ever.
+  for (QWindow* window = below; window != nullptr; window = window->transientParent()) {
+    if (window->transientParent() == own) {
+      window->setTransientParent(own->transientParent());
+    }
+  }
+  own->setTransientParent(below);
+}
+
 void HelpWindow::ShowPage(const QString& page) {
   page_->Go(page);
   // A window that waits for its end lets keys only to what belongs to it.
-  winId();
-  QWidget* modal = QApplication::activeModalWidget();
-  windowHandle()->setTransientParent(modal == nullptr ? nullptr : modal->windowHandle());
+  StandOver(QApplication::activeModalWidget());
   if (isMinimized()) {
     showNormal();
   } else {

@@ -43,6 +43,8 @@ class HelpWindow : public QMainWindow {
   QAction* NewAction(const char* name, const char* text, const char* picture,
                      const QList<QKeySequence>& keys);
 
+  /// Over a window that waits for its end; alone where there is none.
+  void StandOver(const QWidget* modal);
   /// What stands beside the page that is shown now.
   void ShowPlace(const QUrl& url);
   void ShowTerms(const QString& beginning);

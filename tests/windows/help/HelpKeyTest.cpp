@@ -214,6 +214,35 @@ TEST(HelpOverAModalWindow, CanBeRead) {
   EXPECT_EQ(viewer.Window()->windowHandle()->transientParent(), nullptr);
 }
 
+TEST(HelpOverAModalWindow, ComesOverAMessageThatStandsOverTheHelp) {
+  HelpViewer viewer;
+  const HelpKey key([&](const QString& place) { viewer.OpenPlace(place); });
+  QDialog dialog;
+  SetHelpPlace(dialog, help_place::Parameters);
+  bool asked = false;
+  const OnceModal<QDialog> user([&](QDialog& below) {
+    QTest::keyClick(&below, Qt::Key_F1);
+    ASSERT_NE(viewer.Window(), nullptr);
+    // Of the window below, while the help is read.
+    QMessageBox message(viewer.Window());
+    SetHelpPlace(message, help_place::Results);
+    const OnceModal<QMessageBox> reader([&](QMessageBox& above) {
+      QTest::keyClick(&above, Qt::Key_F1);
+      asked = true;
+      // Each over the other would be a circle, in which the toolkit looks for ever.
+      EXPECT_EQ(viewer.Window()->windowHandle()->transientParent(), above.windowHandle());
+      EXPECT_EQ(above.windowHandle()->transientParent(), below.windowHandle());
+      const auto& page = Find<QTextBrowser>(*viewer.Window(), "Page");
+      EXPECT_EQ(HelpPages::PageAt(page.source()), "results.html");
+      QTest::keyClick(viewer.Window()->windowHandle(), Qt::Key_Home, Qt::AltModifier);
+      EXPECT_EQ(HelpPages::PageAt(page.source()), "index.html");
+    });
+    message.exec();
+  });
+  dialog.exec();
+  EXPECT_TRUE(asked);
+}
+
 #ifndef _WIN32
 TEST(DesktopHelp, OpensTheProgramsOwnViewer) {
   HelpViewer viewer;
