@@ -39,7 +39,8 @@ class RecordTable::Model : public QAbstractTableModel {
     if (role == Qt::TextAlignmentRole) {
       return static_cast<int>(Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft));
     }
-    if (role != Qt::DisplayRole) {
+    // The toolkit's key for copying asks for a cell even where none is chosen.
+    if (role != Qt::DisplayRole || !index.isValid()) {
       return {};
     }
     const ProfileRec& record = form_.Records[index.row() + 1];

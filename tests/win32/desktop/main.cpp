@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "tests/win32/desktop/TimeLimit.h"
-#include "windows/services/GuardedApplication.h"
+#include "tests/windows/HandlerErrors.h"
 
 int main(int argc, char** argv) {
   // The tests answer dialogues of the toolkit; those of the system they could not.
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-  const trelonit::GuardedApplication application(argc, argv);
+  trelonit::GuardedApplication application(argc, argv);
+  trelonit::test::FailOnHandlerErrors(application);
   QApplication::setOrganizationName(QStringLiteral("Trelonit"));
   QApplication::setApplicationName(QStringLiteral("trelonit-windows-tests"));
   ::testing::InitGoogleTest(&argc, argv);

@@ -136,6 +136,13 @@ TEST(RecordTableAtTheStart, IsEmpty) {
   EXPECT_EQ(screen.Label("lblHealth"), "");
 }
 
+TEST(RecordTableAtTheStart, CopiesNothing) {
+  ManagerScreen screen;
+  QApplication::clipboard()->setText(QStringLiteral("held before"));
+  QTest::keyClick(&Find<QWidget>(screen.Window, "Records"), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "held before");
+}
+
 TEST(RecordTableOfOddNumbers, LeavesACellOfNoNumberEmpty) {
   ProfileRec record = NumberedRecord(1);
   record.A = std::numeric_limits<double>::quiet_NaN();

@@ -19,10 +19,13 @@ class TellingApplication : public ::testing::Test {
   TellingApplication() {
     application.Tell = [this](const RuntimeError& error) { told.push_back(error.Number()); };
   }
-  ~TellingApplication() override { application.Tell = nullptr; }
+  ~TellingApplication() override { application.Tell = before_; }
 
   GuardedApplication& application = dynamic_cast<GuardedApplication&>(*qApp);
   std::vector<int> told;
+
+ private:
+  const std::function<void(const RuntimeError&)> before_ = application.Tell;
 };
 
 TEST_F(TellingApplication, TellsWhatAButtonsHandlerThrowsAndGoesOn) {
