@@ -71,15 +71,16 @@ void OneTabStop::Refresh() {
 }
 
 bool OneTabStop::eventFilter(QObject* watched, QEvent* event) {
-  auto* button = static_cast<QAbstractButton*>(watched);
+  // Not before it is known what happens: a button that is going is none any more.
+  const auto button = [watched] { return static_cast<QAbstractButton*>(watched); };
   switch (event->type()) {
     case QEvent::KeyPress: {
       const auto* press = static_cast<QKeyEvent*>(event);
       const bool plain = (press->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-      return plain && TakeKey(*button, press->key());
+      return plain && TakeKey(*button(), press->key());
     }
     case QEvent::FocusIn:
-      Stop(button);
+      Stop(button());
       break;
     case QEvent::ShowToParent:
     case QEvent::HideToParent:
