@@ -10,6 +10,7 @@
 #include "windows/binding/Binding.h"
 #include "windows/binding/ShownLines.h"
 #include "windows/binding/Units.h"
+#include "windows/editor/FittingScale.h"
 
 namespace trelonit {
 
@@ -144,6 +145,8 @@ void QtRichTextBox::UnlockUpdates() {
     return;
   }
   if (view_) {
+    const Own own(*this);
+    KeepFitting();
     Flush();
     view_->setUpdatesEnabled(true);
   }
@@ -215,6 +218,8 @@ void QtRichTextBox::MirrorAll(const std::function<void()>& edit) {
 void QtRichTextBox::ShowDocument() {
   // A document that is in view while it is filled is laid out as a whole; one that comes complete
   // is laid out as far as it is seen, and the rest when there is time.
+  fitting_ = FittingScale(text_.Document(), zoom_);
+  writer_.SetZoom(fitting_ * zoom_);
   auto document = std::make_unique<QTextDocument>();
   document->setUndoRedoEnabled(false);
   document->setDefaultFont(writer_.FormatOf(text_.SelFormat()).font());
@@ -224,11 +229,24 @@ void QtRichTextBox::ShowDocument() {
   view_->setDocument(document.release());
 }
 
-void QtRichTextBox::SetZoom(double zoom) {
-  if (zoom == writer_.Zoom()) {
+void QtRichTextBox::KeepFitting() {
+  // The estimate leaves room for what is typed, so that not each letter shows all anew.
+  constexpr double room = 0.7;
+  if (FittingScale(text_.Document(), zoom_) >= room * fitting_) {
     return;
   }
-  writer_.SetZoom(zoom);
+  // The group goes unclosed, with its document: closing it would lay that out.
+  groupOpen_ = false;
+  group_ = {};
+  ShowDocument();
+  ShowSelection(false);
+}
+
+void QtRichTextBox::SetZoom(double zoom) {
+  if (zoom == zoom_) {
+    return;
+  }
+  zoom_ = zoom;
   if (!view_) {
     return;
   }
@@ -296,6 +314,7 @@ void QtRichTextBox::MirrorReplacement(const RichPlace& first, const RichPlace& l
   if (locks_ > 0) {
     selectionPutOff_ = true;
   } else {
+    KeepFitting();
     CloseGroup();
     ShowSelection(true);
   }
@@ -329,6 +348,7 @@ void QtRichTextBox::SetSelFormat(const CharFormat& format) {
       cursor.setPosition(QtPosition(SelStart() + SelLength()), QTextCursor::KeepAnchor);
       cursor.setCharFormat(writer_.FormatOf(format));
       if (locks_ == 0) {
+        KeepFitting();
         CloseGroup();
       }
     }

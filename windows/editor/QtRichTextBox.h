@@ -61,9 +61,10 @@ class QtRichTextBox : public RichTextBox {
   void LockUpdates() override;
   void UnlockUpdates() override;
 
-  /// Shows the text this many times as large; the document stays as it is.
+  /// Shows the text this many times as large, as far as it can be laid out (FittingScale.h); the
+  /// document stays as it is.
   void SetZoom(double zoom);
-  double Zoom() const { return writer_.Zoom(); }
+  double Zoom() const { return zoom_; }
   /// The wheel asks for so many steps of zoom.
   std::function<void(int steps)> ZoomAsked;
 
@@ -98,6 +99,8 @@ class QtRichTextBox : public RichTextBox {
   void MirrorReplacement(const RichPlace& first, const RichPlace& last, Long added);
   void MirrorAll(const std::function<void()>& edit);
   void ShowDocument();
+  /// Before what was edited is laid out: shows all of it anew and smaller if it has grown too tall.
+  void KeepFitting();
   RichPlace PlaceOf(Long position) const;
   /// The position as Qt counts: a line end is one.
   int QtPosition(Long position) const;
@@ -115,6 +118,8 @@ class QtRichTextBox : public RichTextBox {
   bool changed_ = false;
   QPointer<RichTextView> view_;
   RichDocumentWriter writer_;
+  double zoom_ = 1;
+  double fitting_ = 1;  ///< the scale by which the text is shown smaller than that
   int locks_ = 0;
   TextSpan toldSelection_;
   // What a question about lines has to bring up to date first.

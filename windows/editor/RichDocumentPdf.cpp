@@ -13,6 +13,7 @@
 
 #include "platform/errors/RuntimeError.h"
 #include "windows/binding/Binding.h"
+#include "windows/editor/FittingScale.h"
 #include "windows/editor/RichDocumentQt.h"
 
 namespace trelonit {
@@ -167,7 +168,9 @@ int PaintDocument(const RichDocument& document, QPagedPaintDevice& device) {
 
 int PaintDocument(const RichDocument& document, QPagedPaintDevice& device, QPainter& painter) {
   QTextDocument text;
-  FillDocument(text, document);
+  RichDocumentWriter writer;
+  writer.SetZoom(FittingScale(document));
+  FillDocument(text, document, writer);
   text.setDefaultFont(FontFor({}));
   LayOut(text, device);
   KeepHeadingsWithTheirText(text);

@@ -230,8 +230,10 @@ const QTextCharFormat& RichDocumentWriter::FormatOf(const CharFormat& format) {
 }
 
 void RichDocumentWriter::SetZoom(double zoom) {
-  zoom_ = zoom;
-  formats_.clear();
+  if (zoom != zoom_) {
+    zoom_ = zoom;
+    formats_.clear();
+  }
 }
 
 void RichDocumentWriter::InsertRuns(QTextCursor& cursor, const RichParagraph& paragraph,

@@ -1,11 +1,13 @@
 #include <QApplication>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <limits>
 
 #include "tests/editor/document/RichTextBoxContract.h"
 #include "tests/windows/Pixels.h"
 #include "tests/windows/dialogs/ShownSelection.h"
 #include "windows/binding/Binding.h"
+#include "windows/editor/FittingScale.h"
 #include "windows/editor/QtRichTextBox.h"
 
 namespace trelonit::test {
@@ -48,6 +50,81 @@ class QtBox : public ::testing::Test {
   int selections_ = 0;
   int changes_ = 0;
 };
+
+/// Of letters that would come to more than the toolkit can lay out: it would never come back.
+RichDocument TallDocument(double size) {
+  RichDocument document;
+  document.Paragraphs.assign(400, {});
+  for (RichParagraph& paragraph : document.Paragraphs) {
+    paragraph.Runs = {{std::u16string(100, u'x'), {.FontSize = size}}};
+  }
+  return document;
+}
+
+double ShownSize(const QTextEdit& widget) {
+  return widget.document()->begin().begin().fragment().charFormat().fontPointSize();
+}
+
+TEST_F(QtBox, ShowsATextTooTallForTheLayoutSmaller) {
+  box_.SetDocument(TallDocument(814));
+  EXPECT_EQ(box_.Document(), TallDocument(814));
+  EXPECT_GT(box_.LineCount(), 400);
+  EXPECT_LT(ShownSize(widget_), 814);
+  EXPECT_GT(ShownSize(widget_), 100);
+  box_.SetDocument(TallDocument(10));
+  EXPECT_EQ(ShownSize(widget_), 10);
+}
+
+TEST_F(QtBox, ShowsATextThatGetsTooTallSmaller) {
+  box_.SetDocument(TallDocument(11));
+  box_.Select(0, box_.TextLength());
+  box_.SetSelFormat({.FontSize = 700});
+  EXPECT_EQ(box_.Document(), TallDocument(700));
+  EXPECT_LT(ShownSize(widget_), 700);
+  EXPECT_EQ(box_.SelLength(), box_.TextLength());
+  EXPECT_EQ(widget_.textCursor().selectionEnd() - widget_.textCursor().selectionStart(),
+            400 * 101 - 1);
+  box_.SetDocument({});
+  box_.LockUpdates();
+  for (int part = 0; part < 20; ++part) {
+    box_.SetSelFormat({.FontSize = 700});
+    box_.SetSelText(std::string(2000, 'x'));
+  }
+  box_.UnlockUpdates();
+  EXPECT_EQ(box_.TextLength(), 40000);
+  EXPECT_EQ(widget_.document()->characterCount(), 40001);
+  EXPECT_LT(ShownSize(widget_), 700);
+  EXPECT_EQ(box_.SelStart(), 40000);
+  EXPECT_EQ(widget_.textCursor().position(), 40000);
+}
+
+TEST_F(QtBox, KeepsItsZoomWhereTheTextIsShownSmaller) {
+  box_.SetDocument(TallDocument(100));
+  EXPECT_EQ(ShownSize(widget_), 100);
+  box_.SetZoom(5);
+  EXPECT_EQ(box_.Zoom(), 5);
+  EXPECT_LT(ShownSize(widget_), 500);
+  box_.SetZoom(1);
+  EXPECT_EQ(ShownSize(widget_), 100);
+}
+
+TEST(FittingScales, LeaveTextsThatAreReadAsTheyAre) {
+  EXPECT_EQ(FittingScale({}), 1);
+  // Some hundred pages, five times as large as told.
+  RichDocument report;
+  report.Paragraphs.assign(8000, {{{std::u16string(60, u'x'), {.FontSize = 9}}}});
+  EXPECT_EQ(FittingScale(report, 5), 1);
+  // One large heading.
+  report.Paragraphs.front().Runs.front().Format.FontSize = 72;
+  EXPECT_EQ(FittingScale(report), 1);
+}
+
+TEST(FittingScales, EndForLettersOfAnySize) {
+  for (const double size : {1e4, 1e9, 1e300, std::numeric_limits<double>::infinity()}) {
+    EXPECT_GT(FittingScale(TallDocument(size)), 0);
+    EXPECT_LT(FittingScale(TallDocument(size)), 1);
+  }
+}
 
 TEST_F(QtBox, TakesTheSelectionThatTheUserMakes) {
   box_.SetText("ab\r\ncd\r\nef");
