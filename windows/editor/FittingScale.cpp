@@ -21,7 +21,7 @@ constexpr double tallestText = 24e6;
 constexpr double tallestTextOfLargeLetters = 8e6;
 constexpr double largeLetters = 190;
 /// From try to try, down to where letters of any size are gone.
-constexpr double step = 0.8;
+constexpr double nextTry = 0.8;
 constexpr double least = 1e-9;
 
 struct TextHeight {
@@ -61,7 +61,7 @@ bool Fits(const TextHeight& text) {
 double FittingScale(const RichDocument& document, double zoom) {
   double scale = 1;
   while (scale > least && !Fits(HeightOf(document, scale * zoom))) {
-    scale *= step;
+    scale *= nextTry;
   }
   return scale;
 }
