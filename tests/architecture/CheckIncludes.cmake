@@ -34,6 +34,8 @@ rule(drawing USES drawing analysis catalogue platform BUT drawing/host drawing/s
 rule(windows QT USES windows ${logic})
 rule(apps QT USES apps windows ${logic})
 rule(examples USES examples apps ${logic})
+# The windows of the whole program.
+rule(fuzz/desk QT USES fuzz/desk apps windows ${logic})
 rule(fuzz USES fuzz tests/support ${logic})
 # What the mutated program is compiled with knows nothing of it.
 rule(scripts USES scripts)
