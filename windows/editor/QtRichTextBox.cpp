@@ -145,7 +145,6 @@ void QtRichTextBox::UnlockUpdates() {
     return;
   }
   if (view_) {
-    const Own own(*this);
     KeepFitting();
     Flush();
     view_->setUpdatesEnabled(true);
@@ -216,10 +215,10 @@ void QtRichTextBox::MirrorAll(const std::function<void()>& edit) {
 }
 
 void QtRichTextBox::ShowDocument() {
-  // A document that is in view while it is filled is laid out as a whole; one that comes complete
-  // is laid out as far as it is seen, and the rest when there is time.
   fitting_ = FittingScale(text_.Document(), zoom_);
   writer_.SetZoom(fitting_ * zoom_);
+  // A document that is in view while it is filled is laid out as a whole; one that comes complete
+  // is laid out as far as it is seen, and the rest when there is time.
   auto document = std::make_unique<QTextDocument>();
   document->setUndoRedoEnabled(false);
   document->setDefaultFont(writer_.FormatOf(text_.SelFormat()).font());
@@ -235,6 +234,7 @@ void QtRichTextBox::KeepFitting() {
   if (FittingScale(text_.Document(), zoom_) >= room * fitting_) {
     return;
   }
+  const Own own(*this);
   // The group goes unclosed, with its document: closing it would lay that out.
   groupOpen_ = false;
   group_ = {};
